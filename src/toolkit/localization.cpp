@@ -7,11 +7,17 @@
 
 namespace {
 constexpr const char* kContext = "Tarvel";
+// A compiled translation cannot hold an empty text (it reads as missing, and the English
+// fallback would show through), so translation files write a lone zero-width space instead.
+constexpr char16_t kEmptyTranslation = u'\u200B';
 }
 
 QString localized(const char* key)
 {
-    return QCoreApplication::translate(kContext, key);
+    QString text = QCoreApplication::translate(kContext, key);
+    if (text.size() == 1 && text.front() == QChar(kEmptyTranslation))
+        text.clear();
+    return text;
 }
 
 void installTranslations(QCoreApplication& app)

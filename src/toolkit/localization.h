@@ -6,6 +6,7 @@
 class QCoreApplication;
 
 // The translation of key in the current language; the key itself when untranslated.
+// A translation of a lone U+200B (zero-width space) stands for the empty text.
 QString localized(const char* key);
 
 // Installs the translation for the system language, with English as the fallback (English

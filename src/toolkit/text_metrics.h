@@ -7,7 +7,8 @@
 namespace TvlClasses {
 
 // Size in points of text drawn in the font named fontName (a PostScript or family name)
-// at fontSize points.
+// at fontSize points. Measured as on a 72-dpi device, where one point is one drawing unit,
+// so text painted with menuFont() on a 72-dpi image takes exactly this room.
 QSizeF calcMenuLabelSize(const QString& text, double fontSize, const QString& fontName);
 
 } // namespace TvlClasses
