@@ -1,0 +1,13 @@
+// The sampled data: one history per module, replaced (never edited) by each cycle.
+#pragma once
+
+#include "collect/cpu_sample.h"
+#include "collect/history.h"
+
+// Copies are cheap (shared histories), so the main thread can keep the last finished set while
+// the next cycle builds a new one.
+struct InfoDict {
+    History<CpuSample> cpu;
+    // The screen-sharing module has no sample; its entry only says that a cycle ran.
+    bool vnc = false;
+};
