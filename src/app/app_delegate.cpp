@@ -1,0 +1,198 @@
+// Launch sequence, sampling cycle driver, dynamic DNS trigger and the regular restart.
+#include "app/app_delegate.h"
+
+#include "app/app_logging.h"
+#include "app/cycle_executor.h"
+#include "app/general_functions_reboot.h"
+#include "app/sampling_cycle.h"
+#include "net/ddns_settings.h"
+#include "prefs/pref_functions.h"
+#include "prefs/pref_keys.h"
+#include "prefs/theme_files.h"
+#include "prefs/theme_repair.h"
+
+#include <QGuiApplication>
+
+namespace {
+
+// Ten minutes a tick; 144 ticks make a day.
+constexpr int kRebootTickMs = 600 * 1000;
+constexpr qint64 kRebootTicksPerDay = 144;
+constexpr quint32 kDdnsCheckEveryCycles = 600;
+
+} // namespace
+
+AppDelegate::AppDelegate(std::unique_ptr<SettingsStore> store, SourceSet sources, QObject* parent)
+    : QObject(parent), userDefaults_(std::move(store)),
+      loadInfo_(std::make_unique<LoadSystemInformation>(std::move(sources))),
+      rebootAction_(&GeneralFunctions::rebootMe), executor_(std::make_unique<ThreadPoolCycleExecutor>(this))
+{
+}
+
+AppDelegate::~AppDelegate()
+{
+    // Wait for a running cycle before the collector and the dictionaries go away.
+    executor_.reset();
+}
+
+void AppDelegate::setCycleExecutor(std::unique_ptr<CycleExecutor> executor)
+{
+    executor_ = std::move(executor);
+}
+
+void AppDelegate::applicationDidFinishLaunching(bool startTimer)
+{
+    SettingsStore& store = *userDefaults_;
+
+    // Shift held at launch makes the machine identification and sensor choice be redone.
+    const auto modifiers = qobject_cast<QGuiApplication*>(QCoreApplication::instance()) != nullptr
+        ? QGuiApplication::queryKeyboardModifiers()
+        : Qt::NoModifier;
+    isDebugMode_ = modifiers != Qt::NoModifier && modifiers.testFlag(Qt::ShiftModifier);
+    if (isDebugMode_) {
+        for (const char* key : {PrefKey::MacRawName, PrefKey::MacRealName, PrefKey::MacImage, PrefKey::RemovedTempKeys})
+            store.removeObjectForKey(key);
+        store.synchronize();
+    }
+    // (The translucent preferences background exists on macOS only.)
+
+    loadSysInfoTimerFinishedBool = false;
+    changeColorPool = false;
+    changeRebootPool = false;
+    swapfilesLimitCheckCounter = 0;
+    openedTabNum = 1;
+    chkNowGlobalIpAddrCount = 1;
+
+    store.setBool(PrefKey::UpdateAlerting, false);
+    store.synchronize();
+    if (store.stringForKey(PrefKey::AppVersion).isEmpty()) {
+        for (ModuleId id : kAllModules)
+            PrefFunctions::initializeModulePreference(id, store);
+    }
+    // The menu-bar order is kept across launches here; only one older desktop resets it.
+    store.setString(PrefKey::AppVersion, QStringLiteral(TARVEL_VERSION));
+    store.synchronize();
+    if (store.boolForKey(PrefKey::DisplayTopWindowAtStartupTmp)) {
+        store.removeObjectForKey(PrefKey::DisplayTopWindowAtStartupTmp);
+        store.setBool(PrefKey::DisplayTopWindowAtStartup, true);
+        store.synchronize();
+    }
+    // (The file manager's path-in-title default is a macOS setting.)
+
+    TvlClasses::checkMyApplicationSupportDir();
+    themeColorDict_ = TvlClasses::checkThemeValues(TvlClasses::checkNowThemeFile());
+    reloadGeneralDefaults(false);
+    for (ModuleId id : kAllModules) {
+        if (id != ModuleId::General)
+            mutableDefaults(id) = PrefFunctions::loadModuleDefaults(id, store, themeColorDict_);
+    }
+
+    loadSysInfoTimer();
+    if (startTimer) {
+        sysInfoTimer_ = new QTimer(this);
+        sysInfoTimer_->setInterval(1000);
+        connect(sysInfoTimer_, &QTimer::timeout, this, &AppDelegate::loadSysInfoTimer);
+        sysInfoTimer_->start();
+    }
+
+    rebootDaysInt = chkGeneInteger(PrefKey::kRebootRegularlyDays);
+    rebootMeSetting();
+}
+
+void AppDelegate::reloadGeneralDefaults(bool skip)
+{
+    if (skip)
+        return;
+    mutableDefaults(ModuleId::General) = PrefFunctions::loadGeneralDefaults(*userDefaults_, themeColorDict_);
+}
+
+bool AppDelegate::menuOpened(ModuleId) const
+{
+    // No status item exists yet whose menu could be open.
+    return false;
+}
+
+void AppDelegate::loadSysInfoTimer()
+{
+    if (loadSysInfoTimerFinishedBool)
+        return;
+    loadSysInfoTimerFinishedBool = true;
+
+    // Menu states and intervals are read here, on the main thread that owns them.
+    CycleInput input;
+    input.general = generalDefaults();
+    input.info = infoDict_;
+    for (std::size_t m = 0; m < kSampledModules.size(); ++m) {
+        const ModuleId id = kSampledModules[m];
+        input.intervals[m] = defaults(id).intValue(moduleKeys(id).intervalKey);
+        input.menuOpened[m] = menuOpened(id);
+    }
+    executor_->runInBackground([this, input = std::move(input)]() mutable {
+        CycleOutput output = SamplingCycle::runBody(*loadInfo_, std::move(input));
+        executor_->postToMain([this, output = std::move(output)]() mutable {
+            redrawStep(std::move(output.general), std::move(output.info));
+        });
+    });
+}
+
+void AppDelegate::redrawStep(ModuleDefaults general, InfoDict info)
+{
+    mutableDefaults(ModuleId::General) = std::move(general);
+    infoDict_ = std::move(info);
+    for (ModuleId id : kSampledModules) {
+        if (SamplingCycle::wasSampled(generalDefaults(), id))
+            redrawModule(id, false);
+    }
+    if (chkGeneBool(PrefKey::LaunchVNC))
+        redrawModule(ModuleId::Vnc, false);
+    loadSysInfoTimerFinishedBool = false;
+    checkDdns(false);
+    Q_EMIT cycleFinished();
+}
+
+void AppDelegate::redrawModule(ModuleId id, bool full)
+{
+    Q_EMIT moduleRedrawRequested(id, full);
+}
+
+void AppDelegate::checkDdns(bool forced)
+{
+    if (!forced) {
+        ++chkNowGlobalIpAddrCount;
+        if (chkNowGlobalIpAddrCount % kDdnsCheckEveryCycles != 0)
+            return;
+    }
+    chkNowGlobalIpAddrCount = 0;
+    if (DdnsSettings::hasDdnsList(*userDefaults_))
+        Q_EMIT ddnsLookupRequested(forced);
+}
+
+void AppDelegate::forcedExecutionDdns()
+{
+    userDefaults_->removeObjectForKey(PrefKey::NowGlobalIpAddr);
+    userDefaults_->synchronize();
+    checkDdns(true);
+}
+
+void AppDelegate::rebootMeSetting()
+{
+    delete rebootTimer_;
+    rebootDaysTimerInt = 0;
+    changeRebootPool = false;
+    if (rebootDaysInt == 0)
+        return;
+    qCInfo(lcApp, "Tarvel 6 will restart after %lld days.", static_cast<long long>(rebootDaysInt));
+    rebootTimer_ = new QTimer(this);
+    rebootTimer_->setInterval(kRebootTickMs);
+    connect(rebootTimer_, &QTimer::timeout, this, &AppDelegate::rebootMe);
+    rebootTimer_->start();
+}
+
+void AppDelegate::rebootMe()
+{
+    ++rebootDaysTimerInt;
+    if (rebootDaysInt != 0 && rebootDaysTimerInt >= rebootDaysInt * kRebootTicksPerDay) {
+        rebootDaysTimerInt = 0;
+        rebootAction_();
+    }
+}

@@ -1,0 +1,95 @@
+// The application controller: owns the settings, the collector, the shared data and the cycle.
+#pragma once
+
+#include "collect/info_dict.h"
+#include "collect/load_system_information.h"
+#include "prefs/module_defaults.h"
+#include "prefs/module_table.h"
+#include "prefs/settings_store.h"
+
+#include <QObject>
+#include <QPointer>
+#include <QTimer>
+#include <QVariantMap>
+
+#include <array>
+#include <functional>
+#include <memory>
+
+class CycleExecutor;
+
+class AppDelegate : public QObject {
+    Q_OBJECT
+public:
+    AppDelegate(std::unique_ptr<SettingsStore> store, SourceSet sources, QObject* parent = nullptr);
+    ~AppDelegate() override;
+
+    // Replaces the thread pool, for tests that drive the cycle by hand. Call before launching.
+    void setCycleExecutor(std::unique_ptr<CycleExecutor> executor);
+
+    // Replaces the restart itself, for tests of the restart schedule.
+    void setRebootAction(std::function<void()> action) { rebootAction_ = std::move(action); }
+
+    // The launch sequence. With startTimer false no repeating timer is made (tests, snapshot
+    // with its own pacing); the first cycle still starts at once.
+    void applicationDidFinishLaunching(bool startTimer = true);
+
+    // One tick: starts a cycle unless one is running; a dropped tick is never queued.
+    void loadSysInfoTimer();
+
+    void reloadGeneralDefaults(bool skip);
+    bool chkGeneBool(const QString& key) const { return generalDefaults().boolValue(key); }
+    qint64 chkGeneInteger(const QString& key) const { return generalDefaults().intValue(key); }
+
+    void checkDdns(bool forced);
+    void forcedExecutionDdns();
+
+    void rebootMeSetting();
+    void rebootMe();
+
+    SettingsStore& userDefaults() { return *userDefaults_; }
+    const ModuleDefaults& defaults(ModuleId id) const { return moduleDefaults_[static_cast<std::size_t>(id)]; }
+    const ModuleDefaults& generalDefaults() const { return defaults(ModuleId::General); }
+    const InfoDict& infoDict() const { return infoDict_; }
+    const QVariantMap& themeColorDict() const { return themeColorDict_; }
+    const LoadSystemInformation& loadInfo() const { return *loadInfo_; }
+    bool isDebugMode() const { return isDebugMode_; }
+    bool cycleRunning() const { return loadSysInfoTimerFinishedBool; }
+    quint32 globalIpCheckCount() const { return chkNowGlobalIpAddrCount; }
+    bool rebootTimerActive() const { return rebootTimer_ != nullptr; }
+    qint64 rebootDaysTimerCount() const { return rebootDaysTimerInt; }
+
+Q_SIGNALS:
+    // A module's redraw was asked for (full: rebuild, else the cycle's light redraw).
+    void moduleRedrawRequested(ModuleId id, bool full);
+    // Every 600th cycle, or forced: the global address is to be looked up for dynamic DNS.
+    void ddnsLookupRequested(bool forced);
+    // The redraw step of a cycle has run.
+    void cycleFinished();
+
+private:
+    ModuleDefaults& mutableDefaults(ModuleId id) { return moduleDefaults_[static_cast<std::size_t>(id)]; }
+    bool menuOpened(ModuleId id) const;
+    void redrawStep(ModuleDefaults general, InfoDict info);
+    void redrawModule(ModuleId id, bool full);
+
+    std::unique_ptr<SettingsStore> userDefaults_;
+    bool isDebugMode_ = false;
+    bool loadSysInfoTimerFinishedBool = false;
+    std::unique_ptr<LoadSystemInformation> loadInfo_;
+    quint32 chkNowGlobalIpAddrCount = 1;
+    QVariantMap themeColorDict_;
+    bool changeColorPool = false;
+    bool changeRebootPool = false;
+    qint64 openedTabNum = 1;
+    qint64 swapfilesLimitCheckCounter = 0;
+    QPointer<QTimer> rebootTimer_;
+    qint64 rebootDaysInt = 0;
+    qint64 rebootDaysTimerInt = 0;
+    std::array<ModuleDefaults, 9> moduleDefaults_;
+    InfoDict infoDict_;
+    QTimer* sysInfoTimer_ = nullptr;
+    std::function<void()> rebootAction_;
+    // Last member: destroyed first, so a running cycle ends before the collector goes away.
+    std::unique_ptr<CycleExecutor> executor_;
+};

@@ -1,0 +1,25 @@
+// The command line: the command, its flags and the options that apply to every command.
+#pragma once
+
+#include <QString>
+#include <QStringList>
+
+#include <optional>
+
+struct AppOptions {
+    enum class Command { Run, Snapshot };
+    Command command = Command::Run;
+    QString root = QStringLiteral("/"); // --root, else TARVEL_ROOT, else "/"
+    QString settingsFile;               // --settings; empty means the per-user file
+    bool json = false;                  // snapshot only
+    int cycles = 2;                     // snapshot only
+};
+
+struct OptionsResult {
+    std::optional<AppOptions> options; // none when the program should exit
+    int exitCode = 0;                  // 2 for bad arguments
+    QString message;                   // usage, help or version text for the user
+};
+
+// Parses arguments (program name first); environmentRoot is TARVEL_ROOT's value, if any.
+OptionsResult parseAppOptions(const QStringList& arguments, const QString& environmentRoot);

@@ -1,0 +1,66 @@
+// Cadence counters and the collection step of the sampling cycle.
+#include "app/sampling_cycle.h"
+
+#include "collect/load_system_information.h"
+
+#include <cstddef>
+
+namespace SamplingCycle {
+
+void loadCounterUp(ModuleDefaults& general, const char* switchKey, const char* counterKey, const char* intervalKey,
+                   const char* loadBoolKey, bool menuOpened)
+{
+    if (!general.boolValue(switchKey))
+        return;
+    const qint64 n = general.intValue(counterKey);
+    const qint64 i = general.intValue(intervalKey);
+    if (n > 0 && n < i) {
+        general.set(counterKey, n + 1);
+        general.set(loadBoolKey, menuOpened);
+    } else {
+        // The regular sample: the first after switching on, then every i-th cycle.
+        general.set(counterKey, qint64{1});
+        general.set(loadBoolKey, true);
+    }
+}
+
+void decideDueModules(ModuleDefaults& general, const std::array<qint64, 7>& intervals,
+                      const std::array<bool, 7>& menuOpened, bool cpuHistoryExists)
+{
+    for (std::size_t m = 0; m < kSampledModules.size(); ++m)
+        general.set(moduleKeys(kSampledModules[m]).intervalKey, intervals[m]);
+    for (ModuleId id : kSampledModules)
+        general.set(moduleKeys(id).loadFlagKey, false);
+    for (std::size_t m = 0; m < kSampledModules.size(); ++m) {
+        const ModuleKeys& keys = moduleKeys(kSampledModules[m]);
+        // The first CPU sample is taken at once, whatever the interval, so the picture fills early.
+        const bool open = menuOpened[m] || (kSampledModules[m] == ModuleId::Cpu && !cpuHistoryExists);
+        loadCounterUp(general, keys.switchKey, keys.counterKey, keys.intervalKey, keys.loadFlagKey, open);
+    }
+}
+
+CycleOutput runBody(LoadSystemInformation& loadInfo, CycleInput input)
+{
+    decideDueModules(input.general, input.intervals, input.menuOpened, input.info.cpu.exists());
+    InfoDict info = loadCycleSysInfo(loadInfo, std::move(input.info), input.general);
+    return {std::move(input.general), std::move(info)};
+}
+
+bool wasSampled(const ModuleDefaults& general, ModuleId id)
+{
+    const ModuleKeys& keys = moduleKeys(id);
+    return keys.loadFlagKey != nullptr && general.boolValue(keys.switchKey) && general.boolValue(keys.loadFlagKey);
+}
+
+} // namespace SamplingCycle
+
+InfoDict loadCycleSysInfo(LoadSystemInformation& loadInfo, InfoDict info, const ModuleDefaults& general)
+{
+    if (general.boolValue(moduleKeys(ModuleId::Cpu).loadFlagKey)) {
+        CpuSample sample = loadInfo.loadCpuData();
+        if (!sample.empty())
+            info.cpu = info.cpu.appended(std::move(sample));
+    }
+    info.vnc = true;
+    return info;
+}

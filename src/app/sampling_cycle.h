@@ -1,0 +1,44 @@
+// The body of one sampling cycle: which modules are due, and collecting their samples.
+#pragma once
+
+#include "collect/info_dict.h"
+#include "prefs/module_defaults.h"
+#include "prefs/module_table.h"
+
+#include <array>
+
+class LoadSystemInformation;
+
+// What the main thread hands the background body: snapshots it may read and change freely.
+struct CycleInput {
+    ModuleDefaults general;                   // carries the cadence counters and load flags
+    std::array<qint64, 7> intervals{};        // per sampled module, in cycle order
+    std::array<bool, 7> menuOpened{};         // per sampled module, in cycle order
+    InfoDict info;
+};
+
+struct CycleOutput {
+    ModuleDefaults general;
+    InfoDict info;
+};
+
+namespace SamplingCycle {
+
+// The per-module cadence decision on the General dictionary.
+void loadCounterUp(ModuleDefaults& general, const char* switchKey, const char* counterKey, const char* intervalKey,
+                   const char* loadBoolKey, bool menuOpened);
+
+// Copies the intervals, clears the load flags and decides which modules are due.
+void decideDueModules(ModuleDefaults& general, const std::array<qint64, 7>& intervals,
+                      const std::array<bool, 7>& menuOpened, bool cpuHistoryExists);
+
+// The whole body: the decision, then the collection.
+CycleOutput runBody(LoadSystemInformation& loadInfo, CycleInput input);
+
+// True when the module's switch and load flag are both on after a cycle.
+bool wasSampled(const ModuleDefaults& general, ModuleId id);
+
+} // namespace SamplingCycle
+
+// Collects the due modules into a new set of histories.
+InfoDict loadCycleSysInfo(LoadSystemInformation& loadInfo, InfoDict info, const ModuleDefaults& general);

@@ -1,0 +1,63 @@
+// Command-line parsing: commands, options, environment root and usage errors.
+#include "app/app_options.h"
+
+#include <QTemporaryDir>
+#include <gtest/gtest.h>
+
+namespace {
+
+OptionsResult parse(QStringList args, const QString& envRoot = {})
+{
+    args.prepend(QStringLiteral("tarvel"));
+    return parseAppOptions(args, envRoot);
+}
+
+} // namespace
+
+TEST(AppOptions, CommandsAndOptions)
+{
+    QTemporaryDir root;
+    const OptionsResult plain = parse({});
+    ASSERT_TRUE(plain.options);
+    EXPECT_EQ(plain.options->command, AppOptions::Command::Run);
+    EXPECT_EQ(plain.options->root, QStringLiteral("/"));
+
+    const OptionsResult snap = parse({"--settings", "/tmp/x.plist", "snapshot", "--json", "--cycles", "3",
+                                      "--root", root.path()});
+    ASSERT_TRUE(snap.options);
+    EXPECT_EQ(snap.options->command, AppOptions::Command::Snapshot);
+    EXPECT_TRUE(snap.options->json);
+    EXPECT_EQ(snap.options->cycles, 3);
+    EXPECT_EQ(snap.options->root, root.path());
+    EXPECT_EQ(snap.options->settingsFile, QStringLiteral("/tmp/x.plist"));
+
+    // The environment root applies unless the option names another.
+    EXPECT_EQ(parse({"snapshot"}, root.path()).options->root, root.path());
+    EXPECT_EQ(parse({"snapshot", "--root", "/"}, root.path()).options->root, QStringLiteral("/"));
+
+    const OptionsResult help = parse({"--help"});
+    EXPECT_FALSE(help.options);
+    EXPECT_EQ(help.exitCode, 0);
+    EXPECT_TRUE(help.message.contains(QStringLiteral("Usage:")));
+}
+
+TEST(AppOptions, BadArgumentsGiveUsageAndStatusTwo)
+{
+    const QList<QStringList> bad = {
+        {"--bogus"},
+        {"frobnicate"},
+        {"snapshot", "extra"},
+        {"snapshot", "--cycles", "0"},
+        {"snapshot", "--cycles", "two"},
+        {"snapshot", "--cycles"},
+        {"--json"},
+        {"snapshot", "--root", "/no/such/folder"},
+        {"--settings", ""},
+    };
+    for (const QStringList& args : bad) {
+        const OptionsResult r = parse(args);
+        EXPECT_FALSE(r.options) << args.join(' ').toStdString();
+        EXPECT_EQ(r.exitCode, 2) << args.join(' ').toStdString();
+        EXPECT_TRUE(r.message.contains(QStringLiteral("Usage:"))) << args.join(' ').toStdString();
+    }
+}

@@ -1,0 +1,40 @@
+// The controller harness shared by the application tests.
+#include "test_app.h"
+
+std::optional<std::vector<ProcessorTicks>> ScriptedCpuSource::readProcessorTicks()
+{
+    if (script_->empty())
+        return std::nullopt;
+    auto ticks = script_->front();
+    script_->pop_front();
+    return ticks;
+}
+
+void ManualExecutor::finishCycle()
+{
+    auto body = std::move(background.front());
+    background.pop_front();
+    body();
+    while (!main.empty()) {
+        auto task = std::move(main.front());
+        main.pop_front();
+        task();
+    }
+}
+
+TestApp::TestApp() : script(std::make_shared<std::deque<std::vector<ProcessorTicks>>>())
+{
+    // Themes go to a folder of the test's own.
+    qputenv("XDG_DATA_HOME", dir.filePath(QStringLiteral("data")).toUtf8());
+}
+
+void TestApp::launch()
+{
+    SourceSet sources;
+    sources.cpu = std::make_unique<ScriptedCpuSource>(script);
+    app = std::make_unique<AppDelegate>(std::make_unique<PlistSettingsStore>(settingsPath()), std::move(sources));
+    auto manual = std::make_unique<ManualExecutor>();
+    executor = manual.get();
+    app->setCycleExecutor(std::move(manual));
+    app->applicationDidFinishLaunching(false);
+}

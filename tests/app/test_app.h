@@ -1,0 +1,54 @@
+// A launched application controller over a scripted CPU source and a hand-run cycle executor.
+#pragma once
+
+#include "app/app_delegate.h"
+#include "app/cycle_executor.h"
+#include "collect/cpu_source.h"
+#include "prefs/plist_settings_store.h"
+
+#include <QTemporaryDir>
+
+#include <deque>
+#include <functional>
+#include <memory>
+#include <vector>
+
+// Serves queued tick readings; an empty queue reads as a failed read.
+class ScriptedCpuSource final : public CpuSource {
+public:
+    explicit ScriptedCpuSource(std::shared_ptr<std::deque<std::vector<ProcessorTicks>>> script)
+        : script_(std::move(script)) {}
+    std::optional<std::vector<ProcessorTicks>> readProcessorTicks() override;
+    std::optional<std::int64_t> bootTime() override { return 1000; }
+    std::optional<double> awakeSeconds() override { return 42.0; }
+    std::optional<LoadAverages> loadAverages() override { return LoadAverages{0.5, 0.25, 0.75}; }
+
+private:
+    std::shared_ptr<std::deque<std::vector<ProcessorTicks>>> script_;
+};
+
+// Keeps the background body and the way back until the test runs them.
+class ManualExecutor final : public CycleExecutor {
+public:
+    void runInBackground(std::function<void()> task) override { background.push_back(std::move(task)); }
+    void postToMain(std::function<void()> task) override { main.push_back(std::move(task)); }
+    // Runs the oldest body and then what it posted back: one whole cycle.
+    void finishCycle();
+
+    std::deque<std::function<void()>> background;
+    std::deque<std::function<void()>> main;
+};
+
+struct TestApp {
+    TestApp();
+    // Creates the controller over the current settings file and launches it without a timer.
+    void launch();
+    void queueTicks(std::vector<ProcessorTicks> ticks) { script->push_back(std::move(ticks)); }
+    PlistSettingsStore& store() { return static_cast<PlistSettingsStore&>(app->userDefaults()); }
+    QString settingsPath() const { return dir.filePath(QStringLiteral("settings.plist")); }
+
+    QTemporaryDir dir;
+    std::shared_ptr<std::deque<std::vector<ProcessorTicks>>> script;
+    ManualExecutor* executor = nullptr;
+    std::unique_ptr<AppDelegate> app;
+};
