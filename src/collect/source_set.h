@@ -1,15 +1,28 @@
 // The platform sources the collector reads from, one per area of facts.
 #pragma once
 
+#include "collect/block_device_source.h"
 #include "collect/cpu_source.h"
+#include "collect/machine_source.h"
+#include "collect/memory_source.h"
+#include "collect/mount_source.h"
+#include "collect/network_source.h"
+#include "collect/process_source.h"
+#include "collect/sensor_source.h"
 
 #include <filesystem>
 #include <memory>
 
-// Helper-owned: add the other area interfaces (memory, network, block devices, mounts,
-// sensors, processes, machine) as members here.
+// A platform fills the areas it can read; an empty member means the area is unknown there.
 struct SourceSet {
     std::unique_ptr<CpuSource> cpu;
+    std::unique_ptr<ProcessSource> processes;
+    std::unique_ptr<MemorySource> memory;
+    std::unique_ptr<NetworkSource> network;
+    std::unique_ptr<BlockDeviceSource> blockDevices;
+    std::unique_ptr<MountSource> mounts;
+    std::unique_ptr<SensorSource> sensors;
+    std::unique_ptr<MachineSource> machine;
 };
 
 // The running platform's sources reading below root ("/" on a live system).

@@ -1,0 +1,12 @@
+// Parser for /proc/diskstats.
+#pragma once
+
+#include "collect/block_device_source.h"
+
+#include <optional>
+#include <string_view>
+#include <vector>
+
+// Rows of 14 fields (before kernel 4.18), 18 (with discards) and 20 (with flushes) all occur;
+// shorter rows are skipped and fields past the 20th are ignored. Empty without any row.
+std::optional<std::vector<DiskStatistics>> parseDiskstats(std::string_view text);

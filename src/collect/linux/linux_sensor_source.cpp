@@ -1,0 +1,92 @@
+// Finds the hwmon inputs once, then reads each from its kept-open file on every sample.
+#include "collect/linux/linux_sensor_source.h"
+
+#include "collect/linux/directory_names.h"
+#include "collect/linux/sysfs_attribute.h"
+#include "collect/linux/text_fields.h"
+
+#include <algorithm>
+
+namespace {
+// "temp3_input" with prefix "temp" gives "temp3"; anything else gives an empty key.
+std::string inputKey(std::string_view file, std::string_view prefix)
+{
+    constexpr std::string_view suffix = "_input";
+    if (!file.starts_with(prefix) || !file.ends_with(suffix))
+        return {};
+    const std::string_view number = file.substr(prefix.size(), file.size() - prefix.size() - suffix.size());
+    if (number.empty() || !std::all_of(number.begin(), number.end(), [](char c) { return c >= '0' && c <= '9'; }))
+        return {};
+    return std::string(file.substr(0, file.size() - suffix.size()));
+}
+
+bool hasInputs(const std::vector<std::string>& names)
+{
+    return std::any_of(names.begin(), names.end(), [](const std::string& name) {
+        return !inputKey(name, "temp").empty() || !inputKey(name, "fan").empty();
+    });
+}
+}
+
+LinuxSensorSource::LinuxSensorSource(const SysRoot& root) : root_(root) {}
+
+std::vector<SensorChip> LinuxSensorSource::readSensors()
+{
+    const std::lock_guard guard(lock_);
+    if (!discovered_)
+        discover();
+    std::vector<SensorChip> result;
+    result.reserve(chips_.size());
+    const auto readInputs = [](std::vector<Input>& inputs, std::vector<SensorReading>& readings) {
+        for (Input& input : inputs) {
+            const auto text = input.file.read();
+            if (!text)
+                continue;
+            if (const auto value = parseNumber<std::int64_t>(trimSpace(*text)))
+                readings.push_back({input.key, input.label, *value});
+        }
+    };
+    for (Chip& chip : chips_) {
+        SensorChip reading{chip.id, chip.name, {}, {}};
+        readInputs(chip.temperatures, reading.temperatures);
+        readInputs(chip.fans, reading.fans);
+        result.push_back(std::move(reading));
+    }
+    return result;
+}
+
+void LinuxSensorSource::discover()
+{
+    discovered_ = true;
+    const std::filesystem::path hwmon = root_.join("sys/class/hwmon");
+    const auto entries = directoryNames(hwmon);
+    if (!entries)
+        return;
+    for (const std::string& id : *entries) {
+        const std::filesystem::path base = hwmon / id;
+        auto names = directoryNames(base);
+        if (!names)
+            continue;
+        // Older drivers keep their attributes on the parent device rather than on the hwmon node.
+        std::filesystem::path dir = base;
+        if (!hasInputs(*names)) {
+            names = directoryNames(base / "device");
+            if (!names || !hasInputs(*names))
+                continue;
+            dir = base / "device";
+        }
+        Chip chip;
+        chip.id = id;
+        chip.name = readAttributeText(base / "name").value_or(readAttributeText(dir / "name").value_or(id));
+        for (const std::string& name : *names) {
+            if (std::string key = inputKey(name, "temp"); !key.empty()) {
+                auto label = readAttributeText(dir / (key + "_label"));
+                chip.temperatures.push_back({std::move(key), std::move(label), ProcFile(dir / name)});
+            } else if (key = inputKey(name, "fan"); !key.empty()) {
+                auto label = readAttributeText(dir / (key + "_label"));
+                chip.fans.push_back({std::move(key), std::move(label), ProcFile(dir / name)});
+            }
+        }
+        chips_.push_back(std::move(chip));
+    }
+}

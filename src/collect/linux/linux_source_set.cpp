@@ -1,0 +1,25 @@
+// The Linux sources, all reading below one root.
+#include "collect/linux/linux_block_device_source.h"
+#include "collect/linux/linux_cpu_source.h"
+#include "collect/linux/linux_machine_source.h"
+#include "collect/linux/linux_memory_source.h"
+#include "collect/linux/linux_mount_source.h"
+#include "collect/linux/linux_network_source.h"
+#include "collect/linux/linux_process_source.h"
+#include "collect/linux/linux_sensor_source.h"
+#include "collect/source_set.h"
+
+SourceSet makeSourceSet(const std::filesystem::path& root)
+{
+    const SysRoot sysRoot(root);
+    SourceSet sources;
+    sources.cpu = std::make_unique<LinuxCpuSource>(sysRoot);
+    sources.processes = std::make_unique<LinuxProcessSource>(sysRoot);
+    sources.memory = std::make_unique<LinuxMemorySource>(sysRoot);
+    sources.network = std::make_unique<LinuxNetworkSource>(sysRoot);
+    sources.blockDevices = std::make_unique<LinuxBlockDeviceSource>(sysRoot);
+    sources.mounts = std::make_unique<LinuxMountSource>(sysRoot);
+    sources.sensors = std::make_unique<LinuxSensorSource>(sysRoot);
+    sources.machine = std::make_unique<LinuxMachineSource>(sysRoot);
+    return sources;
+}

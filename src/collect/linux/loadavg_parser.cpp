@@ -1,0 +1,23 @@
+// Parses "0.02 0.04 0.05 1/497 11947".
+#include "collect/linux/loadavg_parser.h"
+
+#include "collect/linux/text_fields.h"
+
+std::optional<LoadAverageLine> parseLoadAverage(std::string_view text)
+{
+    LoadAverageLine line;
+    const auto one = parseNumber<double>(takeField(text));
+    const auto five = parseNumber<double>(takeField(text));
+    const auto fifteen = parseNumber<double>(takeField(text));
+    if (!one || !five || !fifteen)
+        return std::nullopt;
+    line.averages = {*one, *five, *fifteen};
+
+    const std::string_view entities = trimSpace(takeField(text));
+    const auto slash = entities.find('/');
+    if (slash != std::string_view::npos) {
+        line.runnable = parseNumber<std::uint64_t>(entities.substr(0, slash));
+        line.schedulingEntities = parseNumber<std::uint64_t>(entities.substr(slash + 1));
+    }
+    return line;
+}

@@ -1,0 +1,55 @@
+// Parses one process's stat line; fields are counted after the command name's closing ")".
+#include "collect/linux/process_stat_parser.h"
+
+#include "collect/linux/text_fields.h"
+
+namespace {
+// Positions after the name, starting at the state field (the kernel's field 3).
+constexpr int kUtime = 11;
+constexpr int kStime = 12;
+constexpr int kThreads = 17;
+constexpr int kRss = 21;
+}
+
+std::optional<ProcessRecord> parseProcessStat(std::string_view text)
+{
+    const auto open = text.find('(');
+    const auto close = text.rfind(')');
+    if (open == std::string_view::npos || close == std::string_view::npos || close < open)
+        return std::nullopt;
+
+    ProcessRecord record;
+    const auto pid = parseNumber<std::int64_t>(trimSpace(text.substr(0, open)));
+    if (!pid)
+        return std::nullopt;
+    record.pid = *pid;
+    record.command = std::string(text.substr(open + 1, close - open - 1));
+
+    std::string_view rest = text.substr(close + 1);
+    std::optional<std::uint64_t> utime, stime, rss;
+    std::optional<std::int64_t> threads;
+    for (int index = 0; index <= kRss; ++index) {
+        const std::string_view field = trimSpace(takeField(rest));
+        if (field.empty())
+            return std::nullopt;
+        switch (index) {
+        case kUtime: utime = parseNumber<std::uint64_t>(field); break;
+        case kStime: stime = parseNumber<std::uint64_t>(field); break;
+        case kThreads: threads = parseNumber<std::int64_t>(field); break;
+        case kRss: {
+            // rss is signed in the kernel's accounting; a negative value reads as none resident.
+            const auto pages = parseNumber<std::int64_t>(field);
+            if (pages)
+                rss = *pages < 0 ? 0 : static_cast<std::uint64_t>(*pages);
+            break;
+        }
+        default: break;
+        }
+    }
+    if (!utime || !stime || !threads || !rss)
+        return std::nullopt;
+    record.cpuTicks = *utime + *stime;
+    record.threads = *threads;
+    record.residentPages = *rss;
+    return record;
+}

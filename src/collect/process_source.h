@@ -1,0 +1,29 @@
+// Source of process facts: how many threads and processes run, and a raw per-process scan.
+#pragma once
+
+#include <cstdint>
+#include <optional>
+#include <string>
+#include <vector>
+
+struct ProcessCounts {
+    std::int64_t threads = 0;
+    std::int64_t processes = 0;
+};
+
+// One process as the kernel accounts it; no names are resolved and nothing is sorted.
+struct ProcessRecord {
+    std::int64_t pid = 0;
+    std::string command;           // the short command name the kernel keeps
+    std::uint64_t cpuTicks = 0;    // user plus system time, in clock ticks
+    std::uint64_t residentPages = 0;
+    std::int64_t threads = 0;
+};
+
+class ProcessSource {
+public:
+    virtual ~ProcessSource() = default;
+    virtual std::optional<ProcessCounts> counts() = 0;
+    // Every process that could be read; processes that end during the scan are left out.
+    virtual std::optional<std::vector<ProcessRecord>> scanProcesses() = 0;
+};

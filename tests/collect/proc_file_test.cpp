@@ -1,0 +1,117 @@
+// The kept-open file: fresh contents on every read, reopening, and files larger than its buffer.
+#include "collect/linux/proc_file.h"
+
+#include <QTemporaryDir>
+#include <gtest/gtest.h>
+
+#include <csignal>
+#include <fstream>
+#include <sys/wait.h>
+#include <unistd.h>
+
+namespace {
+std::filesystem::path tempPath(const QTemporaryDir& dir, const char* name)
+{
+    return std::filesystem::path(dir.path().toStdString()) / name;
+}
+
+// Rewrites the file in place, as the kernel's files change under an open descriptor.
+void overwrite(const std::filesystem::path& path, const std::string& text)
+{
+    std::ofstream out(path, std::ios::binary | std::ios::trunc);
+    out << text;
+}
+}
+
+TEST(ProcFile, SeesEachNewContentThroughTheSameDescriptor)
+{
+    QTemporaryDir dir;
+    ASSERT_TRUE(dir.isValid());
+    const auto path = tempPath(dir, "counter");
+    overwrite(path, "first version, rather long\n");
+
+    ProcFile file(path);
+    ASSERT_EQ(file.read(), std::optional<std::string_view>("first version, rather long\n"));
+    const int descriptor = file.descriptor();
+
+    overwrite(path, "second");
+    EXPECT_EQ(file.read(), std::optional<std::string_view>("second"));
+    EXPECT_EQ(file.descriptor(), descriptor);
+}
+
+TEST(ProcFile, ReadsFilesLargerThanItsInitialBuffer)
+{
+    QTemporaryDir dir;
+    ASSERT_TRUE(dir.isValid());
+    const auto path = tempPath(dir, "large");
+    std::string text;
+    for (int line = 0; text.size() < 20000; ++line)
+        text += "intr " + std::to_string(line) + " 0 0 0 0 0 0 0 0\n";
+    overwrite(path, text);
+
+    ProcFile file(path);
+    const auto read = file.read();
+    ASSERT_TRUE(read);
+    EXPECT_EQ(*read, text);
+}
+
+TEST(ProcFile, IsEmptyForMissingFilesAndRecoversWhenTheyAppear)
+{
+    QTemporaryDir dir;
+    ASSERT_TRUE(dir.isValid());
+    const auto path = tempPath(dir, "later");
+
+    ProcFile file(path);
+    EXPECT_FALSE(file.read());
+    EXPECT_EQ(file.descriptor(), -1);
+
+    overwrite(path, "now here");
+    EXPECT_EQ(file.read(), std::optional<std::string_view>("now here"));
+    EXPECT_FALSE(ProcFile::readOnce(tempPath(dir, "never")));
+    EXPECT_EQ(ProcFile::readOnce(path), std::optional<std::string>("now here"));
+}
+
+TEST(ProcFile, ReadsNothingOnceAProcessHasEnded)
+{
+    const pid_t child = ::fork();
+    ASSERT_GE(child, 0);
+    if (child == 0) {
+        ::pause();
+        ::_exit(0);
+    }
+    ProcFile file(std::filesystem::path("/proc") / std::to_string(child) / "stat");
+    const auto alive = file.read();
+    ::kill(child, SIGKILL);
+    ::waitpid(child, nullptr, 0);
+    ASSERT_TRUE(alive);
+    EXPECT_TRUE(alive->starts_with(std::to_string(child) + " ("));
+    EXPECT_FALSE(file.read());
+}
+
+TEST(ProcFile, RecoversWhenAFailingPathBecomesReadable)
+{
+    // Reading a directory fails after a successful open, like a file whose device went away.
+    QTemporaryDir dir;
+    ASSERT_TRUE(dir.isValid());
+    const auto path = tempPath(dir, "swapped");
+    std::filesystem::create_directory(path);
+    ProcFile file(path);
+    EXPECT_FALSE(file.read());
+
+    std::filesystem::remove(path);
+    overwrite(path, "a file again");
+    EXPECT_EQ(file.read(), std::optional<std::string_view>("a file again"));
+}
+
+TEST(ProcFile, KeepsItsDescriptorWhenMoved)
+{
+    QTemporaryDir dir;
+    ASSERT_TRUE(dir.isValid());
+    const auto path = tempPath(dir, "moved");
+    overwrite(path, "x");
+    ProcFile first(path);
+    const int descriptor = first.descriptor();
+    ProcFile second(std::move(first));
+    EXPECT_EQ(second.descriptor(), descriptor);
+    EXPECT_EQ(second.read(), std::optional<std::string_view>("x"));
+}
