@@ -1,0 +1,87 @@
+// The support folder and its theme files: installing the reference themes, saving named copies.
+#include "prefs/theme_files.h"
+
+#include "prefs/plist_io.h"
+#include "prefs/theme_keys.h"
+
+#include <QDir>
+#include <QFile>
+#include <QFileInfo>
+#include <QStandardPaths>
+
+namespace TvlClasses {
+
+QString retApplicationSupportDir()
+{
+    return QStandardPaths::writableLocation(QStandardPaths::GenericDataLocation) + u'/'
+           + QLatin1String(kThemeFolderName);
+}
+
+void checkMyApplicationSupportDir()
+{
+    // mkpath, not mkdir: a fresh Linux account may not have ~/.local/share yet.
+    QDir().mkpath(retApplicationSupportDir());
+}
+
+QString retThemeFilePath(const QString& fileName)
+{
+    return retApplicationSupportDir() + u'/' + fileName;
+}
+
+QString retBundleThemePath(const QString& themeName)
+{
+    return QStringLiteral(":/themes/") + themeName + u'.' + QLatin1String(kThemeExtension);
+}
+
+bool replaceThemeFile(const QString& from, const QString& to)
+{
+    if (!QFileInfo(from).isFile())
+        return false;
+    QFile::remove(to);
+    if (!QFile::copy(from, to))
+        return false;
+    // Copies of embedded resources arrive read-only, and a later atomic save must replace them.
+    QFile::setPermissions(to, QFile::ReadOwner | QFile::WriteOwner | QFile::ReadGroup | QFile::ReadOther);
+    return true;
+}
+
+QVariantMap checkNowThemeFile()
+{
+    checkMyApplicationSupportDir();
+    for (const char* name : {kLightThemeName, kDarkThemeName}) {
+        const QString fileName = QLatin1String(name) + u'.' + QLatin1String(kThemeExtension);
+        replaceThemeFile(retBundleThemePath(QLatin1String(name)), retThemeFilePath(fileName));
+    }
+    const QString nowPath = retThemeFilePath(QLatin1String(kNowThemeFileName));
+    if (!QFileInfo::exists(nowPath)) {
+        const QString light = QLatin1String(kLightThemeName) + u'.' + QLatin1String(kThemeExtension);
+        replaceThemeFile(retThemeFilePath(light), nowPath);
+    }
+    return PlistIo::readDictionary(nowPath).value_or(QVariantMap());
+}
+
+bool saveThemeFile(const QString& path, const QVariantMap& theme)
+{
+    QString name = QFileInfo(path).completeBaseName();
+    if (name.isEmpty())
+        name = QLatin1String(kUntitled);
+    QVariantMap copy = theme;
+    copy.insert(QStringLiteral("_Name"), name);
+    const QStringList pictureKeys = themePictureKeys();
+    for (const QString& key : pictureKeys)
+        retDataFromImageFile(key, copy);
+    return PlistIo::writeDictionaryAtomically(path, copy);
+}
+
+QVariantMap& retDataFromImageFile(const QString& key, QVariantMap& theme)
+{
+    QFile file(retThemeFilePath(key + QStringLiteral(".png")));
+    if (file.size() > 0 && file.open(QIODevice::ReadOnly)) {
+        const QByteArray bytes = file.readAll();
+        if (!bytes.isEmpty())
+            theme.insert(key, bytes);
+    }
+    return theme;
+}
+
+} // namespace TvlClasses
