@@ -6,8 +6,6 @@
 #include "prefs/pref_schema.h"
 #include "prefs/theme_color.h"
 
-#include <QCoreApplication>
-
 #include <cmath>
 
 namespace {
@@ -75,13 +73,8 @@ ModuleDefaults loadModuleDefaults(ModuleId id, SettingsStore& store, const QVari
     addThemeEntries(dict, schema, theme);
     addDerivedKeys(id, dict, store, theme);
 
-    const char* prefName = moduleKeys(id).prefName;
-    if (id == ModuleId::General) {
-        const QString appName = QCoreApplication::applicationName();
-        dict.set(PrefName, appName.isEmpty() ? QStringLiteral("Tarvel") : appName);
-    } else {
-        dict.set(PrefName, QString::fromLatin1(prefName));
-    }
+    // The General tab is named after the application itself.
+    dict.set(PrefName, id == ModuleId::General ? QStringLiteral("Tarvel") : QString::fromLatin1(moduleKeys(id).prefName));
     return dict;
 }
 
