@@ -69,7 +69,7 @@ QByteArray json(const AppDelegate& app)
     QJsonObject root;
     if (moduleOn(app, ModuleId::Cpu) && !app.infoDict().cpu.empty())
         root.insert(QLatin1String(moduleKeys(ModuleId::Cpu).historyKey), cpuSampleJson(app.infoDict().cpu.back()));
-    return QJsonDocument(root).toJson(QJsonDocument::Indented);
+    return QJsonDocument(root).toJson(QJsonDocument::Compact) + '\n';
 }
 
 } // namespace SnapshotReport

@@ -4,6 +4,7 @@
 #include "prefs/pref_keys.h"
 
 #include <QSignalSpy>
+#include <QThread>
 
 #include <algorithm>
 #include <gtest/gtest.h>
@@ -105,6 +106,21 @@ TEST(AppCycle, CpuHistoryStartsOnSecondReadingAndIsReplacedNotEdited)
     EXPECT_EQ(t.app->infoDict().cpu.size(), 2u);
     EXPECT_NE(t.app->infoDict().cpu.identity(), first.identity());
     EXPECT_EQ(first.size(), 1u);
+}
+
+TEST(AppCycle, BodyRunsOffTheMainThreadAndResultsArriveOnIt)
+{
+    TestApp t;
+    t.queueTicks(ticks(100));
+    t.queueTicks(ticks(120));
+    t.launch(/*threaded=*/true);
+    QSignalSpy cycles(t.app.get(), &AppDelegate::cycleFinished);
+    ASSERT_TRUE(cycles.wait(10000));
+    EXPECT_NE(t.cpu->readThread.load(), QThread::currentThreadId());
+    t.app->loadSysInfoTimer();
+    ASSERT_TRUE(cycles.wait(10000));
+    ASSERT_EQ(t.app->infoDict().cpu.size(), 1u);
+    EXPECT_EQ(t.app->infoDict().cpu.back()[0], (CpuRecord{20, 20, 0, 40}));
 }
 
 TEST(AppDdns, FirstUnforcedCheckComesAtTheEndOfThe599thCycle)

@@ -1,8 +1,11 @@
 // The controller harness shared by the application tests.
 #include "test_app.h"
 
+#include <QThread>
+
 std::optional<std::vector<ProcessorTicks>> ScriptedCpuSource::readProcessorTicks()
 {
+    readThread = QThread::currentThreadId();
     if (script_->empty())
         return std::nullopt;
     auto ticks = script_->front();
@@ -28,13 +31,17 @@ TestApp::TestApp() : script(std::make_shared<std::deque<std::vector<ProcessorTic
     qputenv("XDG_DATA_HOME", dir.filePath(QStringLiteral("data")).toUtf8());
 }
 
-void TestApp::launch()
+void TestApp::launch(bool threaded)
 {
     SourceSet sources;
-    sources.cpu = std::make_unique<ScriptedCpuSource>(script);
+    auto source = std::make_unique<ScriptedCpuSource>(script);
+    cpu = source.get();
+    sources.cpu = std::move(source);
     app = std::make_unique<AppDelegate>(std::make_unique<PlistSettingsStore>(settingsPath()), std::move(sources));
-    auto manual = std::make_unique<ManualExecutor>();
-    executor = manual.get();
-    app->setCycleExecutor(std::move(manual));
+    if (!threaded) {
+        auto manual = std::make_unique<ManualExecutor>();
+        executor = manual.get();
+        app->setCycleExecutor(std::move(manual));
+    }
     app->applicationDidFinishLaunching(false);
 }

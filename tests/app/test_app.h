@@ -8,6 +8,7 @@
 
 #include <QTemporaryDir>
 
+#include <atomic>
 #include <deque>
 #include <functional>
 #include <memory>
@@ -19,6 +20,8 @@ public:
     explicit ScriptedCpuSource(std::shared_ptr<std::deque<std::vector<ProcessorTicks>>> script)
         : script_(std::move(script)) {}
     std::optional<std::vector<ProcessorTicks>> readProcessorTicks() override;
+    // The thread of the latest read, to check where the cycle body ran.
+    std::atomic<Qt::HANDLE> readThread{nullptr};
     std::optional<std::int64_t> bootTime() override { return 1000; }
     std::optional<double> awakeSeconds() override { return 42.0; }
     std::optional<LoadAverages> loadAverages() override { return LoadAverages{0.5, 0.25, 0.75}; }
@@ -41,8 +44,9 @@ public:
 
 struct TestApp {
     TestApp();
-    // Creates the controller over the current settings file and launches it without a timer.
-    void launch();
+    // Creates the controller over the current settings file and launches it without a timer;
+    // with threaded, the cycle body runs on the real thread pool.
+    void launch(bool threaded = false);
     void queueTicks(std::vector<ProcessorTicks> ticks) { script->push_back(std::move(ticks)); }
     PlistSettingsStore& store() { return static_cast<PlistSettingsStore&>(app->userDefaults()); }
     QString settingsPath() const { return dir.filePath(QStringLiteral("settings.plist")); }
@@ -50,5 +54,6 @@ struct TestApp {
     QTemporaryDir dir;
     std::shared_ptr<std::deque<std::vector<ProcessorTicks>>> script;
     ManualExecutor* executor = nullptr;
+    ScriptedCpuSource* cpu = nullptr;
     std::unique_ptr<AppDelegate> app;
 };
