@@ -2,6 +2,7 @@
 #include "prefs/settings_store.h"
 
 #include <cmath>
+#include <optional>
 
 namespace {
 
@@ -38,30 +39,9 @@ bool SettingsStore::boolForKey(const QString& key) const
     }
 }
 
-qint64 SettingsStore::integerForKey(const QString& key) const
+// A stored value read as a number: numbers and booleans as they are, strings parsed.
+static std::optional<double> numberOf(const QVariant& value)
 {
-    const QVariant value = objectForKey(key);
-    switch (value.typeId()) {
-    case QMetaType::Bool:
-    case QMetaType::Int:
-    case QMetaType::LongLong:
-    case QMetaType::UInt:
-    case QMetaType::ULongLong:
-        return value.toLongLong();
-    case QMetaType::Double:
-    case QMetaType::QString: {
-        bool ok = false;
-        const double number = value.toString().trimmed().toDouble(&ok);
-        return ok && std::isfinite(number) && std::abs(number) < 9.2e18 ? static_cast<qint64>(number) : 0;
-    }
-    default:
-        return 0;
-    }
-}
-
-double SettingsStore::doubleForKey(const QString& key) const
-{
-    const QVariant value = objectForKey(key);
     switch (value.typeId()) {
     case QMetaType::Bool:
     case QMetaType::Int:
@@ -73,11 +53,26 @@ double SettingsStore::doubleForKey(const QString& key) const
     case QMetaType::QString: {
         bool ok = false;
         const double number = value.toString().trimmed().toDouble(&ok);
-        return ok ? number : 0.0;
+        return ok ? std::optional<double>(number) : std::nullopt;
     }
     default:
-        return 0.0;
+        return std::nullopt;
     }
+}
+
+qint64 SettingsStore::integerForKey(const QString& key) const
+{
+    const QVariant value = objectForKey(key);
+    // Whole numbers as they are: a double would lose the low digits of large ones.
+    if (value.typeId() == QMetaType::LongLong || value.typeId() == QMetaType::Int || value.typeId() == QMetaType::Bool)
+        return value.toLongLong();
+    const double number = numberOf(value).value_or(0.0);
+    return std::isfinite(number) && std::abs(number) < 9.2e18 ? static_cast<qint64>(number) : 0;
+}
+
+double SettingsStore::doubleForKey(const QString& key) const
+{
+    return numberOf(objectForKey(key)).value_or(0.0);
 }
 
 QString SettingsStore::stringForKey(const QString& key) const
