@@ -80,6 +80,8 @@ void AppDelegate::applicationDidFinishLaunching(bool startTimer)
     // (The file manager's path-in-title default is a macOS setting.)
 
     TvlClasses::checkMyApplicationSupportDir();
+    // (Machine identification, the sensor table and the menu-font check belong to the CPU, Temp and
+    // Fan modules' sources and run here once those modules exist.)
     themeColorDict_ = TvlClasses::checkThemeValues(TvlClasses::checkNowThemeFile());
     reloadGeneralDefaults(false);
     for (ModuleId id : kAllModules) {
