@@ -179,6 +179,10 @@ inline constexpr char _FontSizeDiff[] = "_FontSizeDiff";
 inline constexpr char _ForDarkAppearance[] = "_ForDarkAppearance";
 inline constexpr char _AlternativeTheme[] = "_AlternativeTheme";
 inline constexpr char PrefName[] = "PrefName";
+inline constexpr char _Name[] = "_Name";
+inline constexpr char _Author[] = "_Author";
+inline constexpr char _Credit[] = "_Credit";
+inline constexpr char _FileName[] = "_FileName";
 
 // Derived keys of the working dictionaries
 inline constexpr char CpuInnerTextWidth[] = "CpuInnerTextWidth";

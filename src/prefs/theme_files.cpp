@@ -1,5 +1,6 @@
 // The support folder and its theme files: installing the reference themes, saving named copies.
 #include "prefs/theme_files.h"
+#include "prefs/pref_keys.h"
 
 #include "prefs/plist_io.h"
 #include "prefs/theme_keys.h"
@@ -66,7 +67,7 @@ bool saveThemeFile(const QString& path, const QVariantMap& theme)
     if (name.isEmpty())
         name = QLatin1String(kUntitled);
     QVariantMap copy = theme;
-    copy.insert(QStringLiteral("_Name"), name);
+    copy.insert(QLatin1String(PrefKey::_Name), name);
     const QStringList pictureKeys = themePictureKeys();
     for (const QString& key : pictureKeys)
         retDataFromImageFile(key, copy);

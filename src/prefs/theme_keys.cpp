@@ -1,5 +1,6 @@
 // The key set that every colour theme shares.
 #include "prefs/theme_keys.h"
+#include "prefs/pref_keys.h"
 
 namespace TvlClasses {
 namespace {
@@ -41,15 +42,15 @@ QStringList themePictureKeys()
 
 QStringList themeStringKeys()
 {
-    return {QStringLiteral("_Name"),     QStringLiteral("_Author"),
-            QStringLiteral("_Credit"),   QStringLiteral("_AlternativeTheme"),
-            QStringLiteral("_FontName"), QStringLiteral("_FontPostScriptName"),
-            QStringLiteral("_FontStyle")};
+    return {QLatin1String(PrefKey::_Name),     QLatin1String(PrefKey::_Author),
+            QLatin1String(PrefKey::_Credit),   QLatin1String(PrefKey::_AlternativeTheme),
+            QLatin1String(PrefKey::_FontName), QLatin1String(PrefKey::_FontPostScriptName),
+            QLatin1String(PrefKey::_FontStyle)};
 }
 
 QStringList themeNumberKeys()
 {
-    return {QStringLiteral("_FontAdjust"), QStringLiteral("_FontSizeDiff")};
+    return {QLatin1String(PrefKey::_FontAdjust), QLatin1String(PrefKey::_FontSizeDiff)};
 }
 
 } // namespace TvlClasses

@@ -1,5 +1,6 @@
 // The theme menu: the themes of the support folder, their detail text, and selecting one.
 #include "prefs/theme_list.h"
+#include "prefs/pref_keys.h"
 
 #include "prefs/plist_io.h"
 #include "prefs/theme_files.h"
@@ -15,13 +16,13 @@ namespace {
 QVariantMap entryOf(const QString& fileName)
 {
     const QVariantMap theme = PlistIo::readDictionary(retThemeFilePath(fileName)).value_or(QVariantMap());
-    const QString name = theme.value(QStringLiteral("_Name")).toString();
+    const QString name = theme.value(QLatin1String(PrefKey::_Name)).toString();
     return {
-        {QStringLiteral("_FileName"), fileName},
-        {QStringLiteral("_Name"), name.isEmpty() ? QLatin1String(kUntitled) : name},
-        {QStringLiteral("_Author"), theme.value(QStringLiteral("_Author")).toString()},
-        {QStringLiteral("_Credit"), theme.value(QStringLiteral("_Credit")).toString()},
-        {QStringLiteral("_ForDarkAppearance"), theme.value(QStringLiteral("_ForDarkAppearance")).toBool()},
+        {QLatin1String(PrefKey::_FileName), fileName},
+        {QLatin1String(PrefKey::_Name), name.isEmpty() ? QLatin1String(kUntitled) : name},
+        {QLatin1String(PrefKey::_Author), theme.value(QLatin1String(PrefKey::_Author)).toString()},
+        {QLatin1String(PrefKey::_Credit), theme.value(QLatin1String(PrefKey::_Credit)).toString()},
+        {QLatin1String(PrefKey::_ForDarkAppearance), theme.value(QLatin1String(PrefKey::_ForDarkAppearance)).toBool()},
     };
 }
 
@@ -52,12 +53,12 @@ QVariantList retThemeList()
 
 QString retThemeDetailText(const QVariantMap& entry)
 {
-    const char* appearance = entry.value(QStringLiteral("_ForDarkAppearance")).toBool()
+    const char* appearance = entry.value(QLatin1String(PrefKey::_ForDarkAppearance)).toBool()
                                  ? "● for Dark Appearance"
                                  : "○ for Light Appearance";
     return QStringLiteral("%1 by %2\n%3\n%4")
-        .arg(entry.value(QStringLiteral("_Name")).toString(), entry.value(QStringLiteral("_Author")).toString(),
-             entry.value(QStringLiteral("_Credit")).toString(), localized(appearance));
+        .arg(entry.value(QLatin1String(PrefKey::_Name)).toString(), entry.value(QLatin1String(PrefKey::_Author)).toString(),
+             entry.value(QLatin1String(PrefKey::_Credit)).toString(), localized(appearance));
 }
 
 bool selectThemeFile(const QString& fileName)

@@ -1,5 +1,6 @@
 // Repair of the current theme against the reference theme of its appearance.
 #include "prefs/theme_repair.h"
+#include "prefs/pref_keys.h"
 
 #include "prefs/plist_io.h"
 #include "prefs/theme_files.h"
@@ -90,9 +91,9 @@ QVariantMap checkThemeValues(const QVariantMap& theme)
         }
     }
 
-    const ThemeFont font{result.value(QStringLiteral("_FontName")).toString(),
-                         result.value(QStringLiteral("_FontPostScriptName")).toString(),
-                         result.value(QStringLiteral("_FontStyle")).toString()};
+    const ThemeFont font{result.value(QLatin1String(PrefKey::_FontName)).toString(),
+                         result.value(QLatin1String(PrefKey::_FontPostScriptName)).toString(),
+                         result.value(QLatin1String(PrefKey::_FontStyle)).toString()};
     if (isInstalledThemeFont(font)) {
         writeNowTheme(result);
         return result;
@@ -100,9 +101,9 @@ QVariantMap checkThemeValues(const QVariantMap& theme)
     // The fallback alone does not count as a change: the file keeps the font its author chose, so
     // it comes back by itself on a machine that has it.
     const ThemeFont fallback = fallbackThemeFont();
-    result.insert(QStringLiteral("_FontName"), fallback.family);
-    result.insert(QStringLiteral("_FontPostScriptName"), fallback.postScriptName);
-    result.insert(QStringLiteral("_FontStyle"), fallback.style);
+    result.insert(QLatin1String(PrefKey::_FontName), fallback.family);
+    result.insert(QLatin1String(PrefKey::_FontPostScriptName), fallback.postScriptName);
+    result.insert(QLatin1String(PrefKey::_FontStyle), fallback.style);
     if (changed)
         writeNowTheme(result);
     return result;
