@@ -3,6 +3,7 @@
 
 #include "app/app_delegate.h"
 #include "prefs/pref_keys.h"
+#include "toolkit/value_format.h"
 
 #include <QJsonArray>
 #include <QJsonDocument>
@@ -30,7 +31,8 @@ QString cpuShares(const CpuRecord& r)
     const double sum = static_cast<double>(r[CpuUser] + r[CpuSystem] + r[CpuNice] + r[CpuIdle]);
     const double user = sum > 0 ? static_cast<double>(r[CpuUser]) / sum : 0.0;
     const double system = sum > 0 ? static_cast<double>(r[CpuSystem]) / sum : 0.0;
-    return QString::asprintf("user %.f%%  system %.f%%", user * 100, system * 100);
+    return QStringLiteral("user ") + TvlClasses::calcPercent(user) + QStringLiteral("  system ")
+        + TvlClasses::calcPercent(system);
 }
 
 QString cpuText(const AppDelegate& app)

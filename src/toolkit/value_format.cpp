@@ -92,4 +92,9 @@ QString calcBytesPerSec(double rate, bool byteToBit, int digits)
     return number + prefix + suffix;
 }
 
+QString calcPercent(double share)
+{
+    return withUnit(share * 100, 0, QLatin1String("%"));
+}
+
 } // namespace TvlClasses

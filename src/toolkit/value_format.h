@@ -26,4 +26,7 @@ QString calcDiskSize(qint64 bytes);
 // digits <= 0 prints one decimal. Zero, negative or NaN gives "0B/s" or "0.0B/s".
 QString calcBytesPerSec(double rate, bool byteToBit, int digits);
 
+// A share (0 to 1) as whole percent, "%.f%%" as C prints it: exact halves round to even.
+QString calcPercent(double share);
+
 } // namespace TvlClasses

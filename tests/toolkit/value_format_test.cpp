@@ -61,3 +61,11 @@ TEST(CalcBytesPerSec, PrefixesDigitsAndPlaceholders)
     EXPECT_EQ(calcBytesPerSec(-3, true, 0), "0.0bps");
     EXPECT_EQ(calcBytesPerSec(std::numeric_limits<double>::quiet_NaN(), false, 4), "0B/s");
 }
+
+TEST(CalcPercent, WholePercentWithCRounding)
+{
+    EXPECT_EQ(TvlClasses::calcPercent(0.0), QStringLiteral("0%"));
+    EXPECT_EQ(TvlClasses::calcPercent(1.0), QStringLiteral("100%"));
+    EXPECT_EQ(TvlClasses::calcPercent(0.125), QStringLiteral("12%")); // 12.5: ties go to even
+    EXPECT_EQ(TvlClasses::calcPercent(0.126), QStringLiteral("13%"));
+}
