@@ -1,7 +1,7 @@
 // Following the desktop's light or dark appearance with the current theme's alternative.
 #include "prefs/theme_appearance.h"
-#include "prefs/pref_keys.h"
 
+#include "prefs/pref_keys.h"
 #include "prefs/theme_keys.h"
 
 namespace TvlClasses {

@@ -1,5 +1,6 @@
 // The key set that every colour theme shares.
 #include "prefs/theme_keys.h"
+
 #include "prefs/pref_keys.h"
 
 namespace TvlClasses {

@@ -1,7 +1,7 @@
 // The theme menu: the themes of the support folder, their detail text, and selecting one.
 #include "prefs/theme_list.h"
-#include "prefs/pref_keys.h"
 
+#include "prefs/pref_keys.h"
 #include "prefs/plist_io.h"
 #include "prefs/theme_files.h"
 #include "prefs/theme_keys.h"

@@ -1,7 +1,7 @@
 // Repair of the current theme against the reference theme of its appearance.
 #include "prefs/theme_repair.h"
-#include "prefs/pref_keys.h"
 
+#include "prefs/pref_keys.h"
 #include "prefs/plist_io.h"
 #include "prefs/theme_files.h"
 #include "prefs/theme_font.h"
@@ -11,8 +11,6 @@
 
 namespace TvlClasses {
 namespace {
-
-constexpr QLatin1String kDarkKey("_ForDarkAppearance");
 
 bool isNumber(const QVariant& value)
 {
@@ -73,7 +71,7 @@ void writeNowTheme(const QVariantMap& theme)
 
 QVariantMap checkThemeValues(const QVariantMap& theme)
 {
-    const bool dark = theme.value(kDarkKey).toBool();
+    const bool dark = theme.value(QLatin1String(PrefKey::_ForDarkAppearance)).toBool();
     const QVariantMap reference = referenceTheme(dark);
 
     QVariantMap result;
@@ -86,7 +84,7 @@ QVariantMap checkThemeValues(const QVariantMap& theme)
             result.insert(key, QLatin1String(kUntitled));
             changed = true;
         } else {
-            result.insert(key, key == kDarkKey ? QVariant(dark) : it.value());
+            result.insert(key, key == QLatin1String(PrefKey::_ForDarkAppearance) ? QVariant(dark) : it.value());
             changed = true;
         }
     }
