@@ -5,6 +5,7 @@
 #include "app/cycle_executor.h"
 #include "app/general_functions_reboot.h"
 #include "app/sampling_cycle.h"
+#include "modules/module_registry.h"
 #include "net/ddns_settings.h"
 #include "prefs/pref_functions.h"
 #include "prefs/pref_keys.h"
@@ -89,6 +90,8 @@ void AppDelegate::applicationDidFinishLaunching(bool startTimer)
             mutableDefaults(id) = PrefFunctions::loadModuleDefaults(id, store, themeColorDict_);
     }
 
+    checkDrawMenu();
+
     loadSysInfoTimer();
     if (startTimer) {
         sysInfoTimer_ = new QTimer(this);
@@ -108,10 +111,97 @@ void AppDelegate::reloadGeneralDefaults(bool skip)
     mutableDefaults(ModuleId::General) = PrefFunctions::loadGeneralDefaults(*userDefaults_, themeColorDict_);
 }
 
-bool AppDelegate::menuOpened(ModuleId) const
+bool AppDelegate::menuOpened(ModuleId id) const
 {
-    // No status item exists yet whose menu could be open.
-    return false;
+    const MenuModule* module = menuModule(id);
+    return module != nullptr && module->menuOpened();
+}
+
+void AppDelegate::moduleAlloc(ModuleId id)
+{
+    auto& slot = modules_[static_cast<std::size_t>(id)];
+    if (slot || statusBar_ == nullptr)
+        return;
+    slot = createMenuModule(id, this);
+    if (!slot)
+        return;
+    slot->setMyDefaults(defaults(id));
+    slot->initDrawStatusBar(*statusBar_);
+    if (id != ModuleId::General)
+        reDrawModule(id, false);
+}
+
+void AppDelegate::reDrawModule(ModuleId id, bool full)
+{
+    MenuModule* module = menuModule(id);
+    if (id != ModuleId::General && !chkGeneBool(moduleKeys(id).switchKey))
+        return;
+    Q_EMIT moduleRedrawRequested(id, full);
+    if (module == nullptr)
+        return;
+    module->setMyDefaults(defaults(id));
+    module->setHistory(infoDict_);
+    if (full)
+        module->refreshBar();
+    else
+        module->cycleStatusMenu();
+}
+
+void AppDelegate::moduleRelease(ModuleId id)
+{
+    // Only the in-memory switch: the stored setting stays as the user left it.
+    if (id != ModuleId::General)
+        mutableDefaults(ModuleId::General).set(moduleKeys(id).switchKey, false);
+    modules_[static_cast<std::size_t>(id)].reset();
+}
+
+void AppDelegate::allModulesDisable()
+{
+    for (ModuleId id : kAllModules)
+        moduleRelease(id);
+}
+
+void AppDelegate::checkDrawMenu()
+{
+    // No cycle may start while status items are being built.
+    loadSysInfoTimerFinishedBool = true;
+    if (chkGeneBool(PrefKey::DisplayMyMenuIcon))
+        moduleAlloc(ModuleId::General);
+    else
+        moduleRelease(ModuleId::General);
+    // Each new item goes to the left of the others, so walking the order backwards lays the bar
+    // out in the user's order.
+    const QVariantList order = generalDefaults().listValue(PrefKey::TopItemSortArray);
+    for (auto it = order.crbegin(); it != order.crend(); ++it) {
+        const auto id = moduleForSortCode(it->toLongLong());
+        if (!id)
+            continue;
+        if (chkGeneBool(moduleKeys(*id).switchKey))
+            moduleAlloc(*id);
+        else
+            moduleRelease(*id);
+    }
+    loadSysInfoTimerFinishedBool = false;
+}
+
+void AppDelegate::moduleLaunchCheck(bool disableFirst)
+{
+    reloadGeneralDefaults(true);
+    if (disableFirst)
+        allModulesDisable();
+    // After the disable: every release wrote NO into the in-memory switches.
+    mutableDefaults(ModuleId::General) = PrefFunctions::loadGeneralDefaults(*userDefaults_, themeColorDict_);
+    checkDrawMenu();
+}
+
+void AppDelegate::openPreferenceTab(int tabIndex)
+{
+    openedTabNum = tabIndex + 1;
+}
+
+void AppDelegate::quitApplication()
+{
+    QCoreApplication::quit();
 }
 
 void AppDelegate::loadSysInfoTimer()
@@ -143,18 +233,13 @@ void AppDelegate::redrawStep(ModuleDefaults general, InfoDict info)
     infoDict_ = std::move(info);
     for (ModuleId id : kSampledModules) {
         if (SamplingCycle::wasSampled(generalDefaults(), id))
-            redrawModule(id, false);
+            reDrawModule(id, false);
     }
     if (chkGeneBool(PrefKey::LaunchVNC))
-        redrawModule(ModuleId::Vnc, false);
+        reDrawModule(ModuleId::Vnc, false);
     loadSysInfoTimerFinishedBool = false;
     checkDdns(false);
     Q_EMIT cycleFinished();
-}
-
-void AppDelegate::redrawModule(ModuleId id, bool full)
-{
-    Q_EMIT moduleRedrawRequested(id, full);
 }
 
 void AppDelegate::checkDdns(bool forced)

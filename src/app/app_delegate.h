@@ -3,6 +3,7 @@
 
 #include "collect/info_dict.h"
 #include "collect/load_system_information.h"
+#include "modules/menu_module.h"
 #include "prefs/module_defaults.h"
 #include "prefs/module_table.h"
 #include "prefs/settings_store.h"
@@ -18,7 +19,7 @@
 
 class CycleExecutor;
 
-class AppDelegate : public QObject {
+class AppDelegate : public QObject, public MenuModuleDelegate {
     Q_OBJECT
 public:
     AppDelegate(std::unique_ptr<SettingsStore> store, SourceSet sources, QObject* parent = nullptr);
@@ -26,6 +27,10 @@ public:
 
     // Replaces the thread pool, for tests that drive the cycle by hand. Call before launching.
     void setCycleExecutor(std::unique_ptr<CycleExecutor> executor);
+
+    // Where status items go; without one (snapshot) no module is created. Call before launching;
+    // the bar must outlive this controller.
+    void setStatusBar(StatusBar* bar) { statusBar_ = bar; }
 
     // Replaces the restart itself, for tests of the restart schedule.
     void setRebootAction(std::function<void()> action) { rebootAction_ = std::move(action); }
@@ -38,6 +43,19 @@ public:
     void loadSysInfoTimer();
 
     void reloadGeneralDefaults(bool skip);
+
+    // Module operations: create when absent, hand over settings and history and redraw, release.
+    void moduleAlloc(ModuleId id);
+    void reDrawModule(ModuleId id, bool full);
+    void moduleRelease(ModuleId id);
+    void allModulesDisable();
+    // Builds the status items from the settings: General first, then the bar order reversed.
+    void checkDrawMenu();
+    void moduleLaunchCheck(bool disableFirst);
+    MenuModule* menuModule(ModuleId id) const { return modules_[static_cast<std::size_t>(id)].get(); }
+
+    void openPreferenceTab(int tabIndex) override;
+    void quitApplication() override;
     bool chkGeneBool(const QString& key) const { return generalDefaults().boolValue(key); }
     qint64 chkGeneInteger(const QString& key) const { return generalDefaults().intValue(key); }
 
@@ -71,7 +89,6 @@ private:
     ModuleDefaults& mutableDefaults(ModuleId id) { return moduleDefaults_[static_cast<std::size_t>(id)]; }
     bool menuOpened(ModuleId id) const;
     void redrawStep(ModuleDefaults general, InfoDict info);
-    void redrawModule(ModuleId id, bool full);
 
     std::unique_ptr<SettingsStore> userDefaults_;
     bool isDebugMode_ = false;
@@ -87,6 +104,8 @@ private:
     qint64 rebootDaysInt = 0;
     qint64 rebootDaysTimerInt = 0;
     std::array<ModuleDefaults, 9> moduleDefaults_;
+    std::array<std::unique_ptr<MenuModule>, 9> modules_;
+    StatusBar* statusBar_ = nullptr;
     InfoDict infoDict_;
     QTimer* sysInfoTimer_ = nullptr;
     std::function<void()> rebootAction_;

@@ -9,17 +9,24 @@ namespace {
 QString usageText()
 {
     return QStringLiteral(
-        "Usage: tarvel [--root DIR] [--settings FILE] [COMMAND]\n"
+        "Usage: tarvel [--root DIR] [--settings FILE] [--bar | COMMAND]\n"
         "\n"
-        "Without a command, runs the monitor.\n"
+        "Without a command, runs the monitor: in the system tray, in a bar window at the top of\n"
+        "the screen where there is no tray (or with --bar), or as live text lines where there is\n"
+        "no display.\n"
         "\n"
         "Commands:\n"
         "  snapshot [--json] [--cycles N]  sample N cycles (default 2) one second apart and print\n"
         "                                  the newest figures of every module that is switched on\n"
+        "  render --out DIR [--cycles N] [--scale S]\n"
+        "                                  sample N cycles (default 2), then write each module's\n"
+        "                                  picture to DIR/<module>.png at S pixels per point\n"
+        "                                  (default 2), and the CPU menu's graph to CPU-menu.png\n"
         "\n"
         "Options:\n"
         "  --root DIR       read /proc and /sys below DIR instead of / (also TARVEL_ROOT)\n"
         "  --settings FILE  use FILE as the settings store\n"
+        "  --bar            show the bar window instead of tray icons\n"
         "  -h, --help       show this text\n"
         "  -v, --version    show the version\n");
 }
@@ -39,9 +46,12 @@ OptionsResult parseAppOptions(const QStringList& arguments, const QString& envir
     const QCommandLineOption settingsOpt(QStringLiteral("settings"), QString(), QStringLiteral("FILE"));
     const QCommandLineOption jsonOpt(QStringLiteral("json"));
     const QCommandLineOption cyclesOpt(QStringLiteral("cycles"), QString(), QStringLiteral("N"));
+    const QCommandLineOption barOpt(QStringLiteral("bar"));
+    const QCommandLineOption outOpt(QStringLiteral("out"), QString(), QStringLiteral("DIR"));
+    const QCommandLineOption scaleOpt(QStringLiteral("scale"), QString(), QStringLiteral("S"));
     const QCommandLineOption helpOpt(QStringList{QStringLiteral("h"), QStringLiteral("help")});
     const QCommandLineOption versionOpt(QStringList{QStringLiteral("v"), QStringLiteral("version")});
-    parser.addOptions({rootOpt, settingsOpt, jsonOpt, cyclesOpt, helpOpt, versionOpt});
+    parser.addOptions({rootOpt, settingsOpt, jsonOpt, cyclesOpt, barOpt, outOpt, scaleOpt, helpOpt, versionOpt});
     parser.addPositionalArgument(QStringLiteral("command"), QString());
 
     if (!parser.parse(arguments))
@@ -56,15 +66,37 @@ OptionsResult parseAppOptions(const QStringList& arguments, const QString& envir
     if (positional.size() > 1)
         return usageError(QStringLiteral("unexpected argument '%1'").arg(positional.at(1)));
     if (positional.size() == 1) {
-        if (positional.front() != QLatin1String("snapshot"))
+        if (positional.front() == QLatin1String("snapshot"))
+            options.command = AppOptions::Command::Snapshot;
+        else if (positional.front() == QLatin1String("render"))
+            options.command = AppOptions::Command::Render;
+        else
             return usageError(QStringLiteral("unknown command '%1'").arg(positional.front()));
-        options.command = AppOptions::Command::Snapshot;
     }
 
     const bool snapshot = options.command == AppOptions::Command::Snapshot;
-    if (!snapshot && (parser.isSet(jsonOpt) || parser.isSet(cyclesOpt)))
-        return usageError(QStringLiteral("--json and --cycles belong to the snapshot command"));
+    const bool render = options.command == AppOptions::Command::Render;
+    if (!snapshot && parser.isSet(jsonOpt))
+        return usageError(QStringLiteral("--json belongs to the snapshot command"));
+    if (!snapshot && !render && parser.isSet(cyclesOpt))
+        return usageError(QStringLiteral("--cycles belongs to the snapshot and render commands"));
+    if (!render && (parser.isSet(outOpt) || parser.isSet(scaleOpt)))
+        return usageError(QStringLiteral("--out and --scale belong to the render command"));
+    if (parser.isSet(barOpt) && options.command != AppOptions::Command::Run)
+        return usageError(QStringLiteral("--bar is for running the monitor"));
+    options.bar = parser.isSet(barOpt);
     options.json = parser.isSet(jsonOpt);
+    if (render) {
+        options.outDir = parser.value(outOpt);
+        if (options.outDir.isEmpty())
+            return usageError(QStringLiteral("render needs --out DIR"));
+        if (parser.isSet(scaleOpt)) {
+            bool ok = false;
+            options.scale = parser.value(scaleOpt).toDouble(&ok);
+            if (!ok || options.scale < 0.5 || options.scale > 8)
+                return usageError(QStringLiteral("--scale takes a number from 0.5 to 8"));
+        }
+    }
     if (parser.isSet(cyclesOpt)) {
         bool ok = false;
         options.cycles = parser.value(cyclesOpt).toInt(&ok);

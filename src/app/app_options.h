@@ -7,12 +7,15 @@
 #include <optional>
 
 struct AppOptions {
-    enum class Command { Run, Snapshot };
+    enum class Command { Run, Snapshot, Render };
     Command command = Command::Run;
     QString root = QStringLiteral("/"); // --root, else TARVEL_ROOT, else "/"
     QString settingsFile;               // --settings; empty means the per-user file
+    bool bar = false;                   // run: the bar window even where a tray exists
     bool json = false;                  // snapshot only
-    int cycles = 2;                     // snapshot only
+    int cycles = 2;                     // snapshot and render
+    QString outDir;                     // render only
+    double scale = 2.0;                 // render only
 };
 
 struct OptionsResult {

@@ -2,8 +2,8 @@
 #include "app/snapshot_report.h"
 
 #include "app/app_delegate.h"
+#include "modules/cpu/cpu_usage_text.h"
 #include "prefs/pref_keys.h"
-#include "toolkit/value_format.h"
 
 #include <QJsonArray>
 #include <QJsonDocument>
@@ -25,16 +25,6 @@ QJsonArray cpuSampleJson(const CpuSample& sample)
     return records;
 }
 
-// The user and system shares of one record, as the menu-bar text writes them.
-QString cpuShares(const CpuRecord& r)
-{
-    const double sum = static_cast<double>(r[CpuUser] + r[CpuSystem] + r[CpuNice] + r[CpuIdle]);
-    const double user = sum > 0 ? static_cast<double>(r[CpuUser]) / sum : 0.0;
-    const double system = sum > 0 ? static_cast<double>(r[CpuSystem]) / sum : 0.0;
-    return QStringLiteral("user ") + TvlClasses::calcPercent(user) + QStringLiteral("  system ")
-        + TvlClasses::calcPercent(system);
-}
-
 QString cpuText(const AppDelegate& app)
 {
     QString out = QStringLiteral("CPU\n");
@@ -43,9 +33,9 @@ QString cpuText(const AppDelegate& app)
         out += QStringLiteral("  no sample yet\n");
     } else {
         const CpuSample& newest = history.back();
-        out += QStringLiteral("  all    ") + cpuShares(newest.back()) + QLatin1Char('\n');
+        out += QStringLiteral("  all    ") + cpuUsageText(newest.back()) + QLatin1Char('\n');
         for (std::size_t i = 0; i + 1 < newest.size(); ++i)
-            out += QStringLiteral("  cpu%1 ").arg(i, -3) + cpuShares(newest[i]) + QLatin1Char('\n');
+            out += QStringLiteral("  cpu%1 ").arg(i, -3) + cpuUsageText(newest[i]) + QLatin1Char('\n');
     }
     const QStringList options = app.loadInfo().cpuGetOptionData();
     static const char* const labels[] = {"up", "awake", "tasks", "load", "host"};

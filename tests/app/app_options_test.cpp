@@ -35,6 +35,14 @@ TEST(AppOptions, CommandsAndOptions)
     EXPECT_EQ(parse({"snapshot"}, root.path()).options->root, root.path());
     EXPECT_EQ(parse({"snapshot", "--root", "/"}, root.path()).options->root, QStringLiteral("/"));
 
+    const OptionsResult render = parse({"render", "--out", "/tmp/pics", "--cycles", "1", "--scale", "1.5"});
+    ASSERT_TRUE(render.options);
+    EXPECT_EQ(render.options->command, AppOptions::Command::Render);
+    EXPECT_EQ(render.options->outDir, QStringLiteral("/tmp/pics"));
+    EXPECT_EQ(render.options->scale, 1.5);
+    EXPECT_EQ(render.options->cycles, 1);
+    EXPECT_TRUE(parse({"--bar"}).options->bar);
+
     const OptionsResult help = parse({"--help"});
     EXPECT_FALSE(help.options);
     EXPECT_EQ(help.exitCode, 0);
@@ -53,6 +61,11 @@ TEST(AppOptions, BadArgumentsGiveUsageAndStatusTwo)
         {"--json"},
         {"snapshot", "--root", "/no/such/folder"},
         {"--settings", ""},
+        {"render"},
+        {"render", "--out", "/tmp/pics", "--scale", "0"},
+        {"render", "--out", "/tmp/pics", "--json"},
+        {"snapshot", "--out", "/tmp/pics"},
+        {"snapshot", "--bar"},
     };
     for (const QStringList& args : bad) {
         const OptionsResult r = parse(args);

@@ -1,0 +1,38 @@
+// The General item shows the application's picture; its menu holds the application's commands.
+#include "modules/general/general_menu_module.h"
+
+#include "prefs/pref_keys.h"
+#include "toolkit/localization.h"
+
+#include <QMenu>
+
+General_MenuModule::General_MenuModule(MenuModuleDelegate* delegate, QObject* parent)
+    : MenuModule(delegate, 0, parent)
+{
+    setObjectName(QStringLiteral("General"));
+}
+
+void General_MenuModule::drawBaseStatusBar()
+{
+    statusMenu->clear();
+    QAction* quit = statusMenu->addAction(localized("Quit"));
+    connect(quit, &QAction::triggered, this, &General_MenuModule::quitMySelf);
+}
+
+void General_MenuModule::refreshBar()
+{
+    if (!statusItem)
+        return;
+    const ThemePicture picture = myDefaults.picture(QString::fromLatin1("N01"));
+    QImage image = picture.image;
+    if (!image.isNull() && picture.size.width() > 0)
+        image.setDevicePixelRatio(image.width() / picture.size.width());
+    statusItem->setImage(image, menuOpened());
+    statusItem->setText(myDefaults.stringValue(PrefKey::PrefName));
+}
+
+void General_MenuModule::quitMySelf()
+{
+    if (myDelegate)
+        myDelegate->quitApplication();
+}

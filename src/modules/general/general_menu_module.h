@@ -1,0 +1,18 @@
+// The application's own status item: its picture and the application-wide commands.
+#pragma once
+
+#include "modules/menu_module.h"
+
+class General_MenuModule final : public MenuModule {
+    Q_OBJECT
+public:
+    explicit General_MenuModule(MenuModuleDelegate* delegate, QObject* parent = nullptr);
+
+    void refreshBar() override;
+
+protected:
+    void drawBaseStatusBar() override;
+
+private:
+    void quitMySelf();
+};

@@ -1,0 +1,66 @@
+// The shared status-item life cycle: creation, menu opening and closing, per-tick redraws.
+#include "modules/menu_module.h"
+
+#include <QGuiApplication>
+#include <QMenu>
+
+MenuModule::MenuModule(MenuModuleDelegate* delegate, int preferenceTab, QObject* parent)
+    : QObject(parent), myDelegate(delegate), preferenceTab_(preferenceTab)
+{
+}
+
+MenuModule::~MenuModule()
+{
+    // The item goes first, so no front end is left pointing at the menu.
+    statusItem.reset();
+    delete statusMenu;
+}
+
+void MenuModule::initDrawStatusBar(StatusBar& bar)
+{
+    // Parentless: a menu is a top-level window; the module deletes it.
+    statusMenu = new QMenu();
+    connect(statusMenu, &QMenu::aboutToShow, this, &MenuModule::menuWillOpen);
+    connect(statusMenu, &QMenu::aboutToHide, this, &MenuModule::menuDidClose);
+    statusItem = bar.createItem(objectName());
+    statusItem->setMenu(statusMenu);
+    drawBaseStatusBar();
+}
+
+void MenuModule::cycleStatusMenu()
+{
+    refreshBar();
+    if (menuOpened_)
+        redrawStatusItem();
+}
+
+void MenuModule::menuWillOpen()
+{
+    if (menuItemRefresh) {
+        menuItemRefresh = false;
+        drawBaseStatusBar();
+    }
+    menuOpened_ = true;
+    refreshBar();
+    prepareMenuOpening();
+    redrawStatusItem();
+}
+
+void MenuModule::menuDidClose()
+{
+    menuOpened_ = false;
+    refreshBar();
+}
+
+void MenuModule::openTab()
+{
+    if (myDelegate)
+        myDelegate->openPreferenceTab(preferenceTab_);
+}
+
+qreal MenuModule::pictureScale() const
+{
+    if (pictureScale_ > 0)
+        return pictureScale_;
+    return qGuiApp != nullptr ? qGuiApp->devicePixelRatio() : 1.0;
+}

@@ -1,0 +1,73 @@
+// What every status-item module shares: its settings, its item and menu, and the open state.
+#pragma once
+
+#include "collect/info_dict.h"
+#include "modules/status_bar.h"
+#include "prefs/module_defaults.h"
+
+#include <QMenu>
+#include <QObject>
+#include <QPointer>
+
+#include <memory>
+
+
+// Receives the requests a module's menu makes of the application.
+class MenuModuleDelegate {
+public:
+    virtual ~MenuModuleDelegate() = default;
+    virtual void openPreferenceTab(int tabIndex) = 0;
+    virtual void quitApplication() = 0;
+};
+
+class MenuModule : public QObject {
+    Q_OBJECT
+public:
+    MenuModule(MenuModuleDelegate* delegate, int preferenceTab, QObject* parent = nullptr);
+    ~MenuModule() override;
+
+    void setMyDefaults(const ModuleDefaults& defaults) { myDefaults = defaults; }
+    // Takes this module's history from the sampled data; modules without one ignore it.
+    virtual void setHistory(const InfoDict& info) { Q_UNUSED(info) }
+    // Device pixels per point of the pictures: the screen's ratio unless set (renders choose theirs).
+    void setPictureScale(qreal scale) { pictureScale_ = scale; }
+    const ModuleDefaults& defaults() const { return myDefaults; }
+
+    // Creates the menu and the status item, then builds the menu's items.
+    void initDrawStatusBar(StatusBar& bar);
+    // Every sampling tick: the picture, and the menu's contents while it is open.
+    void cycleStatusMenu();
+    // Recomputes and redraws the picture.
+    virtual void refreshBar() = 0;
+
+    bool menuOpened() const { return menuOpened_; }
+    void setMenuItemRefresh(bool refresh) { menuItemRefresh = refresh; }
+    QMenu* menu() const { return statusMenu; }
+    StatusItem* item() const { return statusItem.get(); }
+
+    // Drives the open state as the menu would; the front ends' menus call these through signals.
+    void menuWillOpen();
+    void menuDidClose();
+
+protected:
+    // (Re)builds the menu's items.
+    virtual void drawBaseStatusBar() = 0;
+    // Redraws what the open menu shows.
+    virtual void redrawStatusItem() {}
+    // Extra work when the menu opens, before its contents are redrawn.
+    virtual void prepareMenuOpening() {}
+
+    void openTab();
+    qreal pictureScale() const;
+
+    MenuModuleDelegate* myDelegate;
+    ModuleDefaults myDefaults;
+    QPointer<QMenu> statusMenu;
+    std::unique_ptr<StatusItem> statusItem;
+    bool menuItemRefresh = false;
+
+private:
+    int preferenceTab_;
+    bool menuOpened_ = false;
+    qreal pictureScale_ = 0; // 0: the screen's
+};

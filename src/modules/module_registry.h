@@ -1,0 +1,10 @@
+// The one list of status-item modules that exist, by module.
+#pragma once
+
+#include "modules/menu_module.h"
+#include "prefs/module_table.h"
+
+#include <memory>
+
+// A new module of that kind; none for a module that has no status item on this system yet.
+std::unique_ptr<MenuModule> createMenuModule(ModuleId id, MenuModuleDelegate* delegate);
