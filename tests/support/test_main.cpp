@@ -1,14 +1,14 @@
-// Test entry point: an offscreen GUI application (fonts, images) with the translations installed.
+// Test entry point: an offscreen application (fonts, images, widgets) with the translations installed.
 #include "toolkit/localization.h"
 
-#include <QGuiApplication>
+#include <QApplication>
 #include <gtest/gtest.h>
 
 int main(int argc, char** argv)
 {
     qputenv("QT_QPA_PLATFORM", "offscreen");
     ::testing::InitGoogleTest(&argc, argv);
-    QGuiApplication app(argc, argv);
+    QApplication app(argc, argv);
     installTranslations(app);
     return RUN_ALL_TESTS();
 }
