@@ -1,0 +1,50 @@
+// One status item shown as a system tray icon.
+#include "app/front_ends/tray_status_item.h"
+
+#include "app/front_ends/tray_icon_image.h"
+
+#include <QCursor>
+#include <QIcon>
+#include <QMenu>
+#include <QPixmap>
+#include <QSystemTrayIcon>
+
+TrayStatusItem::TrayStatusItem(const QString& moduleKey, QObject* owner)
+    : icon_(new QSystemTrayIcon(owner))
+{
+    icon_->setObjectName(moduleKey);
+    // A menu bar opens its menu on the first click; most trays only do so on the context click.
+    QObject::connect(icon_, &QSystemTrayIcon::activated, icon_, [this](QSystemTrayIcon::ActivationReason reason) {
+        if (reason == QSystemTrayIcon::Trigger && menu_)
+            menu_->popup(QCursor::pos());
+    });
+}
+
+TrayStatusItem::~TrayStatusItem()
+{
+    delete icon_.data();
+}
+
+void TrayStatusItem::setImage(const QImage& image, bool /*templated*/)
+{
+    if (!icon_ || image.isNull())
+        return;
+    // Trays have no notion of a tinted template picture; its plain form reads well enough.
+    icon_->setIcon(QIcon(QPixmap::fromImage(squareTrayImage(image))));
+    // Shown only once there is a picture, so no empty slot flashes up at start.
+    if (!icon_->isVisible())
+        icon_->show();
+}
+
+void TrayStatusItem::setText(const QString& text)
+{
+    if (icon_)
+        icon_->setToolTip(text);
+}
+
+void TrayStatusItem::setMenu(QMenu* menu)
+{
+    menu_ = menu;
+    if (icon_)
+        icon_->setContextMenu(menu);
+}

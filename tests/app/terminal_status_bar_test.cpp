@@ -1,0 +1,64 @@
+// Tests the terminal front end's lines: bar order, appended stamped blocks, in-place redraws.
+#include "app/front_ends/terminal_status_bar.h"
+
+#include <QBuffer>
+#include <QRegularExpression>
+#include <gtest/gtest.h>
+
+namespace {
+
+class TerminalTest : public ::testing::Test {
+protected:
+    QStringList writtenLines() const { return QString::fromUtf8(buffer.data()).split(u'\n', Qt::SkipEmptyParts); }
+
+    QBuffer buffer;
+};
+
+} // namespace
+
+TEST_F(TerminalTest, AppendsOneStampedLinePerModuleInBarOrderOnEachChange)
+{
+    buffer.open(QIODevice::WriteOnly);
+    TerminalStatusBar bar(&buffer, false);
+    auto general = bar.createItem(QStringLiteral("General"));
+    auto cpu = bar.createItem(QStringLiteral("CPU"));
+    general->setText(QStringLiteral("Tarvel"));
+    cpu->setText(QStringLiteral("12%\n3%"));
+    bar.flush();
+
+    QStringList lines = writtenLines();
+    ASSERT_EQ(lines.size(), 3);
+    EXPECT_TRUE(lines[0].startsWith(QStringLiteral("No display found")));
+    const QRegularExpression stamp(QStringLiteral("^\\d\\d:\\d\\d:\\d\\d "));
+    EXPECT_TRUE(stamp.match(lines[1]).hasMatch()) << lines[1].toStdString();
+    EXPECT_EQ(lines[1].mid(9), QStringLiteral("CPU      12% 3%"));
+    EXPECT_EQ(lines[2].mid(9), QStringLiteral("General  Tarvel"));
+
+    // Nothing changed, nothing written; a change appends the block, without the notice.
+    cpu->setText(QStringLiteral("12%\n3%"));
+    bar.flush();
+    EXPECT_EQ(writtenLines().size(), 3);
+    cpu.reset();
+    bar.flush();
+    lines = writtenLines();
+    ASSERT_EQ(lines.size(), 4);
+    EXPECT_EQ(lines[3].mid(9), QStringLiteral("General  Tarvel"));
+}
+
+TEST_F(TerminalTest, RedrawsInPlaceOverTheLinesDrawnBefore)
+{
+    buffer.open(QIODevice::WriteOnly);
+    TerminalStatusBar bar(&buffer, true);
+    auto general = bar.createItem(QStringLiteral("General"));
+    auto cpu = bar.createItem(QStringLiteral("CPU"));
+    bar.flush();
+    EXPECT_FALSE(buffer.data().contains("\x1b[2A"));
+
+    const qsizetype firstDraw = buffer.data().size();
+    cpu->setText(QStringLiteral("50%"));
+    bar.flush();
+    const QByteArray redraw = buffer.data().mid(firstDraw);
+    EXPECT_TRUE(redraw.startsWith("\x1b[2A")) << redraw.toStdString();
+    EXPECT_TRUE(redraw.contains("CPU      50%\n"));
+    EXPECT_FALSE(redraw.contains("No display found"));
+}
