@@ -1,0 +1,16 @@
+// Sizing the CPU status item: its width, and the sample it shows before the first measurement.
+#pragma once
+
+#include "collect/cpu_sample.h"
+#include "prefs/module_defaults.h"
+
+#include <cstddef>
+
+// The picture's width in points for coreCount cores at the bar's height: every shown element
+// once (averaged) or once per core, each followed by the spacing, plus 12 for the label; then
+// the last spacing becomes a 4-point end margin. 0 when no element is shown.
+double cpuBarWidth(const ModuleDefaults& myDefaults, std::size_t coreCount, double height);
+
+// A sample of processors cores and the machine, every count 0: the picture then shows its
+// elements empty and its texts at 0% until the first measurement arrives.
+CpuSample zeroCpuSample(std::size_t processors);
