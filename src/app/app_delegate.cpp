@@ -126,6 +126,7 @@ void AppDelegate::moduleAlloc(ModuleId id)
     if (!slot)
         return;
     slot->setMyDefaults(defaults(id));
+    slot->setPictureScale(pictureScale_);
     slot->initDrawStatusBar(*statusBar_);
     if (id != ModuleId::General)
         reDrawModule(id, false);

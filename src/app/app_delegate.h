@@ -31,6 +31,8 @@ public:
     // Where status items go; without one (snapshot) no module is created. Call before launching;
     // the bar must outlive this controller.
     void setStatusBar(StatusBar* bar) { statusBar_ = bar; }
+    // Device pixels per point of the modules' pictures; 0 follows the screen.
+    void setPictureScale(qreal scale) { pictureScale_ = scale; }
 
     // Replaces the restart itself, for tests of the restart schedule.
     void setRebootAction(std::function<void()> action) { rebootAction_ = std::move(action); }
@@ -106,6 +108,7 @@ private:
     std::array<ModuleDefaults, 9> moduleDefaults_;
     std::array<std::unique_ptr<MenuModule>, 9> modules_;
     StatusBar* statusBar_ = nullptr;
+    qreal pictureScale_ = 0;
     InfoDict infoDict_;
     QTimer* sysInfoTimer_ = nullptr;
     std::function<void()> rebootAction_;

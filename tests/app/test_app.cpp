@@ -33,11 +33,22 @@ TestApp::TestApp() : script(std::make_shared<std::deque<std::vector<ProcessorTic
 
 void TestApp::launch(bool threaded)
 {
+    launchOn(nullptr, threaded);
+}
+
+void TestApp::launchWithBar(StatusBar& bar)
+{
+    launchOn(&bar, false);
+}
+
+void TestApp::launchOn(StatusBar* bar, bool threaded)
+{
     SourceSet sources;
     auto source = std::make_unique<ScriptedCpuSource>(script);
     cpu = source.get();
     sources.cpu = std::move(source);
     app = std::make_unique<AppDelegate>(std::make_unique<PlistSettingsStore>(settingsPath()), std::move(sources));
+    app->setStatusBar(bar);
     if (!threaded) {
         auto manual = std::make_unique<ManualExecutor>();
         executor = manual.get();

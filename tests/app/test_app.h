@@ -5,6 +5,7 @@
 #include "app/cycle_executor.h"
 #include "collect/cpu_source.h"
 #include "prefs/plist_settings_store.h"
+#include "prefs/pref_functions.h"
 
 #include <QTemporaryDir>
 
@@ -47,7 +48,10 @@ struct TestApp {
     // Creates the controller over the current settings file and launches it without a timer;
     // with threaded, the cycle body runs on the real thread pool.
     void launch(bool threaded = false);
+    // Launches with status items going to the given bar.
+    void launchWithBar(StatusBar& bar);
     void queueTicks(std::vector<ProcessorTicks> ticks) { script->push_back(std::move(ticks)); }
+    void launchOn(StatusBar* bar, bool threaded);
     PlistSettingsStore& store() { return static_cast<PlistSettingsStore&>(app->userDefaults()); }
     QString settingsPath() const { return dir.filePath(QStringLiteral("settings.plist")); }
 

@@ -1,0 +1,15 @@
+// The program's commands, each run with its own application object.
+#pragma once
+
+#include "app/app_options.h"
+
+#include <memory>
+
+class PlistSettingsStore;
+
+// The settings store the options name, telling on standard error when it had to be set aside.
+std::unique_ptr<PlistSettingsStore> openSettingsStore(const AppOptions& options);
+
+int runMonitor(const AppOptions& options, int argc, char** argv);
+int runSnapshot(const AppOptions& options, int argc, char** argv);
+int runRender(const AppOptions& options, int argc, char** argv);

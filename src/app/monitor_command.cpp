@@ -1,0 +1,44 @@
+// tarvel: the monitor itself, in the tray, in a bar window, or as live text without a display.
+#include "app/app_delegate.h"
+#include "app/commands.h"
+#include "app/front_ends/bar_window_status_bar.h"
+#include "app/front_ends/front_end_choice.h"
+#include "app/front_ends/quit_on_signal.h"
+#include "app/front_ends/terminal_status_bar.h"
+#include "app/front_ends/tray_status_bar.h"
+#include "collect/source_set.h"
+#include "prefs/plist_settings_store.h"
+#include "toolkit/localization.h"
+
+#include <QApplication>
+
+int runMonitor(const AppOptions& options, int argc, char** argv)
+{
+    const bool display = hasDisplay();
+    // Without a display the menus and pictures still exist, drawn offscreen; only texts are shown.
+    if (!display)
+        qputenv("QT_QPA_PLATFORM", "offscreen");
+    QApplication app(argc, argv);
+    QCoreApplication::setApplicationName(QStringLiteral("Tarvel"));
+    QApplication::setQuitOnLastWindowClosed(false);
+    installTranslations(app);
+    QuitOnSignal quitOnSignal;
+
+    std::unique_ptr<StatusBar> bar;
+    switch (chooseFrontEnd(options.bar, display, display && TrayStatusBar::isAvailable())) {
+    case FrontEndKind::Tray:
+        bar = std::make_unique<TrayStatusBar>();
+        break;
+    case FrontEndKind::BarWindow:
+        bar = std::make_unique<BarWindowStatusBar>();
+        break;
+    case FrontEndKind::Terminal:
+        bar = std::make_unique<TerminalStatusBar>();
+        break;
+    }
+
+    AppDelegate delegate(openSettingsStore(options), makeSourceSet(options.root.toStdString()));
+    delegate.setStatusBar(bar.get());
+    delegate.applicationDidFinishLaunching();
+    return QApplication::exec();
+}

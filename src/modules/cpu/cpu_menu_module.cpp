@@ -1,0 +1,114 @@
+// The CPU status item: width rule, picture, in-menu graph and standard items.
+#include "modules/cpu/cpu_menu_module.h"
+
+#include "modules/cpu/cpu_bar_width.h"
+#include "modules/cpu/cpu_usage_text.h"
+#include "modules/standard_menu_items.h"
+#include "prefs/pref_keys.h"
+#include "toolkit/menu_geometry.h"
+
+#include <QLabel>
+#include <QMenu>
+#include <QThread>
+#include <QWidgetAction>
+
+using namespace PrefKey;
+
+namespace {
+
+qint64 shownElementCount(const ModuleDefaults& d)
+{
+    qint64 count = 0;
+    for (const char* key : {Cpu_Display_Graph, Cpu_Display_LevelBar, Cpu_Display_CircleMeter, Cpu_Display_Text})
+        count += d.boolValue(key) ? 1 : 0;
+    return count;
+}
+
+} // namespace
+
+CPU_MenuModule::CPU_MenuModule(MenuModuleDelegate* delegate, QObject* parent) : MenuModule(delegate, 1, parent)
+{
+    setObjectName(QStringLiteral("CPU"));
+    // The menu always shows one averaged graph, 400 points wide, in the user's colours.
+    mnDefaults.set(Cpu_Display_Graph, true);
+    mnDefaults.set(Cpu_Display_LevelBar, false);
+    mnDefaults.set(Cpu_Display_CircleMeter, false);
+    mnDefaults.set(Cpu_Display_Text, false);
+    mnDefaults.set(Cpu_GraphWidth, qint64{400});
+    mnDefaults.set(Cpu_AverageMultiProcessors, true);
+    mnDefaults.set(Cpu_Text_DisplayAverage, false);
+    mnDefaults.set(Cpu_ShowMyLabel, false);
+}
+
+void CPU_MenuModule::setHistory(const InfoDict& info)
+{
+    if (info.cpu.exists())
+        setResumeArray(info.cpu);
+}
+
+void CPU_MenuModule::drawBaseStatusBar()
+{
+    statusMenu->clear();
+    GeneralFunctions::addStandardMenuItems(statusMenu, myDefaults, myDefaults.boolValue(CPU_EnaMenu_Amon),
+                                           myDefaults.boolValue(CPU_EnaMenu_Cnsl),
+                                           myDefaults.boolValue(CPU_EnaMenu_Tmnl), [this] { openTab(); });
+    statusMenu->addSeparator();
+    auto* graphAction = new QWidgetAction(statusMenu);
+    menuGraph_ = new QLabel();
+    menuGraph_->setFixedSize(static_cast<int>(mnDefaults.intValue(Cpu_GraphWidth)), static_cast<int>(kMenuGraphHeight));
+    graphAction->setDefaultWidget(menuGraph_);
+    statusMenu->addAction(graphAction);
+    redrawStatusItem();
+}
+
+void CPU_MenuModule::refreshBar()
+{
+    if (myDefaults.isEmpty() || myDefaults.intList(CpuItemSortArray).isEmpty() || !statusItem)
+        return;
+    if (resumeArray.empty() || resumeArray.back().empty()) {
+        // Before the first sample the picture still shows its elements, at 0%.
+        const int processors = QThread::idealThreadCount();
+        if (processors < 1)
+            return;
+        resumeArray = History<CpuSample>().appended(zeroCpuSample(static_cast<std::size_t>(processors)));
+    }
+    const std::size_t cores = resumeArray.back().size() - 1;
+    const double height = TvlClasses::retRootMenuHeight();
+    const double width = cpuBarWidth(myDefaults, cores, height);
+    imageCpuBar.redrawWithSize(QSizeF(width, height), TvlClasses::retStatusMenuInsets(shownElementCount(myDefaults)),
+                               menuOpened(), true, myDefaults, resumeArray);
+    barImage_ = imageCpuBar.image(pictureScale());
+    statusItem->setImage(barImage_, menuOpened());
+    statusItem->setText(QStringLiteral("CPU  ") + cpuUsageText(resumeArray.back().back()));
+}
+
+void CPU_MenuModule::prepareMenuOpening()
+{
+    mnDefaultsTmp = withMenuLayout();
+}
+
+ModuleDefaults CPU_MenuModule::withMenuLayout() const
+{
+    ModuleDefaults defaults = myDefaults;
+    for (auto it = mnDefaults.values().cbegin(); it != mnDefaults.values().cend(); ++it)
+        defaults.set(it.key(), it.value());
+    return defaults;
+}
+
+QImage CPU_MenuModule::drawMenuGraph(const ModuleDefaults& defaults)
+{
+    imageCpuMenu.redrawWithSize(QSizeF(static_cast<double>(mnDefaults.intValue(Cpu_GraphWidth)), kMenuGraphHeight),
+                                TvlClasses::retMenuPullDownInsets(), false, true, defaults, resumeArray);
+    return imageCpuMenu.image(pictureScale());
+}
+
+QImage CPU_MenuModule::menuGraphImage()
+{
+    return drawMenuGraph(withMenuLayout());
+}
+
+void CPU_MenuModule::redrawStatusItem()
+{
+    if (menuGraph_ != nullptr)
+        menuGraph_->setPixmap(QPixmap::fromImage(drawMenuGraph(mnDefaultsTmp)));
+}

@@ -1,0 +1,43 @@
+// The CPU status item: its picture in the bar, and its menu with the averaged graph.
+#pragma once
+
+#include "collect/cpu_sample.h"
+#include "collect/history.h"
+#include "modules/cpu/image_cpu_bar.h"
+#include "modules/menu_module.h"
+
+class QLabel;
+
+class CPU_MenuModule final : public MenuModule {
+    Q_OBJECT
+public:
+    explicit CPU_MenuModule(MenuModuleDelegate* delegate, QObject* parent = nullptr);
+
+    void setHistory(const InfoDict& info) override;
+    void setResumeArray(const History<CpuSample>& history) { resumeArray = history; }
+    void refreshBar() override;
+
+    // The picture last given to the status item, and the graph the open menu shows.
+    const QImage& barImage() const { return barImage_; }
+    QImage menuGraphImage();
+
+protected:
+    void drawBaseStatusBar() override;
+    void redrawStatusItem() override;
+    void prepareMenuOpening() override;
+
+private:
+    static constexpr double kMenuGraphHeight = 20;
+
+    // The user's settings with the menu graph's fixed layout laid over them.
+    ModuleDefaults withMenuLayout() const;
+    QImage drawMenuGraph(const ModuleDefaults& defaults);
+
+    ModuleDefaults mnDefaults;
+    ModuleDefaults mnDefaultsTmp;
+    ImageCpuBar imageCpuBar;
+    ImageCpuBar imageCpuMenu;
+    QLabel* menuGraph_ = nullptr; // owned by the menu through its widget action
+    History<CpuSample> resumeArray;
+    QImage barImage_;
+};

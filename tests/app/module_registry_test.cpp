@@ -1,0 +1,119 @@
+// Building the status items from the settings: order, switches, odd order lists, menu cadence.
+#include "test_app.h"
+
+#include "prefs/pref_keys.h"
+
+#include <QApplication>
+#include <gtest/gtest.h>
+
+namespace {
+
+using namespace PrefKey;
+
+// Records which module items exist, in the order a left-inserting bar would show them.
+class RecordingStatusBar final : public StatusBar {
+public:
+    class Item final : public StatusItem {
+    public:
+        Item(RecordingStatusBar& bar, QString key) : bar_(bar), key_(std::move(key)) { bar_.shown.prepend(key_); }
+        ~Item() override { bar_.shown.removeOne(key_); }
+        void setImage(const QImage& image, bool templated) override
+        {
+            bar_.images[key_] = image;
+            bar_.templated[key_] = templated;
+        }
+        void setText(const QString& text) override { bar_.texts[key_] = text; }
+        void setMenu(QMenu* menu) override { bar_.menus[key_] = menu; }
+
+    private:
+        RecordingStatusBar& bar_;
+        QString key_;
+    };
+
+    std::unique_ptr<StatusItem> createItem(const QString& moduleKey) override
+    {
+        ++created;
+        return std::make_unique<Item>(*this, moduleKey);
+    }
+
+    QStringList shown;
+    QHash<QString, QImage> images;
+    QHash<QString, bool> templated;
+    QHash<QString, QString> texts;
+    QHash<QString, QMenu*> menus;
+    int created = 0;
+};
+
+void writeOrder(TestApp& t, const QVariantList& order, bool cpuOn = true)
+{
+    PlistSettingsStore store(t.settingsPath());
+    for (ModuleId id : kAllModules)
+        PrefFunctions::initializeModulePreference(id, store);
+    store.setString(AppVersion, QStringLiteral("6.0.0"));
+    store.setArray(TopItemSortArray, order);
+    store.setBool(Cpu_Display_Graph, cpuOn);
+    store.setBool(Cpu_Display_Text, cpuOn);
+    store.synchronize();
+}
+
+} // namespace
+
+TEST(ModuleRegistry, GeneralFirstThenTheBarOrderAndOddListsAreTolerated)
+{
+    RecordingStatusBar bar;
+    TestApp t;
+    writeOrder(t, {99, 1, 1, -3, 8});
+    t.launchWithBar(bar);
+    // Unknown codes skipped; the duplicated CPU code allocates once.
+    EXPECT_EQ(bar.shown, (QStringList{"CPU", "General"}));
+    EXPECT_EQ(bar.created, 2);
+    EXPECT_FALSE(bar.images.value("CPU").isNull());
+    EXPECT_TRUE(bar.texts.value("CPU").startsWith(QStringLiteral("CPU")));
+
+    // A module missing from the order is neither created nor released.
+    RecordingStatusBar bar2;
+    TestApp t2;
+    writeOrder(t2, {2, 3});
+    t2.launchWithBar(bar2);
+    EXPECT_EQ(bar2.shown, (QStringList{"General"}));
+    EXPECT_TRUE(t2.app->chkGeneBool(LaunchCpus));
+}
+
+TEST(ModuleRegistry, ReleaseClearsOnlyTheInMemorySwitchAndRelaunchRestoresIt)
+{
+    RecordingStatusBar bar;
+    TestApp t;
+    writeOrder(t, {1});
+    t.launchWithBar(bar);
+    t.app->moduleRelease(ModuleId::Cpu);
+    EXPECT_EQ(bar.shown, (QStringList{"General"}));
+    EXPECT_FALSE(t.app->chkGeneBool(LaunchCpus));
+    EXPECT_TRUE(t.store().boolForKey(Cpu_Display_Graph));
+
+    t.app->moduleLaunchCheck(true);
+    EXPECT_EQ(bar.shown, (QStringList{"CPU", "General"}));
+}
+
+TEST(ModuleRegistry, AnOpenMenuSamplesEveryCycleAndTemplatesThePicture)
+{
+    RecordingStatusBar bar;
+    TestApp t;
+    writeOrder(t, {1});
+    t.queueTicks({{0, 0, 0, 0}});
+    t.launchWithBar(bar);
+    t.executor->finishCycle();
+    MenuModule* cpu = t.app->menuModule(ModuleId::Cpu);
+    ASSERT_NE(cpu, nullptr);
+
+    cpu->menuWillOpen();
+    EXPECT_TRUE(bar.templated.value("CPU"));
+    // Interval 2, yet with the menu open every cycle reads the processors.
+    for (int cycle = 0; cycle < 3; ++cycle) {
+        t.queueTicks({{std::uint64_t(10 * (cycle + 1)), 0, 0, 0}});
+        t.app->loadSysInfoTimer();
+        t.executor->finishCycle();
+    }
+    EXPECT_EQ(t.app->infoDict().cpu.size(), 3u);
+    cpu->menuDidClose();
+    EXPECT_FALSE(bar.templated.value("CPU"));
+}
