@@ -68,7 +68,8 @@ TEST(ModuleRegistry, GeneralFirstThenTheBarOrderAndOddListsAreTolerated)
     EXPECT_EQ(bar.shown, (QStringList{"CPU", "General"}));
     EXPECT_EQ(bar.created, 2);
     EXPECT_FALSE(bar.images.value("CPU").isNull());
-    EXPECT_TRUE(bar.texts.value("CPU").startsWith(QStringLiteral("CPU")));
+    EXPECT_TRUE(bar.texts.value("CPU").startsWith(QStringLiteral("user ")));
+    EXPECT_FALSE(bar.images.value("General").isNull());
 
     // A module missing from the order is neither created nor released.
     RecordingStatusBar bar2;

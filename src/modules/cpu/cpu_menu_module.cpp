@@ -79,7 +79,7 @@ void CPU_MenuModule::refreshBar()
                                menuOpened(), true, myDefaults, resumeArray);
     barImage_ = imageCpuBar.image(pictureScale());
     statusItem->setImage(barImage_, menuOpened());
-    statusItem->setText(QStringLiteral("CPU  ") + cpuUsageText(resumeArray.back().back()));
+    statusItem->setText(cpuUsageText(resumeArray.back().back()));
 }
 
 void CPU_MenuModule::prepareMenuOpening()

@@ -17,6 +17,8 @@ void General_MenuModule::drawBaseStatusBar()
     statusMenu->clear();
     QAction* quit = statusMenu->addAction(localized("Quit"));
     connect(quit, &QAction::triggered, this, &General_MenuModule::quitMySelf);
+    // The controller never redraws this item on its own, so its picture is set with its menu.
+    refreshBar();
 }
 
 void General_MenuModule::refreshBar()
