@@ -41,8 +41,8 @@ private:
     bool drawEmptyLine = false;
     QSizeF mySize;
     TvlClasses::Insets insets;
-    // Linux panels highlight an open item themselves, so the picture is never redrawn in
-    // white; the flags stay so that a platform without that can switch the look on.
-    bool isYosemiteOver = true;
-    bool drawInWhite = false;
+    // Linux panels highlight an open item themselves, so the picture never turns white when
+    // its menu opens; a platform that leaves highlighting to the picture would flip this.
+    static constexpr bool isYosemiteOver = true;
+    static constexpr bool drawInWhite = !isYosemiteOver;
 };
