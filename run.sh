@@ -3,6 +3,4 @@
 set -euo pipefail
 here=$(cd "$(dirname "${BASH_SOURCE[0]}")" && pwd)
 "$here/tools/setup.sh" "$here/build/release" -DCMAKE_BUILD_TYPE=Release -DTARVEL_BUILD_TESTS=OFF >/dev/null
-# Until the status items arrive, a bare run shows the sampled figures once.
-[ $# -gt 0 ] || set -- snapshot
 exec "$here/build/release/src/app/tarvel" "$@"
