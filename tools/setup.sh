@@ -9,6 +9,7 @@ PACKAGES=(
   libplist-dev libudev-dev libmount-dev libpci-dev
   libgtest-dev libgmock-dev
   fonts-dejavu-core
+  xvfb x11-utils trayer
 )
 
 install_missing() {
