@@ -6,13 +6,21 @@
 
 using namespace PrefKey;
 
+int cpuShownElementCount(const ModuleDefaults& myDefaults)
+{
+    int shown = 0;
+    for (const char* key : {Cpu_Display_Graph, Cpu_Display_LevelBar, Cpu_Display_CircleMeter, Cpu_Display_Text})
+        shown += myDefaults.boolValue(key) ? 1 : 0;
+    return shown;
+}
+
 double cpuBarWidth(const ModuleDefaults& myDefaults, std::size_t coreCount, double height)
 {
     const bool graph = myDefaults.boolValue(Cpu_Display_Graph);
     const bool levelBar = myDefaults.boolValue(Cpu_Display_LevelBar);
     const bool meter = myDefaults.boolValue(Cpu_Display_CircleMeter);
     const bool text = myDefaults.boolValue(Cpu_Display_Text);
-    const int shown = int{graph} + int{levelBar} + int{meter} + int{text};
+    const int shown = cpuShownElementCount(myDefaults);
     if (shown == 0)
         return 0;
 

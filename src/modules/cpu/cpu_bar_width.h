@@ -9,6 +9,9 @@
 // The picture's width in points for coreCount cores at the bar's height: every shown element
 // once (averaged) or once per core, each followed by the spacing, plus 12 for the label; then
 // the last spacing becomes a 4-point end margin. 0 when no element is shown.
+// How many of the four elements (graph, level bar, meter, text) are switched on.
+int cpuShownElementCount(const ModuleDefaults& myDefaults);
+
 double cpuBarWidth(const ModuleDefaults& myDefaults, std::size_t coreCount, double height);
 
 // A sample of processors cores and the machine, every count 0: the picture then shows its

@@ -14,18 +14,6 @@
 
 using namespace PrefKey;
 
-namespace {
-
-qint64 shownElementCount(const ModuleDefaults& d)
-{
-    qint64 count = 0;
-    for (const char* key : {Cpu_Display_Graph, Cpu_Display_LevelBar, Cpu_Display_CircleMeter, Cpu_Display_Text})
-        count += d.boolValue(key) ? 1 : 0;
-    return count;
-}
-
-} // namespace
-
 CPU_MenuModule::CPU_MenuModule(MenuModuleDelegate* delegate, QObject* parent) : MenuModule(delegate, 1, parent)
 {
     setObjectName(QStringLiteral("CPU"));
@@ -75,7 +63,7 @@ void CPU_MenuModule::refreshBar()
     const std::size_t cores = resumeArray.back().size() - 1;
     const double height = TvlClasses::retRootMenuHeight();
     const double width = cpuBarWidth(myDefaults, cores, height);
-    imageCpuBar.redrawWithSize(QSizeF(width, height), TvlClasses::retStatusMenuInsets(shownElementCount(myDefaults)),
+    imageCpuBar.redrawWithSize(QSizeF(width, height), TvlClasses::retStatusMenuInsets(cpuShownElementCount(myDefaults)),
                                menuOpened(), true, myDefaults, resumeArray);
     barImage_ = imageCpuBar.image(pictureScale());
     statusItem->setImage(barImage_, menuOpened());
