@@ -4,6 +4,8 @@
 #include "prefs/pref_keys.h"
 
 #include <QApplication>
+#include <QLabel>
+#include <QWidgetAction>
 #include <gtest/gtest.h>
 
 namespace {
@@ -108,6 +110,15 @@ TEST(ModuleRegistry, AnOpenMenuSamplesEveryCycleAndTemplatesThePicture)
 
     cpu->menuWillOpen();
     EXPECT_TRUE(bar.templated.value("CPU"));
+    // The open menu shows the averaged graph, 400 by 20 points, under the standard items.
+    QLabel* graph = nullptr;
+    for (QAction* action : cpu->menu()->actions()) {
+        if (auto* widgetAction = qobject_cast<QWidgetAction*>(action))
+            graph = qobject_cast<QLabel*>(widgetAction->defaultWidget());
+    }
+    ASSERT_NE(graph, nullptr);
+    EXPECT_EQ(graph->pixmap().deviceIndependentSize(), QSizeF(400, 20));
+    EXPECT_EQ(cpu->menu()->actions().front()->data().toInt(), 100);
     // Interval 2, yet with the menu open every cycle reads the processors.
     for (int cycle = 0; cycle < 3; ++cycle) {
         t.queueTicks({{std::uint64_t(10 * (cycle + 1)), 0, 0, 0}});
