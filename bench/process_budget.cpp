@@ -36,9 +36,11 @@ qint64 memoryKiB(qint64 pid, const QByteArray& field)
     return -1;
 }
 
+// The process's own memory: anonymous pages (heap, stacks, pictures). Library pages count as
+// "private" in the kernel's sense whenever no other process maps them, so they are left out.
 qint64 privateKiB(qint64 pid)
 {
-    return memoryKiB(pid, "Private_Clean") + memoryKiB(pid, "Private_Dirty");
+    return memoryKiB(pid, "Anonymous");
 }
 
 } // namespace
