@@ -2,14 +2,18 @@
 #pragma once
 
 #include "collect/cpu_sample.h"
+#include "collect/gpu_record.h"
 #include "collect/source_set.h"
 
 #include <QString>
 #include <QStringList>
 
+#include <filesystem>
 #include <mutex>
 #include <optional>
 #include <vector>
+
+class SettingsStore;
 
 class LoadSystemInformation {
 public:
@@ -24,6 +28,15 @@ public:
 
     // "H:MM:SS", or with a day count in front once a day has passed.
     static QString buildUpTime(double seconds);
+
+    // Stores "MacRawName" once, then "MacRealName" unless a name is already stored.
+    static void collectMyMacDetail(SettingsStore& store, MachineSource& machine);
+    // The processor's model string without trademark marks; empty when it is not known.
+    static QString cpuGetBrandNameNew(MachineSource& machine);
+    // Architecture and maximum clock, such as "x86_64 04GHz"; empty when either is unknown.
+    static std::optional<QString> cpuGetRareNameNew(MachineSource& machine);
+    // Every display controller on the PCI bus below root; empty when the bus cannot be read.
+    static std::optional<std::vector<GpuRecord>> getGpuNames(const std::filesystem::path& root = "/");
 
     const SourceSet& sources() const { return sources_; }
 

@@ -18,4 +18,8 @@ public:
     virtual std::optional<std::string> deviceTreeModel() = 0;
     virtual std::optional<std::string> processorModelName() = 0;
     virtual std::optional<std::uint64_t> maxFrequencyKHz() = 0;
+    // The kernel's machine name, such as "x86_64" or "aarch64".
+    virtual std::optional<std::string> architecture() { return std::nullopt; }
+    // True when the processor reports that it runs under a hypervisor.
+    virtual bool hypervisorPresent() { return false; }
 };

@@ -1,9 +1,15 @@
 // Reads the identity files when asked; they are read rarely, so nothing is kept open.
 #include "collect/linux/linux_machine_source.h"
 
+#include "collect/linux/cpu_architecture_parser.h"
 #include "collect/linux/cpuinfo_parser.h"
 #include "collect/linux/proc_file.h"
 #include "collect/linux/sysfs_attribute.h"
+
+#include <sys/utsname.h>
+
+#include <filesystem>
+#include <system_error>
 
 LinuxMachineSource::LinuxMachineSource(const SysRoot& root) : root_(root) {}
 
@@ -52,4 +58,25 @@ std::optional<std::uint64_t> LinuxMachineSource::maxFrequencyKHz()
         return frequency;
     // cpu0/cpufreq is a link to the policy directory; reach it directly when the link is absent.
     return readAttributeUnsigned(root_.join("sys/devices/system/cpu/cpufreq/policy0/cpuinfo_max_freq"));
+}
+
+std::optional<std::string> LinuxMachineSource::architecture()
+{
+    const auto text = ProcFile::readOnce(root_.join("proc/cpuinfo"));
+    if (auto found = text ? parseCpuArchitecture(*text) : std::nullopt)
+        return found;
+    // A captured tree must not borrow the running kernel's answer; only the live root may.
+    std::error_code error;
+    if (!std::filesystem::equivalent(root_.root(), "/", error))
+        return std::nullopt;
+    utsname names{};
+    if (uname(&names) != 0 || names.machine[0] == '\0')
+        return std::nullopt;
+    return std::string(names.machine);
+}
+
+bool LinuxMachineSource::hypervisorPresent()
+{
+    const auto text = ProcFile::readOnce(root_.join("proc/cpuinfo"));
+    return text && hasHypervisorFlag(*text);
 }

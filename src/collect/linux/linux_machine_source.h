@@ -16,6 +16,8 @@ public:
     std::optional<std::string> deviceTreeModel() override;
     std::optional<std::string> processorModelName() override;
     std::optional<std::uint64_t> maxFrequencyKHz() override;
+    std::optional<std::string> architecture() override;
+    bool hypervisorPresent() override;
 
 private:
     SysRoot root_;
