@@ -2,7 +2,10 @@
 #pragma once
 
 #include "collect/cpu_sample.h"
+#include "collect/desktop_index.h"
 #include "collect/gpu_record.h"
+#include "collect/process_cpu_sampler.h"
+#include "collect/process_list.h"
 #include "collect/source_set.h"
 
 #include <QString>
@@ -38,10 +41,23 @@ public:
     // Every display controller on the PCI bus below root; empty when the bus cannot be read.
     static std::optional<std::vector<GpuRecord>> getGpuNames(const std::filesystem::path& root = "/");
 
+    // The busiest processes as [names, values] for the column "%cpu" or "rss" (see
+    // buildProcessList); "%cpu" shares cover the time since the previous "%cpu" call, so the
+    // first call lists nothing. Empty when the processes cannot be listed.
+    std::optional<QStringList> psGetProccessAsKv(const QString& column, const ProcessDict& procDict, int displayLimit,
+                                                 std::int32_t addValueMode);
+
+    // Display names of the running desktop applications under "_<pid>".
+    ProcessDict retProcessDict();
+
     const SourceSet& sources() const { return sources_; }
 
 private:
     SourceSet sources_;
     std::optional<std::vector<ProcessorTicks>> prevCpuInfo;
     std::mutex cpuUsageLock;
+    ProcessCpuSampler processSampler;
+    std::mutex processLock;
+    DesktopIndex desktopIndex;
+    std::mutex desktopLock;
 };

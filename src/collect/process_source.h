@@ -26,4 +26,7 @@ public:
     virtual std::optional<ProcessCounts> counts() = 0;
     // Every process that could be read; processes that end during the scan are left out.
     virtual std::optional<std::vector<ProcessRecord>> scanProcesses() = 0;
+    // The program file a process runs, when the system lets this user see it. Asked for one
+    // process at a time so that a scan for figures alone does not pay for it.
+    virtual std::optional<std::string> executablePath(std::int64_t /*pid*/) { return std::nullopt; }
 };

@@ -1,4 +1,4 @@
-// Counts threads from /proc/loadavg and processes from the numeric entries of /proc.
+// Counts threads and processes, scans the numeric entries of /proc and reads program links.
 #include "collect/linux/linux_process_source.h"
 
 #include "collect/linux/directory_names.h"
@@ -6,6 +6,7 @@
 #include "collect/linux/process_stat_parser.h"
 
 #include <algorithm>
+#include <string_view>
 
 namespace {
 bool isProcessEntry(const std::string& name)
@@ -53,4 +54,28 @@ std::optional<std::vector<ProcessRecord>> LinuxProcessSource::scanProcesses()
             records.push_back(std::move(*record));
     }
     return records;
+}
+
+std::optional<std::string> LinuxProcessSource::executablePath(std::int64_t pid)
+{
+    const std::filesystem::path link = root_.join("proc") / std::to_string(pid) / "exe";
+    std::error_code error;
+    std::filesystem::path target = std::filesystem::read_symlink(link, error);
+    if (error) {
+        // A captured tree cannot keep the kernel's link and stores its target as plain text.
+        if (!std::filesystem::is_regular_file(link, error))
+            return std::nullopt;
+        const auto text = ProcFile::readOnce(link);
+        if (!text)
+            return std::nullopt;
+        target = text->substr(0, text->find('\n'));
+    }
+    std::string path = target.string();
+    // The kernel marks a program file replaced on disk since it was started.
+    constexpr std::string_view deleted = " (deleted)";
+    if (path.ends_with(deleted))
+        path.resize(path.size() - deleted.size());
+    if (path.empty())
+        return std::nullopt;
+    return path;
 }

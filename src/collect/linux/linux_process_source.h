@@ -13,6 +13,7 @@ public:
 
     std::optional<ProcessCounts> counts() override;
     std::optional<std::vector<ProcessRecord>> scanProcesses() override;
+    std::optional<std::string> executablePath(std::int64_t pid) override;
 
 private:
     SysRoot root_;
