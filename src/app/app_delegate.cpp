@@ -81,8 +81,10 @@ void AppDelegate::applicationDidFinishLaunching(bool startTimer)
     // (The file manager's path-in-title default is a macOS setting.)
 
     TvlClasses::checkMyApplicationSupportDir();
-    // (Machine identification, the sensor table and the menu-font check belong to the CPU, Temp and
-    // Fan modules' sources and run here once those modules exist.)
+    if (MachineSource* machine = loadInfo_->sources().machine.get())
+        LoadSystemInformation::collectMyMacDetail(store, *machine);
+    // (The sensor table and the menu-font check belong to the Temp and Fan modules' sources and
+    // run here once those modules exist.)
     themeColorDict_ = TvlClasses::checkThemeValues(TvlClasses::checkNowThemeFile());
     reloadGeneralDefaults(false);
     for (ModuleId id : kAllModules) {

@@ -56,6 +56,8 @@ public:
     void moduleLaunchCheck(bool disableFirst);
     MenuModule* menuModule(ModuleId id) const { return modules_[static_cast<std::size_t>(id)].get(); }
 
+    LoadSystemInformation& collector() override { return *loadInfo_; }
+    SettingsStore& settingsStore() override { return *userDefaults_; }
     void openPreferenceTab(int tabIndex) override;
     void quitApplication() override;
     bool chkGeneBool(const QString& key) const { return generalDefaults().boolValue(key); }

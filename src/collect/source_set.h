@@ -15,6 +15,8 @@
 
 // A platform fills the areas it can read; an empty member means the area is unknown there.
 struct SourceSet {
+    // The folder the sources read below; readers that are not sources (the PCI bus) use it too.
+    std::filesystem::path root = "/";
     std::unique_ptr<CpuSource> cpu;
     std::unique_ptr<ProcessSource> processes;
     std::unique_ptr<MemorySource> memory;

@@ -12,10 +12,16 @@
 #include <memory>
 
 
-// Receives the requests a module's menu makes of the application.
+class LoadSystemInformation;
+class SettingsStore;
+
+// Receives the requests a module's menu makes of the application, and lends it the collector
+// and the settings store for what only an open menu shows.
 class MenuModuleDelegate {
 public:
     virtual ~MenuModuleDelegate() = default;
+    virtual LoadSystemInformation& collector() = 0;
+    virtual SettingsStore& settingsStore() = 0;
     virtual void openPreferenceTab(int tabIndex) = 0;
     virtual void quitApplication() = 0;
 };

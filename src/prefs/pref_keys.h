@@ -15,6 +15,8 @@ inline constexpr char MacImage[] = "MacImage";
 inline constexpr char RemovedTempKeys[] = "RemovedTempKeys";
 inline constexpr char DdnsPropertyString[] = "DdnsPropertyString";
 inline constexpr char NowGlobalIpAddr[] = "NowGlobalIpAddr";
+// The web search the CPU panel opens for the machine's name (query key "q").
+inline constexpr char MachineSearchAddress[] = "MachineSearchAddress";
 
 // General
 inline constexpr char TopItemSortArray[] = "TopItemSortArray";

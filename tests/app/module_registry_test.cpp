@@ -1,10 +1,12 @@
 // Building the status items from the settings: order, switches, odd order lists, menu cadence.
 #include "test_app.h"
 
+#include "modules/cpu/cpu_menu_module.h"
 #include "prefs/pref_keys.h"
 
 #include <QApplication>
 #include <QLabel>
+#include <QSignalSpy>
 #include <QWidgetAction>
 #include <gtest/gtest.h>
 
@@ -113,7 +115,7 @@ TEST(ModuleRegistry, AnOpenMenuSamplesEveryCycleAndTemplatesThePicture)
     // The open menu shows the averaged graph, 400 by 20 points, under the standard items.
     QLabel* graph = nullptr;
     for (QAction* action : cpu->menu()->actions()) {
-        if (auto* widgetAction = qobject_cast<QWidgetAction*>(action))
+        if (auto* widgetAction = qobject_cast<QWidgetAction*>(action); widgetAction && !graph)
             graph = qobject_cast<QLabel*>(widgetAction->defaultWidget());
     }
     ASSERT_NE(graph, nullptr);
@@ -126,6 +128,14 @@ TEST(ModuleRegistry, AnOpenMenuSamplesEveryCycleAndTemplatesThePicture)
         t.executor->finishCycle();
     }
     EXPECT_EQ(t.app->infoDict().cpu.size(), 3u);
+    // The panel under the graph: shares at once, the slower lines from its background thread.
+    auto* panel = static_cast<CPU_MenuModule*>(cpu)->controller();
+    ASSERT_NE(panel, nullptr);
+    EXPECT_EQ(panel->shareText(0), QStringLiteral("10%"));
+    QSignalSpy details(panel, &CPU_MenuController::detailsUpdated);
+    ASSERT_TRUE(details.wait(10000));
+    EXPECT_EQ(panel->optionText(3), QStringLiteral("1min: 0.50, 5min: 0.25, 15min: 0.75"));
+
     cpu->menuDidClose();
     EXPECT_FALSE(bar.templated.value("CPU"));
 }

@@ -13,6 +13,7 @@ SourceSet makeSourceSet(const std::filesystem::path& root)
 {
     const SysRoot sysRoot(root);
     SourceSet sources;
+    sources.root = root;
     sources.cpu = std::make_unique<LinuxCpuSource>(sysRoot);
     sources.processes = std::make_unique<LinuxProcessSource>(sysRoot);
     sources.memory = std::make_unique<LinuxMemorySource>(sysRoot);

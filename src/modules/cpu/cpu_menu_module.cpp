@@ -46,6 +46,12 @@ void CPU_MenuModule::drawBaseStatusBar()
     menuGraph_->setFixedSize(static_cast<int>(mnDefaults.intValue(Cpu_GraphWidth)), static_cast<int>(kMenuGraphHeight));
     graphAction->setDefaultWidget(menuGraph_);
     statusMenu->addAction(graphAction);
+    if (myDelegate != nullptr) {
+        auto* panelAction = new QWidgetAction(statusMenu);
+        cpuMenuController = new CPU_MenuController(myDelegate->collector(), myDelegate->settingsStore());
+        panelAction->setDefaultWidget(cpuMenuController);
+        statusMenu->addAction(panelAction);
+    }
     redrawStatusItem();
 }
 
@@ -73,6 +79,11 @@ void CPU_MenuModule::refreshBar()
 void CPU_MenuModule::prepareMenuOpening()
 {
     mnDefaultsTmp = withMenuLayout();
+    // Machine facts and application names are only looked up for a menu that is shown.
+    if (cpuMenuController != nullptr) {
+        cpuMenuController->loadBaseData(myDefaults);
+        cpuMenuController->reloadProcDict();
+    }
 }
 
 ModuleDefaults CPU_MenuModule::withMenuLayout() const
@@ -99,4 +110,7 @@ void CPU_MenuModule::redrawStatusItem()
 {
     if (menuGraph_ != nullptr)
         menuGraph_->setPixmap(QPixmap::fromImage(drawMenuGraph(mnDefaultsTmp)));
+    // The process scan behind the panel runs only while someone looks at it.
+    if (cpuMenuController != nullptr && menuOpened())
+        cpuMenuController->replaceData(1, myDefaults, resumeArray);
 }

@@ -3,6 +3,7 @@
 
 #include "collect/cpu_sample.h"
 #include "collect/history.h"
+#include "modules/cpu/cpu_menu_controller.h"
 #include "modules/cpu/image_cpu_bar.h"
 #include "modules/menu_module.h"
 
@@ -20,6 +21,8 @@ public:
     // The picture last given to the status item, and the graph the open menu shows.
     const QImage& barImage() const { return barImage_; }
     QImage menuGraphImage();
+    // The detail panel under the graph; none before the menu is built.
+    CPU_MenuController* controller() const { return cpuMenuController; }
 
 protected:
     void drawBaseStatusBar() override;
@@ -38,6 +41,7 @@ private:
     ImageCpuBar imageCpuBar;
     ImageCpuBar imageCpuMenu;
     QLabel* menuGraph_ = nullptr; // owned by the menu through its widget action
+    CPU_MenuController* cpuMenuController = nullptr; // likewise
     History<CpuSample> resumeArray;
     QImage barImage_;
 };

@@ -1,0 +1,229 @@
+// Lays out and fills the CPU panel; slow queries run on the panel's own background thread.
+#include "modules/cpu/cpu_menu_controller.h"
+
+#include "collect/load_system_information.h"
+#include "modules/cpu/cpu_panel_values.h"
+#include "prefs/pref_keys.h"
+#include "prefs/settings_store.h"
+#include "toolkit/localization.h"
+
+#include <QDesktopServices>
+#include <QFontDatabase>
+#include <QGraphicsOpacityEffect>
+#include <QGridLayout>
+#include <QLabel>
+#include <QPixmap>
+#include <QPushButton>
+#include <QThread>
+#include <QUrl>
+#include <QUrlQuery>
+
+namespace {
+
+constexpr const char* kShareNames[] = {"User", "System", "Nice", "Idle"};
+constexpr const char* kShareColors[] = {"A01", "A02", "A03", "A04"};
+constexpr const char* kVirtualMachine = "(Probably VM)";
+constexpr const char* kDefaultSearchAddress = "https://duckduckgo.com/";
+
+// Figures in fixed-width digits, so they do not jitter as they change.
+QLabel* figureLabel(QWidget* parent, Qt::Alignment alignment)
+{
+    auto* label = new QLabel(parent);
+    QFont font = QFontDatabase::systemFont(QFontDatabase::FixedFont);
+    font.setPointSizeF(parent->font().pointSizeF());
+    label->setFont(font);
+    label->setAlignment(alignment | Qt::AlignVCenter);
+    return label;
+}
+
+QLabel* titleLabel(QWidget* parent, const char* key)
+{
+    auto* label = new QLabel(localized(key), parent);
+    label->setForegroundRole(QPalette::PlaceholderText);
+    return label;
+}
+
+void setOpacity(QWidget* widget, double opacity)
+{
+    auto* effect = qobject_cast<QGraphicsOpacityEffect*>(widget->graphicsEffect());
+    if (effect == nullptr) {
+        effect = new QGraphicsOpacityEffect(widget);
+        widget->setGraphicsEffect(effect);
+    }
+    effect->setOpacity(opacity);
+}
+
+QPixmap swatch(const QColor& color)
+{
+    QPixmap pixmap(10, 10);
+    pixmap.fill(color);
+    return pixmap;
+}
+
+} // namespace
+
+CPU_MenuController::CPU_MenuController(LoadSystemInformation& loadInfo, SettingsStore& defaults, QWidget* parent)
+    : QWidget(parent), loadInfo_(loadInfo), defaults_(defaults)
+{
+    pool_.setMaxThreadCount(1);
+    auto* grid = new QGridLayout(this);
+    grid->setContentsMargins(14, 6, 14, 8);
+    grid->setHorizontalSpacing(8);
+    int row = 0;
+    for (std::size_t s = 0; s < 4; ++s) {
+        swatches_[s] = new QLabel(this);
+        grid->addWidget(swatches_[s], row, 0);
+        grid->addWidget(new QLabel(localized(kShareNames[s]), this), row, 1);
+        shareLabels_[s] = figureLabel(this, Qt::AlignRight);
+        grid->addWidget(shareLabels_[s], row++, 2);
+    }
+
+    machinNameButton = new QPushButton(this);
+    machinNameButton->setFlat(true);
+    machinNameButton->setStyleSheet(QStringLiteral("text-align: left; padding: 0"));
+    connect(machinNameButton, &QPushButton::clicked, this, &CPU_MenuController::machinNameButtonClicked);
+    machinImage = new QLabel(this);
+    grid->addWidget(machinImage, row, 0);
+    grid->addWidget(machinNameButton, row++, 1, 1, 2);
+    grid->addWidget(titleLabel(this, "Cpu Type"), row, 0, 1, 2);
+    cpuKindLabel = new QLabel(this);
+    grid->addWidget(cpuKindLabel, row++, 2);
+    for (QLabel*& gpu : gpuLabels_) {
+        gpu = new QLabel(this);
+        grid->addWidget(gpu, row++, 2);
+    }
+
+    const char* titles[] = {"Uptime Boot/Actv", nullptr, "Scheduling Stat", "Load Average", "Host Name"};
+    for (std::size_t line = 0; line < optionLabels_.size(); ++line) {
+        if (titles[line] != nullptr)
+            grid->addWidget(titleLabel(this, titles[line]), row, 0, 1, 2);
+        optionLabels_[line] = line < 2 ? figureLabel(this, Qt::AlignLeft) : new QLabel(this);
+        grid->addWidget(optionLabels_[line], row++, 2);
+    }
+
+    processNameLabel = new QLabel(this);
+    processNameLabel->setForegroundRole(QPalette::PlaceholderText);
+    processPerLabel = figureLabel(this, Qt::AlignRight);
+    processPerLabel->setAlignment(Qt::AlignRight | Qt::AlignTop);
+    processNameLabel->setAlignment(Qt::AlignLeft | Qt::AlignTop);
+    grid->addWidget(processNameLabel, row, 0, 1, 2);
+    grid->addWidget(processPerLabel, row, 2);
+    grid->setColumnStretch(2, 1);
+}
+
+CPU_MenuController::~CPU_MenuController()
+{
+    pool_.waitForDone();
+}
+
+void CPU_MenuController::loadBaseData(const ModuleDefaults& myDefaults)
+{
+    const QString realName = defaults_.stringForKey(PrefKey::MacRealName);
+    const QString rawName = defaults_.stringForKey(PrefKey::MacRawName);
+    const bool known = !realName.isEmpty() && realName != QLatin1String(kVirtualMachine);
+    machinNameButton->setText(known ? QStringLiteral("%1 / %2").arg(realName, rawName) : rawName);
+    machinNameButton->setEnabled(known);
+    QFont font = machinNameButton->font();
+    font.setUnderline(known);
+    machinNameButton->setFont(font);
+
+    // No vendor picture service here: the theme's processor picture stands for the machine.
+    const ThemePicture picture = myDefaults.picture(QStringLiteral("L01"));
+    if (!picture.image.isNull())
+        machinImage->setPixmap(QPixmap::fromImage(picture.image).scaledToHeight(
+            static_cast<int>(picture.size.height()) * machinImage->devicePixelRatioF(), Qt::SmoothTransformation));
+
+    QString brand;
+    if (MachineSource* machine = loadInfo_.sources().machine.get()) {
+        brand = LoadSystemInformation::cpuGetBrandNameNew(*machine);
+        if (brand.isEmpty())
+            brand = LoadSystemInformation::cpuGetRareNameNew(*machine).value_or(QString());
+    }
+    cpuKindLabel->setText(localized("%@ %dcores")
+                              .replace(QLatin1String("%@"), brand)
+                              .replace(QLatin1String("%d"), QString::number(QThread::idealThreadCount())));
+
+    const auto gpus = LoadSystemInformation::getGpuNames(loadInfo_.sources().root).value_or(std::vector<GpuRecord>());
+    for (std::size_t i = 0; i < gpuLabels_.size(); ++i) {
+        gpuLabels_[i]->setText(i < gpus.size() ? QStringLiteral("%1 - %2").arg(gpus[i].gpuName, gpus[i].totlStr)
+                                               : QStringLiteral("--"));
+    }
+}
+
+void CPU_MenuController::reloadProcDict()
+{
+    QVariantMap names = loadInfo_.retProcessDict();
+    if (!names.isEmpty())
+        procDict = std::move(names);
+}
+
+void CPU_MenuController::replaceData(qint64, const ModuleDefaults& myDefaults, const History<CpuSample>& resumeArray)
+{
+    const auto shares = cpuPanelShares(resumeArray);
+    for (std::size_t s = 0; s < 4; ++s) {
+        const QString key = QString::fromLatin1(kShareColors[s]);
+        if (myDefaults.contains(key))
+            swatches_[s]->setPixmap(swatch(myDefaults.color(key)));
+        shareLabels_[s]->setText(QStringLiteral("%1%").arg(shares[s]));
+        setOpacity(shareLabels_[s], cpuPanelOpacity(shares[s]));
+        setOpacity(swatches_[s], cpuPanelOpacity(shares[s]));
+    }
+
+    // A scan slower than a tick is not stacked behind itself.
+    if (detailsInFlight_)
+        return;
+    detailsInFlight_ = true;
+    pool_.start([this, names = procDict] {
+        const QStringList options = loadInfo_.cpuGetOptionData();
+        const QStringList processes =
+            loadInfo_.psGetProccessAsKv(QStringLiteral("%cpu"), names, 10, -1).value_or(QStringList());
+        QMetaObject::invokeMethod(this, [this, options, processes] { applyDetails(options, processes); },
+                                  Qt::QueuedConnection);
+    });
+}
+
+void CPU_MenuController::applyDetails(const QStringList& options, const QStringList& processes)
+{
+    detailsInFlight_ = false;
+    if (options.size() >= 4) {
+        for (std::size_t line = 0; line < optionLabels_.size(); ++line)
+            optionLabels_[line]->setText(options.value(static_cast<qsizetype>(line)));
+    }
+    if (processes.size() == 2) {
+        processNameLabel->setText(processes.at(0));
+        processPerLabel->setText(processes.at(1));
+    }
+    Q_EMIT detailsUpdated();
+}
+
+void CPU_MenuController::machinNameButtonClicked()
+{
+    QString text = machinNameButton->text();
+    text.remove(QStringLiteral("/ "));
+    const QString address = defaults_.stringForKey(PrefKey::MachineSearchAddress);
+    QUrl url(address.isEmpty() ? QString::fromLatin1(kDefaultSearchAddress) : address);
+    QUrlQuery query;
+    query.addQueryItem(QStringLiteral("q"), text);
+    url.setQuery(query);
+    QDesktopServices::openUrl(url);
+}
+
+QString CPU_MenuController::shareText(int state) const
+{
+    return shareLabels_.at(static_cast<std::size_t>(state))->text();
+}
+
+QString CPU_MenuController::optionText(int row) const
+{
+    return optionLabels_.at(static_cast<std::size_t>(row))->text();
+}
+
+QString CPU_MenuController::processNames() const
+{
+    return processNameLabel->text();
+}
+
+QString CPU_MenuController::machineTitle() const
+{
+    return machinNameButton->text();
+}
