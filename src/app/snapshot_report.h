@@ -4,14 +4,25 @@
 #include <QByteArray>
 #include <QString>
 
+#include <QStringList>
+
 class AppDelegate;
 
 namespace SnapshotReport {
 
-// The texts the menu bar shows, one block per switched-on module.
-QString text(const AppDelegate& app);
+// The CPU panel's rows that take a machine query or a measured interval; empty ones are left out.
+struct CpuPanelRows {
+    QString processor;
+    QStringList graphics;
+    QStringList processNames;  // busiest first
+    QStringList processValues; // their shares, one per name
+};
 
-// The newest raw sample of each switched-on module under its module key.
-QByteArray json(const AppDelegate& app);
+// The texts the menu bar and the CPU panel show, one block per switched-on module.
+QString text(const AppDelegate& app, const CpuPanelRows& panel = {});
+
+// The newest raw sample of each switched-on module under its module key, and the CPU panel's
+// rows under "CPUPanel".
+QByteArray json(const AppDelegate& app, const CpuPanelRows& panel = {});
 
 } // namespace SnapshotReport

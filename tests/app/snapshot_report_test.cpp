@@ -24,7 +24,19 @@ TEST(SnapshotReport, CpuSampleIsAnArrayOfFourNumberRecords)
     EXPECT_EQ(cpu.at(0).toArray(), (QJsonArray{30, 10, 0, 60}));
     EXPECT_EQ(cpu.at(2).toArray(), (QJsonArray{20, 10, 0, 70}));
 
-    const QString text = SnapshotReport::text(*t.app);
+    SnapshotReport::CpuPanelRows panel;
+    panel.processor = QStringLiteral("Example CPU 2cores");
+    panel.graphics = {QStringLiteral("--"), QStringLiteral("--")};
+    panel.processNames = {QStringLiteral("builder"), QStringLiteral("(pid:_42)")};
+    panel.processValues = {QStringLiteral("97.0%"), QStringLiteral("1.5%")};
+    const QJsonObject rows =
+        QJsonDocument::fromJson(SnapshotReport::json(*t.app, panel)).object().value(QStringLiteral("CPUPanel")).toObject();
+    EXPECT_EQ(rows.value(QStringLiteral("load")).toString(), QStringLiteral("1min: 0.50, 5min: 0.25, 15min: 0.75"));
+    EXPECT_EQ(rows.value(QStringLiteral("processes")).toArray().at(1).toObject().value(QStringLiteral("name")),
+              QStringLiteral("(pid:_42)"));
+
+    const QString text = SnapshotReport::text(*t.app, panel);
+    EXPECT_TRUE(text.contains(QStringLiteral(" 97.0% builder"))) << text.toStdString();
     EXPECT_TRUE(text.contains(QStringLiteral("all    user 20%  system 10%"))) << text.toStdString();
     EXPECT_TRUE(text.contains(QStringLiteral("1min: 0.50, 5min: 0.25, 15min: 0.75"))) << text.toStdString();
 }

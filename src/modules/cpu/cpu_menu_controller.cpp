@@ -2,6 +2,7 @@
 #include "modules/cpu/cpu_menu_controller.h"
 
 #include "collect/load_system_information.h"
+#include "modules/cpu/cpu_panel_facts.h"
 #include "modules/cpu/cpu_panel_values.h"
 #include "prefs/pref_keys.h"
 #include "prefs/settings_store.h"
@@ -14,7 +15,6 @@
 #include <QLabel>
 #include <QPixmap>
 #include <QPushButton>
-#include <QThread>
 #include <QUrl>
 #include <QUrlQuery>
 
@@ -133,21 +133,10 @@ void CPU_MenuController::loadBaseData(const ModuleDefaults& myDefaults)
         machinImage->setPixmap(QPixmap::fromImage(picture.image).scaledToHeight(
             static_cast<int>(picture.size.height()) * machinImage->devicePixelRatioF(), Qt::SmoothTransformation));
 
-    QString brand;
-    if (MachineSource* machine = loadInfo_.sources().machine.get()) {
-        brand = LoadSystemInformation::cpuGetBrandNameNew(*machine);
-        if (brand.isEmpty())
-            brand = LoadSystemInformation::cpuGetRareNameNew(*machine).value_or(QString());
-    }
-    cpuKindLabel->setText(localized("%@ %dcores")
-                              .replace(QLatin1String("%@"), brand)
-                              .replace(QLatin1String("%d"), QString::number(QThread::idealThreadCount())));
-
-    const auto gpus = LoadSystemInformation::getGpuNames(loadInfo_.sources().root).value_or(std::vector<GpuRecord>());
-    for (std::size_t i = 0; i < gpuLabels_.size(); ++i) {
-        gpuLabels_[i]->setText(i < gpus.size() ? QStringLiteral("%1 - %2").arg(gpus[i].gpuName, gpus[i].totlStr)
-                                               : QStringLiteral("--"));
-    }
+    cpuKindLabel->setText(cpuKindText(loadInfo_));
+    const QStringList gpus = gpuRowTexts(loadInfo_);
+    for (std::size_t i = 0; i < gpuLabels_.size(); ++i)
+        gpuLabels_[i]->setText(gpus.value(static_cast<qsizetype>(i)));
 }
 
 void CPU_MenuController::reloadProcDict()

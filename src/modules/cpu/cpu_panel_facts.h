@@ -1,0 +1,13 @@
+// The CPU panel's fixed rows as text: processor with core count, and two graphics rows.
+#pragma once
+
+#include <QString>
+#include <QStringList>
+
+class LoadSystemInformation;
+
+// "<brand> <n>cores", the brand falling back to the architecture and clock.
+QString cpuKindText(const LoadSystemInformation& loadInfo);
+
+// Exactly two rows, "<name> - <memory>" for each graphics processor found, "--" for the rest.
+QStringList gpuRowTexts(const LoadSystemInformation& loadInfo);
