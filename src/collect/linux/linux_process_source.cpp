@@ -41,18 +41,32 @@ std::optional<std::vector<ProcessRecord>> LinuxProcessSource::scanProcesses()
     const auto names = directoryNames(root_.join("proc"));
     if (!names)
         return std::nullopt;
+    const std::lock_guard guard(scanLock_);
     std::vector<ProcessRecord> records;
+    records.reserve(names->size());
+    std::unordered_map<std::int64_t, ProcFile> kept;
     const std::filesystem::path proc = root_.join("proc");
     for (const std::string& name : *names) {
         if (!isProcessEntry(name))
             continue;
-        // A process may end between the listing and this read; it is simply left out.
-        const auto text = ProcFile::readOnce(proc / name / "stat");
-        if (!text)
-            continue;
-        if (auto record = parseProcessStat(*text))
+        const std::int64_t pid = std::stoll(name);
+        std::optional<ProcessRecord> record;
+        if (auto open = statFiles_.find(pid); open != statFiles_.end() || kept.size() < kMaxKeptStatFiles) {
+            ProcFile file = open != statFiles_.end() ? std::move(open->second) : ProcFile(proc / name / "stat");
+            // A process may end between the listing and this read; it is simply left out. A pid
+            // reused since the last scan reads through a fresh open of the same name.
+            if (const auto text = file.read())
+                record = parseProcessStat(*text);
+            if (record)
+                kept.emplace(pid, std::move(file));
+        } else if (const auto text = ProcFile::readOnce(proc / name / "stat")) {
+            record = parseProcessStat(*text);
+        }
+        if (record)
             records.push_back(std::move(*record));
     }
+    // Files of processes that ended are closed here, as the old map goes.
+    statFiles_ = std::move(kept);
     return records;
 }
 

@@ -5,7 +5,9 @@
 #include "collect/linux/sys_root.h"
 #include "collect/process_source.h"
 
+#include <cstdint>
 #include <mutex>
+#include <unordered_map>
 
 class LinuxProcessSource final : public ProcessSource {
 public:
@@ -16,7 +18,14 @@ public:
     std::optional<std::string> executablePath(std::int64_t pid) override;
 
 private:
+    // Kept-open stat files between scans: one open per process instead of one per scan. Past
+    // this many the rest are read once, so a machine with thousands of processes keeps its
+    // file descriptors.
+    static constexpr std::size_t kMaxKeptStatFiles = 512;
+
     SysRoot root_;
     std::mutex lock_;
     ProcFile loadavg_;
+    std::mutex scanLock_;
+    std::unordered_map<std::int64_t, ProcFile> statFiles_;
 };
