@@ -1,6 +1,7 @@
 // Derived keys per module, measured in the theme's font so the pictures do not jitter.
 #include "prefs/pref_derived.h"
 
+#include "prefs/module_switch.h"
 #include "prefs/pref_functions.h"
 #include "prefs/pref_keys.h"
 #include "toolkit/label_lists.h"
@@ -27,24 +28,12 @@ struct Measure {
     }
 };
 
-bool anyOf(const SettingsStore& store, std::initializer_list<const char*> keys)
-{
-    return std::any_of(keys.begin(), keys.end(), [&](const char* k) { return store.boolForKey(k); });
-}
-
 void addGeneral(ModuleDefaults& d, const SettingsStore& s, const QVariantMap& theme)
 {
-    d.set(LaunchCpus, anyOf(s, {Cpu_Display_Graph, Cpu_Display_LevelBar, Cpu_Display_CircleMeter, Cpu_Display_Text}));
-    d.set(LaunchMemo, anyOf(s, {Memory_Display_Graph, Memory_Display_LevelBar, Memory_Display_CircleMeter,
-                                Memory_Display_Text, Memory_Display_DetailText}));
-    // The up/down label alone is no picture, so it does not switch the module on.
-    d.set(LaunchNetw, anyOf(s, {Network_Display_UdCircle, Network_Display_Graph, Network_Display_Text}));
-    d.set(LaunchDisk, anyOf(s, {Disk_Display_Indicator, Disk_Display_Graph, Disk_Display_Text}));
-    d.set(LaunchVolume, anyOf(s, {Vlms_Display_BarChart, Vlms_Display_CycleChart, Vlms_Display_Graph,
-                                  Vlms_Display_Text, Vlms_Display_Percent}));
-    d.set(LaunchTemp, anyOf(s, {Temp_Display_Text, Temp_Display_Graph}));
-    d.set(LaunchFans, anyOf(s, {Fan_Display_Text, Fan_Display_Graph}));
-    d.set(LaunchVNC, s.boolForKey(Vnc_ShowMenu));
+    for (ModuleId id : kAllModules) {
+        if (id != ModuleId::General)
+            d.set(moduleKeys(id).switchKey, PrefFunctions::isModuleSwitchedOn(s, id));
+    }
     d.set(_FontName, theme.value(_FontName).toString());
     d.set(_FontStyle, theme.value(_FontStyle).toString());
     d.set(_AlternativeTheme, theme.value(_AlternativeTheme).toString());

@@ -1,6 +1,8 @@
 // Every settings, working-dictionary and theme key name, spelled once.
 #pragma once
 
+#include <QtGlobal>
+
 // Keys keep their historic spellings ("Fax_MaxRpm", both "Vlms_" and "Volume_") so that
 // stored values are found.
 namespace PrefKey {
@@ -172,6 +174,10 @@ inline constexpr char Vnc_EnaMenu_Amon[] = "Vnc_EnaMenu_Amon";
 inline constexpr char Vnc_EnaMenu_Cnsl[] = "Vnc_EnaMenu_Cnsl";
 inline constexpr char Vnc_EnaMenu_Tmnl[] = "Vnc_EnaMenu_Tmnl";
 
+// The display elements a module had when its switch was turned off, by module history key,
+// so that switching it on again brings back the user's choice.
+inline constexpr char ModuleSwitchMemory[] = "ModuleSwitchMemory";
+
 // Theme and font entries of a working dictionary
 inline constexpr char _FontName[] = "_FontName";
 inline constexpr char _FontPostScriptName[] = "_FontPostScriptName";
@@ -234,3 +240,18 @@ inline constexpr char FanInnerLoadCounterInt[] = "FanInnerLoadCounterInt";
 inline constexpr char FanInnerLoadData[] = "FanInnerLoadData";
 
 } // namespace PrefKey
+
+// User-information keys of the preference-change notifications.
+namespace NotifKey {
+inline constexpr char FontChanged[] = "FontChanged";
+inline constexpr char ChangeColorKey[] = "ChangeColorKey";
+inline constexpr char ChangeColorVal[] = "ChangeColorVal";
+inline constexpr char ModuleThemeChanged[] = "ModuleThemeChanged";
+inline constexpr char ModuleAllocNow[] = "ModuleAllocNow";
+inline constexpr char ModuleItemRefreshNow[] = "ModuleItemRefreshNow";
+inline constexpr char ModuleDefaultReload[] = "ModuleDefaultReload";
+inline constexpr char ChangeMenuCount[] = "ChangeMenuCount";
+// Font values below this mean "unchanged"; names equal to kUnchangedText likewise.
+inline constexpr qint64 kUnchangedNumberBelow = -9998;
+inline constexpr char kUnchangedText[] = "-";
+} // namespace NotifKey
