@@ -8,6 +8,7 @@
 #include <QMenu>
 #include <QObject>
 #include <QPointer>
+#include <QVariantMap>
 
 #include <memory>
 
@@ -23,6 +24,8 @@ public:
     virtual LoadSystemInformation& collector() = 0;
     virtual SettingsStore& settingsStore() = 0;
     virtual void openPreferenceTab(int tabIndex) = 0;
+    // The colour theme in use, as stored in its file.
+    virtual const QVariantMap& currentTheme() const = 0;
     virtual void quitApplication() = 0;
 };
 
@@ -48,6 +51,8 @@ public:
 
     bool menuOpened() const { return menuOpened_; }
     void setMenuItemRefresh(bool refresh) { menuItemRefresh = refresh; }
+    // Only the Temp module counts the sensors its menu shows.
+    virtual void resetMenuNowCount() {}
     QMenu* menu() const { return statusMenu; }
     StatusItem* item() const { return statusItem.get(); }
 

@@ -3,6 +3,7 @@
 
 #include "modules/cpu/cpu_menu_module.h"
 #include "modules/general/general_menu_module.h"
+#include "preferences/unbuilt_module_tab.h"
 
 std::unique_ptr<MenuModule> createMenuModule(ModuleId id, MenuModuleDelegate* delegate)
 {
@@ -21,4 +22,23 @@ std::unique_ptr<MenuModule> createMenuModule(ModuleId id, MenuModuleDelegate* de
         return nullptr;
     }
     return nullptr;
+}
+
+PreferenceTab* createPreferenceTab(ModuleId id, MenuModuleDelegate* delegate, SettingsStore& store,
+                                   PrefNotificationCenter& center)
+{
+    Q_UNUSED(delegate)
+    switch (id) {
+    case ModuleId::General:
+    case ModuleId::Cpu:
+    case ModuleId::Memory:
+    case ModuleId::Network:
+    case ModuleId::Disk:
+    case ModuleId::Volume:
+    case ModuleId::Temp:
+    case ModuleId::Fan:
+    case ModuleId::Vnc:
+        break;
+    }
+    return new UnbuiltModuleTab(id, store, center);
 }

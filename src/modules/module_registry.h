@@ -6,5 +6,13 @@
 
 #include <memory>
 
+class PreferenceTab;
+class PrefNotificationCenter;
+class SettingsStore;
+
 // A new module of that kind; none for a module that has no status item on this system yet.
 std::unique_ptr<MenuModule> createMenuModule(ModuleId id, MenuModuleDelegate* delegate);
+
+// The module's preferences tab; modules without settings of their own yet get a short notice.
+PreferenceTab* createPreferenceTab(ModuleId id, MenuModuleDelegate* delegate, SettingsStore& store,
+                                   PrefNotificationCenter& center);

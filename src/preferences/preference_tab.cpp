@@ -1,0 +1,46 @@
+// Storing and posting for every preferences tab.
+#include "preferences/preference_tab.h"
+
+#include "preferences/pref_notification.h"
+#include "prefs/settings_store.h"
+
+PreferenceTab::PreferenceTab(ModuleId id, SettingsStore& store, PrefNotificationCenter& center, QWidget* parent)
+    : QWidget(parent), id_(id), store_(store), center_(center)
+{
+    setObjectName(QString::fromLatin1(moduleKeys(id).historyKey));
+}
+
+void PreferenceTab::setMyDefaults(const AllModuleDefaults& all)
+{
+    all_ = all;
+    resetViews(0);
+}
+
+void PreferenceTab::resetViews(int which)
+{
+    Q_UNUSED(which)
+    ++loading_;
+    loadViews();
+    --loading_;
+}
+
+bool PreferenceTab::commit(const QVariantMap& userInfo)
+{
+    const bool saved = store_.synchronize();
+    if (saved)
+        Q_EMIT storeSaved();
+    else
+        Q_EMIT storeFailed();
+    post(userInfo);
+    return saved;
+}
+
+void PreferenceTab::post(const QVariantMap& userInfo)
+{
+    postAs(id_, userInfo);
+}
+
+void PreferenceTab::postAs(ModuleId id, const QVariantMap& userInfo)
+{
+    center_.post(QString::fromLatin1(moduleKeys(id).notification), userInfo);
+}

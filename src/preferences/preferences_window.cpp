@@ -1,0 +1,85 @@
+// The preferences window's frame: title, tabs, the store-failure line and the version.
+#include "preferences/preferences_window.h"
+
+#include "preferences/preference_tab.h"
+#include "toolkit/localization.h"
+
+#include <QApplication>
+#include <QCloseEvent>
+#include <QLabel>
+#include <QTabWidget>
+#include <QVBoxLayout>
+
+PreferencesWindow::PreferencesWindow(QWidget* parent)
+    : QWidget(parent, Qt::Window), tabs_(new QTabWidget(this)), failure_(new QLabel(this))
+{
+    setObjectName(QStringLiteral("Preferences"));
+    setWindowTitle(QStringLiteral("%1 %2").arg(QApplication::applicationName(), localized("Preferences")));
+    auto* layout = new QVBoxLayout(this);
+    layout->addWidget(tabs_, 1);
+    failure_->setObjectName(QStringLiteral("StoreFailure"));
+    failure_->setWordWrap(true);
+    failure_->setStyleSheet(QStringLiteral("QLabel { color: #b00020; font-weight: bold; }"));
+    failure_->hide();
+    layout->addWidget(failure_);
+    auto* version = new QLabel(QStringLiteral("%1 %2").arg(QApplication::applicationName(),
+                                                            QStringLiteral(TARVEL_VERSION)),
+                               this);
+    version->setAlignment(Qt::AlignRight);
+    version->setEnabled(false);
+    layout->addWidget(version);
+    connect(tabs_, &QTabWidget::currentChanged, this, &PreferencesWindow::tabSelected);
+}
+
+void PreferencesWindow::addTab(PreferenceTab* tab, const QString& label)
+{
+    tabs_->addTab(tab, label);
+    connect(tab, &PreferenceTab::storeFailed, this, &PreferencesWindow::showStoreFailure);
+    connect(tab, &PreferenceTab::storeSaved, this, &PreferencesWindow::clearStoreFailure);
+}
+
+int PreferencesWindow::tabCount() const
+{
+    return tabs_->count();
+}
+
+PreferenceTab* PreferencesWindow::tab(int index) const
+{
+    return qobject_cast<PreferenceTab*>(tabs_->widget(index));
+}
+
+int PreferencesWindow::currentTab() const
+{
+    return tabs_->currentIndex();
+}
+
+void PreferencesWindow::openTab(int index)
+{
+    if (index >= 0 && index < tabs_->count())
+        tabs_->setCurrentIndex(index);
+    show();
+    raise();
+    activateWindow();
+}
+
+void PreferencesWindow::showStoreFailure()
+{
+    failure_->setText(localized("Your settings could not be saved. They apply until Tarvel quits."));
+    failure_->show();
+}
+
+void PreferencesWindow::clearStoreFailure()
+{
+    failure_->hide();
+}
+
+bool PreferencesWindow::storeFailureShown() const
+{
+    return !failure_->isHidden();
+}
+
+void PreferencesWindow::closeEvent(QCloseEvent* event)
+{
+    QWidget::closeEvent(event);
+    Q_EMIT closed();
+}

@@ -1,0 +1,13 @@
+// The tab of a module whose settings do not exist on this system yet.
+#pragma once
+
+#include "preferences/preference_tab.h"
+
+class UnbuiltModuleTab : public PreferenceTab {
+    Q_OBJECT
+public:
+    UnbuiltModuleTab(ModuleId id, SettingsStore& store, PrefNotificationCenter& center, QWidget* parent = nullptr);
+
+protected:
+    void loadViews() override {}
+};
