@@ -2,17 +2,20 @@
 #include "app/app_delegate.h"
 
 #include "app/app_logging.h"
+#include "app/appearance_watcher.h"
 #include "app/cycle_executor.h"
 #include "app/general_functions_reboot.h"
 #include "app/sampling_cycle.h"
 #include "modules/module_registry.h"
 #include "net/ddns_settings.h"
+#include "preferences/preferences_window.h"
 #include "prefs/pref_functions.h"
 #include "prefs/pref_keys.h"
 #include "prefs/theme_files.h"
 #include "prefs/theme_repair.h"
 
 #include <QGuiApplication>
+#include <QTimer>
 
 namespace {
 
@@ -20,20 +23,24 @@ namespace {
 constexpr int kRebootTickMs = 600 * 1000;
 constexpr qint64 kRebootTicksPerDay = 144;
 constexpr quint32 kDdnsCheckEveryCycles = 600;
+constexpr int kStartupWindowDelayMs = 1000;
 
 } // namespace
 
 AppDelegate::AppDelegate(std::unique_ptr<SettingsStore> store, SourceSet sources, QObject* parent)
     : QObject(parent), userDefaults_(std::move(store)),
       loadInfo_(std::make_unique<LoadSystemInformation>(std::move(sources))),
-      rebootAction_(&GeneralFunctions::rebootMe), executor_(std::make_unique<ThreadPoolCycleExecutor>(this))
+      rebootAction_(&GeneralFunctions::rebootMe), prefCenter_(new PrefNotificationCenter(this)),
+      executor_(std::make_unique<ThreadPoolCycleExecutor>(this))
 {
+    connect(prefCenter_, &PrefNotificationCenter::posted, this, &AppDelegate::notifFromPref);
 }
 
 AppDelegate::~AppDelegate()
 {
     // Wait for a running cycle before the collector and the dictionaries go away.
     executor_.reset();
+    delete preferencePanel_;
 }
 
 void AppDelegate::setCycleExecutor(std::unique_ptr<CycleExecutor> executor)
@@ -92,7 +99,15 @@ void AppDelegate::applicationDidFinishLaunching(bool startTimer)
             mutableDefaults(id) = PrefFunctions::loadModuleDefaults(id, store, themeColorDict_);
     }
 
+    // The window and its tabs exist only where there are status items to configure.
+    if (statusBar_ != nullptr)
+        drawModuleTabViewControllers();
     checkDrawMenu();
+    if (preferencePanel_ != nullptr) {
+        appearanceWatcher_ = new AppearanceWatcher(this);
+        connect(appearanceWatcher_, &AppearanceWatcher::appearanceChanged, this, &AppDelegate::changeAppearanceMode);
+        changeAppearanceMode(appearanceWatcher_->isDark());
+    }
 
     loadSysInfoTimer();
     if (startTimer) {
@@ -184,6 +199,12 @@ void AppDelegate::checkDrawMenu()
         else
             moduleRelease(*id);
     }
+    // Shown once at start; later rebuilds only bring an open window to the front again.
+    if (chkGeneBool(PrefKey::DisplayTopWindowAtStartup) && preferencePanel_ != nullptr &&
+        (!startupWindowShown_ || preferencePanel_->isVisible())) {
+        startupWindowShown_ = true;
+        QTimer::singleShot(kStartupWindowDelayMs, preferencePanel_, [this] { preferencePanel_->openTab(openedTabNum - 1); });
+    }
     loadSysInfoTimerFinishedBool = false;
 }
 
@@ -195,11 +216,6 @@ void AppDelegate::moduleLaunchCheck(bool disableFirst)
     // After the disable: every release wrote NO into the in-memory switches.
     mutableDefaults(ModuleId::General) = PrefFunctions::loadGeneralDefaults(*userDefaults_, themeColorDict_);
     checkDrawMenu();
-}
-
-void AppDelegate::openPreferenceTab(int tabIndex)
-{
-    openedTabNum = tabIndex + 1;
 }
 
 void AppDelegate::quitApplication()
@@ -240,6 +256,11 @@ void AppDelegate::redrawStep(ModuleDefaults general, InfoDict info)
     }
     if (chkGeneBool(PrefKey::LaunchVNC))
         reDrawModule(ModuleId::Vnc, false);
+    // Previews follow the live data only while someone can see them.
+    if (preferencePanel_ != nullptr && preferencePanel_->isVisible()) {
+        for (int i = 0; i < preferencePanel_->tabCount(); ++i)
+            preferencePanel_->tab(i)->setLiveHistory(infoDict_);
+    }
     loadSysInfoTimerFinishedBool = false;
     checkDdns(false);
     Q_EMIT cycleFinished();

@@ -4,6 +4,9 @@
 #include "collect/info_dict.h"
 #include "collect/load_system_information.h"
 #include "modules/menu_module.h"
+#include "preferences/pref_notification.h"
+#include "preferences/preference_tab.h"
+#include "preferences/preferences_window.h"
 #include "prefs/module_defaults.h"
 #include "prefs/module_table.h"
 #include "prefs/settings_store.h"
@@ -14,9 +17,11 @@
 #include <QVariantMap>
 
 #include <array>
+#include <deque>
 #include <functional>
 #include <memory>
 
+class AppearanceWatcher;
 class CycleExecutor;
 
 class AppDelegate : public QObject, public MenuModuleDelegate {
@@ -59,9 +64,28 @@ public:
     LoadSystemInformation& collector() override { return *loadInfo_; }
     SettingsStore& settingsStore() override { return *userDefaults_; }
     void openPreferenceTab(int tabIndex) override;
+    const QVariantMap& currentTheme() const override { return themeColorDict_; }
     void quitApplication() override;
     bool chkGeneBool(const QString& key) const { return generalDefaults().boolValue(key); }
     qint64 chkGeneInteger(const QString& key) const { return generalDefaults().intValue(key); }
+
+    // The preferences window: one tab per module of the registry, created once at launch when
+    // there is a status bar to configure.
+    void drawModuleTabViewControllers();
+    PreferencesWindow* preferencePanel() const { return preferencePanel_; }
+    PrefNotificationCenter& prefNotificationCenter() { return *prefCenter_; }
+    // Every module's working dictionary, in module table order.
+    AllModuleDefaults retAllMyDefault() const { return moduleDefaults_; }
+    // Redraws the picture of every module that is switched on (a tab was chosen, the window closed).
+    void refreshAllMenuModules();
+
+    // A tab changed a setting: handled 0.25 s later, after any running cycle, in arrival order.
+    void notifFromPref(const PrefNotification& notification);
+    void processNotifFromPref(const PrefNotification& notification);
+    // Writes the in-memory theme and makes every module take its colours again.
+    void writeToColorThemeFile();
+    // Selects the theme's alternative when the desktop's appearance no longer matches it.
+    void changeAppearanceMode(bool desktopIsDark);
 
     void checkDdns(bool forced);
     void forcedExecutionDdns();
@@ -88,11 +112,20 @@ Q_SIGNALS:
     void ddnsLookupRequested(bool forced);
     // The redraw step of a cycle has run.
     void cycleFinished();
+    // The current theme was written to its file.
+    void themeFileWritten();
+    // Every module took its settings again (after a theme write or a theme choice).
+    void allModulesReloaded();
 
 private:
     ModuleDefaults& mutableDefaults(ModuleId id) { return moduleDefaults_[static_cast<std::size_t>(id)]; }
     bool menuOpened(ModuleId id) const;
     void redrawStep(ModuleDefaults general, InfoDict info);
+    void drainPrefNotifications();
+    void processFontOrColor(const QVariantMap& info, bool& skipRest);
+    void processModuleNotif(ModuleId id, const QVariantMap& info, bool removeFirst, bool refreshItems);
+    void handOutTabDefaults(bool themeChanged);
+    void writeNowThemeFile();
 
     std::unique_ptr<SettingsStore> userDefaults_;
     bool isDebugMode_ = false;
@@ -113,7 +146,13 @@ private:
     qreal pictureScale_ = 0;
     InfoDict infoDict_;
     QTimer* sysInfoTimer_ = nullptr;
+    QPointer<PreferencesWindow> preferencePanel_;
+    AppearanceWatcher* appearanceWatcher_ = nullptr;
+    std::deque<PrefNotification> pendingPrefs_;
+    bool prefRetryScheduled_ = false;
+    bool startupWindowShown_ = false;
     std::function<void()> rebootAction_;
+    PrefNotificationCenter* prefCenter_;
     // Last member: destroyed first, so a running cycle ends before the collector goes away.
     std::unique_ptr<CycleExecutor> executor_;
 };
