@@ -8,6 +8,7 @@
 #include "prefs/settings_store.h"
 
 #include "support/fixture_paths.h"
+#include "support/memory_settings_store.h"
 
 #include <gtest/gtest.h>
 
@@ -19,15 +20,7 @@ std::filesystem::path tree(const char* name)
     return projectFixtures() / "linux" / name;
 }
 
-class MemoryStore : public SettingsStore {
-public:
-    QVariantMap values;
-    QVariant objectForKey(const QString& key) const override { return values.value(key); }
-    void setObject(const QString& key, const QVariant& value) override { values.insert(key, value); }
-    void removeObjectForKey(const QString& key) override { values.remove(key); }
-    bool synchronize() override { return true; }
-    QVariantMap dictionaryRepresentation() const override { return values; }
-};
+using MemoryStore = MemorySettingsStore;
 
 const QString kRaw = QLatin1String(PrefKey::MacRawName);
 const QString kReal = QLatin1String(PrefKey::MacRealName);
