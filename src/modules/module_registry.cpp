@@ -3,6 +3,7 @@
 
 #include "modules/cpu/cpu_menu_module.h"
 #include "modules/general/general_menu_module.h"
+#include "modules/general/top_tab_view_controller.h"
 #include "preferences/unbuilt_module_tab.h"
 
 std::unique_ptr<MenuModule> createMenuModule(ModuleId id, MenuModuleDelegate* delegate)
@@ -27,9 +28,9 @@ std::unique_ptr<MenuModule> createMenuModule(ModuleId id, MenuModuleDelegate* de
 PreferenceTab* createPreferenceTab(ModuleId id, MenuModuleDelegate* delegate, SettingsStore& store,
                                    PrefNotificationCenter& center)
 {
-    Q_UNUSED(delegate)
     switch (id) {
     case ModuleId::General:
+        return new TopTabViewController(delegate, store, center);
     case ModuleId::Cpu:
     case ModuleId::Memory:
     case ModuleId::Network:

@@ -1,4 +1,5 @@
 // Building the status items from the settings: order, switches, odd order lists, menu cadence.
+#include "recording_status_bar.h"
 #include "test_app.h"
 
 #include "modules/cpu/cpu_menu_module.h"
@@ -13,40 +14,6 @@
 namespace {
 
 using namespace PrefKey;
-
-// Records which module items exist, in the order a left-inserting bar would show them.
-class RecordingStatusBar final : public StatusBar {
-public:
-    class Item final : public StatusItem {
-    public:
-        Item(RecordingStatusBar& bar, QString key) : bar_(bar), key_(std::move(key)) { bar_.shown.prepend(key_); }
-        ~Item() override { bar_.shown.removeOne(key_); }
-        void setImage(const QImage& image, bool templated) override
-        {
-            bar_.images[key_] = image;
-            bar_.templated[key_] = templated;
-        }
-        void setText(const QString& text) override { bar_.texts[key_] = text; }
-        void setMenu(QMenu* menu) override { bar_.menus[key_] = menu; }
-
-    private:
-        RecordingStatusBar& bar_;
-        QString key_;
-    };
-
-    std::unique_ptr<StatusItem> createItem(const QString& moduleKey) override
-    {
-        ++created;
-        return std::make_unique<Item>(*this, moduleKey);
-    }
-
-    QStringList shown;
-    QHash<QString, QImage> images;
-    QHash<QString, bool> templated;
-    QHash<QString, QString> texts;
-    QHash<QString, QMenu*> menus;
-    int created = 0;
-};
 
 void writeOrder(TestApp& t, const QVariantList& order, bool cpuOn = true)
 {

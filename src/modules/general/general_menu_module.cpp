@@ -15,6 +15,9 @@ General_MenuModule::General_MenuModule(MenuModuleDelegate* delegate, QObject* pa
 void General_MenuModule::drawBaseStatusBar()
 {
     statusMenu->clear();
+    QAction* preferences = statusMenu->addAction(localized("Preferences..."));
+    connect(preferences, &QAction::triggered, this, &General_MenuModule::openTab);
+    statusMenu->addSeparator();
     QAction* quit = statusMenu->addAction(localized("Quit"));
     connect(quit, &QAction::triggered, this, &General_MenuModule::quitMySelf);
     // The controller never redraws this item on its own, so its picture is set with its menu.

@@ -1,0 +1,56 @@
+// Colour wells in a grid per module; a change carries the key and the new colour.
+#include "modules/general/top_tab_color_section.h"
+
+#include "preferences/color_well.h"
+#include "preferences/theme_color_labels.h"
+#include "prefs/pref_keys.h"
+#include "toolkit/localization.h"
+
+#include <QFormLayout>
+#include <QGroupBox>
+#include <QGridLayout>
+#include <QLabel>
+
+namespace {
+
+constexpr int kColumns = 2;
+
+} // namespace
+
+TopTabColorSection::TopTabColorSection(QWidget* parent) : QWidget(parent)
+{
+    auto* layout = new QGridLayout(this);
+    int slot = 0;
+    for (ModuleId id : kAllModules) {
+        const QStringList keys = themeColorKeysOf(id);
+        if (keys.isEmpty())
+            continue;
+        const QString title = id == ModuleId::General ? localized("Shared") : localized(moduleKeys(id).prefName);
+        auto* group = new QGroupBox(title, this);
+        auto* form = new QFormLayout(group);
+        for (const QString& key : keys) {
+            auto* colorWell = new ColorWell(group);
+            colorWell->setObjectName(key);
+            colorWell->setToolTip(key);
+            form->addRow(themeColorLabel(key), colorWell);
+            wells_.insert(key, colorWell);
+            owners_.insert(key, id);
+            connect(colorWell, &ColorWell::colorChanged, this, [this, key](const QColor& color) {
+                Q_EMIT changeRequested({{QLatin1String(NotifKey::ChangeColorKey), key},
+                                        {QLatin1String(NotifKey::ChangeColorVal), color}});
+            });
+        }
+        layout->addWidget(group, slot / kColumns, slot % kColumns, Qt::AlignTop);
+        ++slot;
+    }
+}
+
+void TopTabColorSection::showColors(const AllModuleDefaults& all)
+{
+    for (auto it = wells_.cbegin(); it != wells_.cend(); ++it) {
+        // Shared colours are resolved into every module's dictionary; the CPU one always exists.
+        const ModuleId owner = owners_.value(it.key());
+        const ModuleDefaults& source = all[static_cast<std::size_t>(owner == ModuleId::General ? ModuleId::Cpu : owner)];
+        it.value()->setColor(source.color(it.key()));
+    }
+}

@@ -1,0 +1,199 @@
+// The top tab: module switches and order, theme and colours, and the application's own options.
+#include "modules/general/top_tab_view_controller.h"
+
+#include "modules/general/top_tab_color_section.h"
+#include "modules/general/top_tab_theme_section.h"
+#include "modules/menu_module.h"
+#include "preferences/element_order_list.h"
+#include "preferences/login_item.h"
+#include "prefs/module_switch.h"
+#include "prefs/pref_keys.h"
+#include "prefs/settings_store.h"
+#include "toolkit/localization.h"
+
+#include <QCheckBox>
+#include <QCoreApplication>
+#include <QFormLayout>
+#include <QGroupBox>
+#include <QLabel>
+#include <QMessageBox>
+#include <QScrollArea>
+#include <QSpinBox>
+#include <QVBoxLayout>
+
+using namespace PrefKey;
+
+namespace {
+
+constexpr int kMaxRebootDays = 30;
+
+QGroupBox* group(const QString& title, QWidget* content, QWidget* parent)
+{
+    auto* box = new QGroupBox(title, parent);
+    auto* layout = new QVBoxLayout(box);
+    layout->addWidget(content);
+    return box;
+}
+
+} // namespace
+
+TopTabViewController::TopTabViewController(MenuModuleDelegate* delegate, SettingsStore& store,
+                                           PrefNotificationCenter& center, QWidget* parent)
+    : PreferenceTab(ModuleId::General, store, center, parent), delegate_(delegate), modules_(new ElementOrderList()),
+      theme_(new TopTabThemeSection()), colors_(new TopTabColorSection())
+{
+    auto* content = new QWidget();
+    auto* layout = new QVBoxLayout(content);
+    auto* modulesBox = new QWidget();
+    auto* modulesLayout = new QVBoxLayout(modulesBox);
+    modulesLayout->setContentsMargins(0, 0, 0, 0);
+    auto* hint = new QLabel(localized("Drag to change the order in the menu bar."));
+    hint->setEnabled(false);
+    appIcon_ = new QCheckBox(localized("Show the Tarvel item"));
+    modulesLayout->addWidget(modules_);
+    modulesLayout->addWidget(hint);
+    modulesLayout->addWidget(appIcon_);
+    modules_->setMinimumHeight(modules_->fontMetrics().height() * 12);
+    layout->addWidget(group(localized("Modules"), modulesBox, content));
+    layout->addWidget(group(localized("Theme"), theme_, content));
+    layout->addWidget(group(localized("Colors"), colors_, content));
+    layout->addWidget(group(localized("General"), buildOptions(), content));
+    layout->addStretch(1);
+
+    auto* scroll = new QScrollArea(this);
+    scroll->setWidgetResizable(true);
+    scroll->setFrameShape(QFrame::NoFrame);
+    scroll->setWidget(content);
+    auto* outer = new QVBoxLayout(this);
+    outer->setContentsMargins(0, 0, 0, 0);
+    outer->addWidget(scroll);
+
+    connect(modules_, &ElementOrderList::entrySwitched, this, &TopTabViewController::moduleSwitched);
+    connect(modules_, &ElementOrderList::orderChanged, this, &TopTabViewController::orderChanged);
+    connect(appIcon_, &QCheckBox::toggled, this, [this](bool on) { storeBool(DisplayMyMenuIcon, on); });
+    connect(theme_, &TopTabThemeSection::changeRequested, this, &TopTabViewController::post);
+    connect(theme_, &TopTabThemeSection::saveRequested, this, [this] {
+        if (delegate_ != nullptr)
+            theme_->saveTheme(delegate_->currentTheme());
+    });
+    connect(colors_, &TopTabColorSection::changeRequested, this, &TopTabViewController::post);
+    theme_->rebuildThemeMenus();
+}
+
+QWidget* TopTabViewController::buildOptions()
+{
+    auto* options = new QWidget();
+    auto* form = new QFormLayout(options);
+    rebootDays_ = new QSpinBox(options);
+    rebootDays_->setRange(0, kMaxRebootDays);
+    rebootDays_->setSpecialValueText(localized("Never"));
+    form->addRow(localized("Reboot Tarvel regularly (days)"), rebootDays_);
+    atStartup_ = new QCheckBox(localized("Display preferences at startup"), options);
+    denyUpdate_ = new QCheckBox(localized("Never receive the update notification"), options);
+    atLogin_ = new QCheckBox(localized("Start Tarvel at login"), options);
+    // Named after their keys, for tests and accessibility tools.
+    rebootDays_->setObjectName(QLatin1String(kRebootRegularlyDays));
+    atStartup_->setObjectName(QLatin1String(DisplayTopWindowAtStartup));
+    denyUpdate_->setObjectName(QLatin1String(DenyUpdateNotif));
+    atLogin_->setObjectName(QLatin1String(AutoLaunchAtLogin));
+    form->addRow(atStartup_);
+    form->addRow(denyUpdate_);
+    form->addRow(atLogin_);
+    connect(rebootDays_, &QSpinBox::valueChanged, this, [this](int days) {
+        if (loading())
+            return;
+        store().setInteger(kRebootRegularlyDays, days);
+        commit();
+    });
+    connect(atStartup_, &QCheckBox::toggled, this, [this](bool on) { storeBool(DisplayTopWindowAtStartup, on); });
+    connect(denyUpdate_, &QCheckBox::toggled, this, [this](bool on) { storeBool(DenyUpdateNotif, on); });
+    connect(atLogin_, &QCheckBox::toggled, this, &TopTabViewController::loginChanged);
+    return options;
+}
+
+void TopTabViewController::loadViews()
+{
+    loadModuleEnabled();
+    appIcon_->setChecked(store().boolForKey(DisplayMyMenuIcon));
+    rebootDays_->setValue(static_cast<int>(store().integerForKey(kRebootRegularlyDays)));
+    atStartup_->setChecked(store().boolForKey(DisplayTopWindowAtStartup));
+    denyUpdate_->setChecked(store().boolForKey(DenyUpdateNotif));
+    atLogin_->setChecked(store().boolForKey(AutoLaunchAtLogin));
+    colors_->showColors(allDefaults());
+    rebuildFontMenus();
+}
+
+void TopTabViewController::resetViews(int which)
+{
+    theme_->rebuildThemeMenus();
+    PreferenceTab::resetViews(which);
+}
+
+void TopTabViewController::rebuildThemeMenus()
+{
+    theme_->rebuildThemeMenus();
+}
+
+void TopTabViewController::rebuildFontMenus()
+{
+    if (delegate_ != nullptr)
+        theme_->rebuildFontMenus(delegate_->currentTheme());
+}
+
+void TopTabViewController::loadModuleEnabled()
+{
+    QList<ElementOrderList::Entry> entries;
+    for (const QVariant& code : store().arrayForKey(TopItemSortArray)) {
+        const auto id = moduleForSortCode(code.toLongLong());
+        if (id)
+            entries.append({code.toLongLong(), localized(moduleKeys(*id).prefName),
+                            PrefFunctions::isModuleSwitchedOn(store(), *id)});
+    }
+    modules_->setEntries(entries);
+}
+
+void TopTabViewController::moduleSwitched(qint64 code, bool on)
+{
+    const auto id = moduleForSortCode(code);
+    if (!id || loading())
+        return;
+    PrefFunctions::setModuleSwitch(store(), *id, on);
+    // The module's own settings changed too, so every working dictionary is loaded again; the
+    // items are built anew so that a returning module takes its place in the order.
+    commit({{QLatin1String(NotifKey::ModuleDefaultReload), true}, {QLatin1String(NotifKey::ModuleAllocNow), true}});
+}
+
+void TopTabViewController::orderChanged(const QList<qint64>& order)
+{
+    if (loading())
+        return;
+    QVariantList stored;
+    for (qint64 code : order)
+        stored.append(code);
+    store().setArray(TopItemSortArray, stored);
+    // Items can only be placed by creating them again in the new order.
+    commit({{QLatin1String(NotifKey::ModuleAllocNow), true}});
+}
+
+void TopTabViewController::storeBool(const char* key, bool on)
+{
+    if (loading())
+        return;
+    store().setBool(key, on);
+    commit();
+}
+
+void TopTabViewController::loginChanged(bool on)
+{
+    if (loading())
+        return;
+    if (!LoginItem::setEnabled(on, QCoreApplication::applicationFilePath())) {
+        QMessageBox::warning(this, localized("Start Tarvel at login"),
+                             localized("The autostart entry could not be written:") + QLatin1Char('\n') +
+                                 LoginItem::entryPath());
+        const QSignalBlocker blocker(atLogin_);
+        atLogin_->setChecked(!on);
+        return;
+    }
+    storeBool(AutoLaunchAtLogin, on);
+}

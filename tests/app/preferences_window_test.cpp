@@ -1,0 +1,171 @@
+// The preferences window driven offscreen: switches, order, colour bursts, fonts, persistence.
+#include "recording_status_bar.h"
+#include "test_app.h"
+
+#include "modules/general/top_tab_color_section.h"
+#include "modules/general/top_tab_theme_section.h"
+#include "modules/general/top_tab_view_controller.h"
+#include "preferences/color_well.h"
+#include "preferences/element_order_list.h"
+#include "preferences/preferences_window.h"
+#include "prefs/plist_io.h"
+#include "prefs/pref_keys.h"
+#include "prefs/theme_color.h"
+#include "prefs/theme_files.h"
+#include "prefs/theme_keys.h"
+
+#include <QCheckBox>
+#include <QComboBox>
+#include <QDir>
+#include <QFile>
+#include <QSpinBox>
+#include <QTest>
+#include <gtest/gtest.h>
+
+namespace {
+
+using namespace PrefKey;
+
+// Longer than the 0.25 s hand-over of a notification.
+constexpr int kSettleMs = 400;
+
+struct PreferencesTest : ::testing::Test {
+    void SetUp() override { launch(); }
+    // Launches and lets the launch's own cycle finish: notifications wait for running cycles.
+    void launch()
+    {
+        t.launchWithBar(bar);
+        t.executor->finishCycle();
+    }
+
+    TopTabViewController& top()
+    {
+        auto* tab = qobject_cast<TopTabViewController*>(t.app->preferencePanel()->tab(0));
+        EXPECT_NE(tab, nullptr);
+        return *tab;
+    }
+    QSpinBox* rebootDays() { return top().findChild<QSpinBox*>(QLatin1String(kRebootRegularlyDays)); }
+    void switchModule(qint64 code, bool on)
+    {
+        ElementOrderList* list = top().moduleList();
+        for (int row = 0; row < list->count(); ++row) {
+            if (list->order().at(row) == code)
+                list->item(row)->setCheckState(on ? Qt::Checked : Qt::Unchecked);
+        }
+    }
+    QVariantMap themeFile() const
+    {
+        return PlistIo::readDictionary(TvlClasses::retThemeFilePath(QLatin1String(TvlClasses::kNowThemeFileName)))
+            .value_or(QVariantMap());
+    }
+
+    RecordingStatusBar bar;
+    TestApp t;
+};
+
+TEST_F(PreferencesTest, WindowHasOneTabPerModuleTitledWithTheApplication)
+{
+    PreferencesWindow* window = t.app->preferencePanel();
+    ASSERT_NE(window, nullptr);
+    EXPECT_EQ(window->tabCount(), 9);
+    EXPECT_TRUE(window->windowTitle().endsWith(QStringLiteral(" Preferences")));
+    t.app->openPreferenceTab(1);
+    EXPECT_EQ(window->currentTab(), 1);
+    EXPECT_TRUE(window->isVisible());
+}
+
+TEST_F(PreferencesTest, SwitchingCpuOffAndOnRemovesAndRestoresItsItemAndElements)
+{
+    ASSERT_EQ(bar.shown, (QStringList{QStringLiteral("CPU"), QStringLiteral("General")}));
+    t.store().setBool(Cpu_Display_LevelBar, true);
+    switchModule(1, false);
+    QTest::qWait(kSettleMs);
+    EXPECT_EQ(bar.shown, QStringList{QStringLiteral("General")});
+    EXPECT_FALSE(t.store().boolForKey(Cpu_Display_Graph));
+
+    switchModule(1, true);
+    QTest::qWait(kSettleMs);
+    EXPECT_EQ(bar.shown, (QStringList{QStringLiteral("CPU"), QStringLiteral("General")}));
+    // The elements the user had come back, not the first-run ones.
+    EXPECT_TRUE(t.store().boolForKey(Cpu_Display_LevelBar));
+    EXPECT_TRUE(t.store().boolForKey(Cpu_Display_Graph));
+}
+
+TEST_F(PreferencesTest, ANotificationDuringACycleWaitsForItsRedrawStep)
+{
+    t.app->loadSysInfoTimer();
+    ASSERT_TRUE(t.app->cycleRunning());
+    switchModule(1, false);
+    QTest::qWait(kSettleMs * 2);
+    EXPECT_TRUE(bar.shown.contains(QStringLiteral("CPU")));
+    t.executor->finishCycle();
+    QTest::qWait(kSettleMs);
+    EXPECT_FALSE(bar.shown.contains(QStringLiteral("CPU")));
+}
+
+TEST_F(PreferencesTest, MovingAModuleStoresTheOrderAndBuildsTheItemsAgain)
+{
+    const int createdBefore = bar.created;
+    top().moduleList()->moveEntry(0, 2);
+    QTest::qWait(kSettleMs);
+    const QVariantList order = t.store().arrayForKey(TopItemSortArray);
+    ASSERT_EQ(order.size(), 8);
+    EXPECT_EQ(order.at(2).toLongLong(), 1);
+    EXPECT_EQ(order.at(0).toLongLong(), 2);
+    EXPECT_GT(bar.created, createdBefore + 1) << "all items are created again in the new order";
+}
+
+TEST_F(PreferencesTest, ABurstOfColourChangesIsWrittenOnceAndReloadedOnce)
+{
+    int writes = 0;
+    int reloads = 0;
+    QObject::connect(t.app.get(), &AppDelegate::themeFileWritten, [&] { ++writes; });
+    QObject::connect(t.app.get(), &AppDelegate::allModulesReloaded, [&] { ++reloads; });
+    ColorWell* well = top().colorSection()->well(QStringLiteral("A01"));
+    ASSERT_NE(well, nullptr);
+    for (int i = 0; i < 10; ++i) {
+        Q_EMIT well->colorChanged(QColor(10 * i, 0, 0, 200));
+        QTest::qWait(50);
+    }
+    QTest::qWait(1000 + 2 * kSettleMs);
+    EXPECT_EQ(writes, 1);
+    EXPECT_EQ(reloads, 1);
+    const QColor stored = TvlClasses::retColorFromArray(themeFile().value(QStringLiteral("A01")));
+    EXPECT_EQ(stored.red(), 90);
+    EXPECT_EQ(stored.alpha(), 200);
+    EXPECT_EQ(t.app->defaults(ModuleId::Cpu).color(QStringLiteral("A01")).red(), 90);
+}
+
+TEST_F(PreferencesTest, AFontChangeIsWrittenAtOnce)
+{
+    QComboBox* styles = top().themeSection()->fontStyleMenu();
+    ASSERT_GT(styles->count(), 1) << "the theme's font family has several styles";
+    const int other = styles->currentIndex() == 0 ? 1 : 0;
+    const QString style = styles->itemText(other);
+    styles->setCurrentIndex(other);
+    QTest::qWait(kSettleMs);
+    EXPECT_EQ(themeFile().value(QLatin1String(_FontStyle)).toString(), style);
+    EXPECT_EQ(t.app->generalDefaults().stringValue(_FontStyle), style);
+}
+
+TEST_F(PreferencesTest, SettingsSurviveARestartAndAFailedSaveIsShown)
+{
+    rebootDays()->setValue(3);
+    // The restart timer follows a second later.
+    QTest::qWait(1000 + kSettleMs);
+    EXPECT_TRUE(t.app->rebootTimerActive());
+    t.app.reset();
+    launch();
+    EXPECT_EQ(t.app->chkGeneInteger(kRebootRegularlyDays), 3);
+    EXPECT_EQ(rebootDays()->value(), 3);
+
+    // A folder where the file should be: no save can succeed, whoever runs the test.
+    ASSERT_TRUE(QFile::remove(t.settingsPath()));
+    ASSERT_TRUE(QDir().mkpath(t.settingsPath() + QStringLiteral("/blocked")));
+    PreferencesWindow* window = t.app->preferencePanel();
+    EXPECT_FALSE(window->storeFailureShown());
+    rebootDays()->setValue(5);
+    EXPECT_TRUE(window->storeFailureShown());
+}
+
+} // namespace
