@@ -1,6 +1,8 @@
 // Command-line parsing with a usage message and exit status 2 for bad arguments.
 #include "app/app_options.h"
 
+#include "prefs/module_table.h"
+
 #include <QCommandLineParser>
 #include <QFileInfo>
 
@@ -9,7 +11,7 @@ namespace {
 QString usageText()
 {
     return QStringLiteral(
-        "Usage: tarvel [--root DIR] [--settings FILE] [--bar | COMMAND]\n"
+        "Usage: tarvel [--root DIR] [--settings FILE] [--bar] [--preferences [MODULE]] | COMMAND\n"
         "\n"
         "Without a command, runs the monitor: in the system tray, in a bar window at the top of\n"
         "the screen where there is no tray (or with --bar), or as live text lines where there is\n"
@@ -27,6 +29,9 @@ QString usageText()
         "  --root DIR       read /proc and /sys below DIR instead of / (also TARVEL_ROOT)\n"
         "  --settings FILE  use FILE as the settings store\n"
         "  --bar            show the bar window instead of tray icons\n"
+        "  --preferences [MODULE]\n"
+        "                   open the preferences at start, on MODULE's tab (General, CPU,\n"
+        "                   Memory, Network, Disk, Volume, Temp, Fan or VNC)\n"
         "  -h, --help       show this text\n"
         "  -v, --version    show the version\n");
 }
@@ -47,11 +52,12 @@ OptionsResult parseAppOptions(const QStringList& arguments, const QString& envir
     const QCommandLineOption jsonOpt(QStringLiteral("json"));
     const QCommandLineOption cyclesOpt(QStringLiteral("cycles"), QString(), QStringLiteral("N"));
     const QCommandLineOption barOpt(QStringLiteral("bar"));
+    const QCommandLineOption prefsOpt(QStringLiteral("preferences"));
     const QCommandLineOption outOpt(QStringLiteral("out"), QString(), QStringLiteral("DIR"));
     const QCommandLineOption scaleOpt(QStringLiteral("scale"), QString(), QStringLiteral("S"));
     const QCommandLineOption helpOpt(QStringList{QStringLiteral("h"), QStringLiteral("help")});
     const QCommandLineOption versionOpt(QStringList{QStringLiteral("v"), QStringLiteral("version")});
-    parser.addOptions({rootOpt, settingsOpt, jsonOpt, cyclesOpt, barOpt, outOpt, scaleOpt, helpOpt, versionOpt});
+    parser.addOptions({rootOpt, settingsOpt, jsonOpt, cyclesOpt, barOpt, prefsOpt, outOpt, scaleOpt, helpOpt, versionOpt});
     parser.addPositionalArgument(QStringLiteral("command"), QString());
 
     if (!parser.parse(arguments))
@@ -62,7 +68,21 @@ OptionsResult parseAppOptions(const QStringList& arguments, const QString& envir
         return {std::nullopt, 0, QStringLiteral("tarvel %1\n").arg(QStringLiteral(TARVEL_VERSION))};
 
     AppOptions options;
-    const QStringList positional = parser.positionalArguments();
+    QStringList positional = parser.positionalArguments();
+    if (parser.isSet(prefsOpt)) {
+        // The module named after --preferences is its value, not a command.
+        options.preferencesTab = 0;
+        if (!positional.isEmpty()) {
+            for (std::size_t i = 0; i < kAllModules.size(); ++i) {
+                if (positional.front().compare(QLatin1String(moduleKeys(kAllModules[i]).historyKey),
+                                               Qt::CaseInsensitive) == 0) {
+                    options.preferencesTab = static_cast<int>(i);
+                    positional.removeFirst();
+                    break;
+                }
+            }
+        }
+    }
     if (positional.size() > 1)
         return usageError(QStringLiteral("unexpected argument '%1'").arg(positional.at(1)));
     if (positional.size() == 1) {
@@ -82,8 +102,8 @@ OptionsResult parseAppOptions(const QStringList& arguments, const QString& envir
         return usageError(QStringLiteral("--cycles belongs to the snapshot and render commands"));
     if (!render && (parser.isSet(outOpt) || parser.isSet(scaleOpt)))
         return usageError(QStringLiteral("--out and --scale belong to the render command"));
-    if (parser.isSet(barOpt) && options.command != AppOptions::Command::Run)
-        return usageError(QStringLiteral("--bar is for running the monitor"));
+    if ((parser.isSet(barOpt) || parser.isSet(prefsOpt)) && options.command != AppOptions::Command::Run)
+        return usageError(QStringLiteral("--bar and --preferences are for running the monitor"));
     options.bar = parser.isSet(barOpt);
     options.json = parser.isSet(jsonOpt);
     if (render) {

@@ -12,6 +12,7 @@ struct AppOptions {
     QString root = QStringLiteral("/"); // --root, else TARVEL_ROOT, else "/"
     QString settingsFile;               // --settings; empty means the per-user file
     bool bar = false;                   // run: the bar window even where a tray exists
+    std::optional<int> preferencesTab;  // run: open the preferences on this tab (0 is the top tab)
     bool json = false;                  // snapshot only
     int cycles = 2;                     // snapshot and render
     QString outDir;                     // render only

@@ -40,5 +40,7 @@ int runMonitor(const AppOptions& options, int argc, char** argv)
     AppDelegate delegate(openSettingsStore(options), makeSourceSet(options.root.toStdString()));
     delegate.setStatusBar(bar.get());
     delegate.applicationDidFinishLaunching();
+    if (options.preferencesTab)
+        delegate.openPreferenceTab(*options.preferencesTab);
     return QApplication::exec();
 }

@@ -25,6 +25,11 @@ std::unique_ptr<MenuModule> createMenuModule(ModuleId id, MenuModuleDelegate* de
     return nullptr;
 }
 
+bool moduleHasStatusItem(ModuleId id)
+{
+    return createMenuModule(id, nullptr) != nullptr;
+}
+
 PreferenceTab* createPreferenceTab(ModuleId id, MenuModuleDelegate* delegate, SettingsStore& store,
                                    PrefNotificationCenter& center)
 {

@@ -31,6 +31,9 @@ void ElementOrderList::setEntries(const QList<Entry>& entries)
         item->setFlags(Qt::ItemIsEnabled | Qt::ItemIsSelectable | Qt::ItemIsUserCheckable | Qt::ItemIsDragEnabled);
         item->setCheckState(entry.on ? Qt::Checked : Qt::Unchecked);
     }
+    // Tall enough for every entry, so that dragging never needs scrolling.
+    if (count() > 0)
+        setFixedHeight(sizeHintForRow(0) * count() + 2 * frameWidth() + 4);
     filling_ = false;
 }
 

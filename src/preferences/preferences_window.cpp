@@ -7,8 +7,16 @@
 #include <QApplication>
 #include <QCloseEvent>
 #include <QLabel>
+#include <QScreen>
 #include <QTabWidget>
 #include <QVBoxLayout>
+
+namespace {
+
+// Room for every tab's title and the top tab's sections without scrolling sideways.
+constexpr QSize kDefaultSize(780, 700);
+
+} // namespace
 
 PreferencesWindow::PreferencesWindow(QWidget* parent)
     : QWidget(parent, Qt::Window), tabs_(new QTabWidget(this)), failure_(new QLabel(this))
@@ -29,6 +37,7 @@ PreferencesWindow::PreferencesWindow(QWidget* parent)
     version->setEnabled(false);
     layout->addWidget(version);
     connect(tabs_, &QTabWidget::currentChanged, this, &PreferencesWindow::tabSelected);
+    resize(kDefaultSize);
 }
 
 void PreferencesWindow::addTab(PreferenceTab* tab, const QString& label)
@@ -57,6 +66,15 @@ void PreferencesWindow::openTab(int index)
 {
     if (index >= 0 && index < tabs_->count())
         tabs_->setCurrentIndex(index);
+    if (!placed_) {
+        // Centred once; after that the window stays where the user put it.
+        placed_ = true;
+        if (const QScreen* screen = QGuiApplication::primaryScreen()) {
+            const QRect area = screen->availableGeometry();
+            resize(size().boundedTo(area.size()));
+            move(area.center() - rect().center());
+        }
+    }
     show();
     raise();
     activateWindow();

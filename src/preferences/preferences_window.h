@@ -34,4 +34,5 @@ protected:
 private:
     QTabWidget* tabs_;
     QLabel* failure_;
+    bool placed_ = false;
 };

@@ -42,6 +42,10 @@ TEST(AppOptions, CommandsAndOptions)
     EXPECT_EQ(render.options->scale, 1.5);
     EXPECT_EQ(render.options->cycles, 1);
     EXPECT_TRUE(parse({"--bar"}).options->bar);
+    // The module after --preferences names the tab; without one the top tab opens.
+    EXPECT_EQ(parse({"--preferences", "cpu", "--bar"}).options->preferencesTab, 1);
+    EXPECT_EQ(parse({"--preferences"}).options->preferencesTab, 0);
+    EXPECT_FALSE(parse({}).options->preferencesTab);
 
     const OptionsResult help = parse({"--help"});
     EXPECT_FALSE(help.options);
@@ -55,6 +59,8 @@ TEST(AppOptions, BadArgumentsGiveUsageAndStatusTwo)
         {"--bogus"},
         {"frobnicate"},
         {"snapshot", "extra"},
+        {"snapshot", "--preferences"},
+        {"--preferences", "Toaster"},
         {"snapshot", "--cycles", "0"},
         {"snapshot", "--cycles", "two"},
         {"snapshot", "--cycles"},

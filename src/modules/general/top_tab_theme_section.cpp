@@ -58,6 +58,8 @@ TopTabThemeSection::TopTabThemeSection(QWidget* parent)
     form->addRow(localized("Font"), fontRow);
     adjust_->setRange(-5, 5);
     sizeDiff_->setRange(-4, 6);
+    adjust_->setSizePolicy(QSizePolicy::Fixed, QSizePolicy::Fixed);
+    sizeDiff_->setSizePolicy(QSizePolicy::Fixed, QSizePolicy::Fixed);
     form->addRow(localized("Font position adjustment"), adjust_);
     form->addRow(localized("Font size difference"), sizeDiff_);
     families_->addItems(QFontDatabase::families());

@@ -4,6 +4,7 @@
 #include "modules/general/top_tab_color_section.h"
 #include "modules/general/top_tab_theme_section.h"
 #include "modules/menu_module.h"
+#include "modules/module_registry.h"
 #include "preferences/element_order_list.h"
 #include "preferences/login_item.h"
 #include "prefs/module_switch.h"
@@ -53,7 +54,6 @@ TopTabViewController::TopTabViewController(MenuModuleDelegate* delegate, Setting
     modulesLayout->addWidget(modules_);
     modulesLayout->addWidget(hint);
     modulesLayout->addWidget(appIcon_);
-    modules_->setMinimumHeight(modules_->fontMetrics().height() * 12);
     layout->addWidget(group(localized("Modules"), modulesBox, content));
     layout->addWidget(group(localized("Theme"), theme_, content));
     layout->addWidget(group(localized("Colors"), colors_, content));
@@ -86,6 +86,7 @@ QWidget* TopTabViewController::buildOptions()
     auto* form = new QFormLayout(options);
     rebootDays_ = new QSpinBox(options);
     rebootDays_->setRange(0, kMaxRebootDays);
+    rebootDays_->setSizePolicy(QSizePolicy::Fixed, QSizePolicy::Fixed);
     rebootDays_->setSpecialValueText(localized("Never"));
     form->addRow(localized("Reboot Tarvel regularly (days)"), rebootDays_);
     atStartup_ = new QCheckBox(localized("Display preferences at startup"), options);
@@ -146,7 +147,11 @@ void TopTabViewController::loadModuleEnabled()
     for (const QVariant& code : store().arrayForKey(TopItemSortArray)) {
         const auto id = moduleForSortCode(code.toLongLong());
         if (id)
-            entries.append({code.toLongLong(), localized(moduleKeys(*id).prefName),
+            entries.append({code.toLongLong(),
+                            moduleHasStatusItem(*id)
+                                ? localized(moduleKeys(*id).prefName)
+                                : localized(moduleKeys(*id).prefName) + QStringLiteral("  ") +
+                                      localized("(not available on this system yet)"),
                             PrefFunctions::isModuleSwitchedOn(store(), *id)});
     }
     modules_->setEntries(entries);
