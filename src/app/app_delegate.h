@@ -65,6 +65,7 @@ public:
     SettingsStore& settingsStore() override { return *userDefaults_; }
     void openPreferenceTab(int tabIndex) override;
     const QVariantMap& currentTheme() const override { return themeColorDict_; }
+    QList<QImage> shownBarImages() const override;
     void quitApplication() override;
     bool chkGeneBool(const QString& key) const { return generalDefaults().boolValue(key); }
     qint64 chkGeneInteger(const QString& key) const { return generalDefaults().intValue(key); }

@@ -76,6 +76,19 @@ void AppDelegate::openPreferenceTab(int tabIndex)
         preferencePanel_->openTab(tabIndex);
 }
 
+QList<QImage> AppDelegate::shownBarImages() const
+{
+    QList<QImage> images;
+    for (const QVariant& code : generalDefaults().listValue(PrefKey::TopItemSortArray)) {
+        const auto id = moduleForSortCode(code.toLongLong());
+        if (id && menuModule(*id) != nullptr && !menuModule(*id)->shownImage().isNull())
+            images.append(menuModule(*id)->shownImage());
+    }
+    if (const MenuModule* general = menuModule(ModuleId::General); general != nullptr && !general->shownImage().isNull())
+        images.append(general->shownImage());
+    return images;
+}
+
 void AppDelegate::refreshAllMenuModules()
 {
     for (ModuleId id : kAllModules) {

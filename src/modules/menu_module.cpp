@@ -64,3 +64,10 @@ qreal MenuModule::pictureScale() const
         return pictureScale_;
     return qGuiApp != nullptr ? qGuiApp->devicePixelRatio() : 1.0;
 }
+
+void MenuModule::showImage(const QImage& image)
+{
+    shownImage_ = image;
+    if (statusItem)
+        statusItem->setImage(image, menuOpened());
+}

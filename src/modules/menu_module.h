@@ -5,6 +5,8 @@
 #include "modules/status_bar.h"
 #include "prefs/module_defaults.h"
 
+#include <QImage>
+#include <QList>
 #include <QMenu>
 #include <QObject>
 #include <QPointer>
@@ -26,6 +28,8 @@ public:
     virtual void openPreferenceTab(int tabIndex) = 0;
     // The colour theme in use, as stored in its file.
     virtual const QVariantMap& currentTheme() const = 0;
+    // The pictures the status items show now, left to right.
+    virtual QList<QImage> shownBarImages() const = 0;
     virtual void quitApplication() = 0;
 };
 
@@ -54,6 +58,8 @@ public:
     // Only the Temp module counts the sensors its menu shows.
     virtual void resetMenuNowCount() {}
     QMenu* menu() const { return statusMenu; }
+    // The picture the status item shows now.
+    const QImage& shownImage() const { return shownImage_; }
     StatusItem* item() const { return statusItem.get(); }
 
     // Drives the open state as the menu would; the front ends' menus call these through signals.
@@ -70,6 +76,8 @@ protected:
 
     void openTab();
     qreal pictureScale() const;
+    // Shows the picture in the status item and keeps it for previews.
+    void showImage(const QImage& image);
 
     MenuModuleDelegate* myDelegate;
     ModuleDefaults myDefaults;
@@ -81,4 +89,5 @@ private:
     int preferenceTab_;
     bool menuOpened_ = false;
     qreal pictureScale_ = 0; // 0: the screen's
+    QImage shownImage_;
 };

@@ -72,7 +72,7 @@ void CPU_MenuModule::refreshBar()
     imageCpuBar.redrawWithSize(QSizeF(width, height), TvlClasses::retStatusMenuInsets(cpuShownElementCount(myDefaults)),
                                menuOpened(), true, myDefaults, resumeArray);
     barImage_ = imageCpuBar.image(pictureScale());
-    statusItem->setImage(barImage_, menuOpened());
+    showImage(barImage_);
     statusItem->setText(cpuUsageText(resumeArray.back().back()));
 }
 

@@ -32,7 +32,7 @@ void General_MenuModule::refreshBar()
     QImage image = picture.image;
     if (!image.isNull() && picture.size.width() > 0)
         image.setDevicePixelRatio(image.width() / picture.size.width());
-    statusItem->setImage(image, menuOpened());
+    showImage(image);
     statusItem->setText(myDefaults.stringValue(PrefKey::PrefName));
 }
 

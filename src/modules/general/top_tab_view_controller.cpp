@@ -18,15 +18,20 @@
 #include <QGroupBox>
 #include <QLabel>
 #include <QMessageBox>
+#include <QPainter>
 #include <QScrollArea>
 #include <QSpinBox>
 #include <QVBoxLayout>
+
+#include <algorithm>
 
 using namespace PrefKey;
 
 namespace {
 
 constexpr int kMaxRebootDays = 30;
+// Between pictures in the preview, as a panel spaces its items.
+constexpr double kPreviewSpacing = 8;
 
 QGroupBox* group(const QString& title, QWidget* content, QWidget* parent)
 {
@@ -51,9 +56,16 @@ TopTabViewController::TopTabViewController(MenuModuleDelegate* delegate, Setting
     auto* hint = new QLabel(localized("Drag to change the order in the menu bar."));
     hint->setEnabled(false);
     appIcon_ = new QCheckBox(localized("Show the Tarvel item"));
+    barPreviewOn_ = new QCheckBox(localized("Preview the menu bar here"));
+    barPreviewOn_->setObjectName(QLatin1String(TopHistgramPreview));
+    barPreview_ = new QLabel();
+    barPreview_->setAlignment(Qt::AlignRight | Qt::AlignVCenter);
+    barPreview_->setAutoFillBackground(true);
     modulesLayout->addWidget(modules_);
     modulesLayout->addWidget(hint);
     modulesLayout->addWidget(appIcon_);
+    modulesLayout->addWidget(barPreviewOn_);
+    modulesLayout->addWidget(barPreview_);
     layout->addWidget(group(localized("Modules"), modulesBox, content));
     layout->addWidget(group(localized("Theme"), theme_, content));
     layout->addWidget(group(localized("Colors"), colors_, content));
@@ -71,6 +83,10 @@ TopTabViewController::TopTabViewController(MenuModuleDelegate* delegate, Setting
     connect(modules_, &ElementOrderList::entrySwitched, this, &TopTabViewController::moduleSwitched);
     connect(modules_, &ElementOrderList::orderChanged, this, &TopTabViewController::orderChanged);
     connect(appIcon_, &QCheckBox::toggled, this, [this](bool on) { storeBool(DisplayMyMenuIcon, on); });
+    connect(barPreviewOn_, &QCheckBox::toggled, this, [this](bool on) {
+        storeBool(TopHistgramPreview, on);
+        drawBarPreview();
+    });
     connect(theme_, &TopTabThemeSection::changeRequested, this, &TopTabViewController::post);
     connect(theme_, &TopTabThemeSection::saveRequested, this, [this] {
         if (delegate_ != nullptr)
@@ -116,6 +132,8 @@ void TopTabViewController::loadViews()
 {
     loadModuleEnabled();
     appIcon_->setChecked(store().boolForKey(DisplayMyMenuIcon));
+    barPreviewOn_->setChecked(store().boolForKey(TopHistgramPreview));
+    drawBarPreview();
     rebootDays_->setValue(static_cast<int>(store().integerForKey(kRebootRegularlyDays)));
     atStartup_->setChecked(store().boolForKey(DisplayTopWindowAtStartup));
     denyUpdate_->setChecked(store().boolForKey(DenyUpdateNotif));
@@ -155,6 +173,45 @@ void TopTabViewController::loadModuleEnabled()
                             PrefFunctions::isModuleSwitchedOn(store(), *id)});
     }
     modules_->setEntries(entries);
+}
+
+void TopTabViewController::setLiveHistory(const InfoDict& info)
+{
+    Q_UNUSED(info)
+    drawBarPreview();
+}
+
+void TopTabViewController::drawBarPreview()
+{
+    barPreview_->setVisible(barPreviewOn_->isChecked());
+    if (!barPreviewOn_->isChecked() || delegate_ == nullptr)
+        return;
+    const QList<QImage> images = delegate_->shownBarImages();
+    double width = 0;
+    double height = 0;
+    qreal ratio = 1;
+    for (const QImage& image : images) {
+        const QSizeF points = image.deviceIndependentSize();
+        width += points.width() + kPreviewSpacing;
+        height = std::max(height, points.height());
+        ratio = std::max(ratio, image.devicePixelRatio());
+    }
+    if (images.isEmpty()) {
+        barPreview_->clear();
+        return;
+    }
+    QImage strip((QSizeF(width + kPreviewSpacing, height) * ratio).toSize(), QImage::Format_ARGB32_Premultiplied);
+    strip.setDevicePixelRatio(ratio);
+    strip.fill(Qt::transparent);
+    QPainter painter(&strip);
+    double x = kPreviewSpacing;
+    for (const QImage& image : images) {
+        const QSizeF points = image.deviceIndependentSize();
+        painter.drawImage(QRectF(QPointF(x, (height - points.height()) / 2), points), image);
+        x += points.width() + kPreviewSpacing;
+    }
+    painter.end();
+    barPreview_->setPixmap(QPixmap::fromImage(strip));
 }
 
 void TopTabViewController::moduleSwitched(qint64 code, bool on)

@@ -6,6 +6,7 @@
 class ElementOrderList;
 class MenuModuleDelegate;
 class QCheckBox;
+class QLabel;
 class QSpinBox;
 class TopTabColorSection;
 class TopTabThemeSection;
@@ -20,6 +21,7 @@ public:
     void rebuildThemeMenus() override;
     void rebuildFontMenus() override;
     void loadModuleEnabled() override;
+    void setLiveHistory(const InfoDict& info) override;
 
     ElementOrderList* moduleList() const { return modules_; }
     TopTabThemeSection* themeSection() const { return theme_; }
@@ -34,10 +36,13 @@ private:
     void orderChanged(const QList<qint64>& order);
     void storeBool(const char* key, bool on);
     void loginChanged(bool on);
+    void drawBarPreview();
 
     MenuModuleDelegate* delegate_;
     ElementOrderList* modules_;
     QCheckBox* appIcon_ = nullptr;
+    QCheckBox* barPreviewOn_ = nullptr;
+    QLabel* barPreview_ = nullptr;
     TopTabThemeSection* theme_;
     TopTabColorSection* colors_;
     QSpinBox* rebootDays_ = nullptr;
