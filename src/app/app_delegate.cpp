@@ -5,6 +5,7 @@
 #include "app/cycle_executor.h"
 #include "app/general_functions_reboot.h"
 #include "app/sampling_cycle.h"
+#include "app/volume_tracker.h"
 #include "modules/module_registry.h"
 #include "net/ddns_settings.h"
 #include "prefs/pref_functions.h"
@@ -26,6 +27,7 @@ constexpr quint32 kDdnsCheckEveryCycles = 600;
 AppDelegate::AppDelegate(std::unique_ptr<SettingsStore> store, SourceSet sources, QObject* parent)
     : QObject(parent), userDefaults_(std::move(store)),
       loadInfo_(std::make_unique<LoadSystemInformation>(std::move(sources))),
+      volumeTracker_(std::make_unique<VolumeTracker>(*loadInfo_, defaults(ModuleId::General))),
       rebootAction_(&GeneralFunctions::rebootMe), executor_(std::make_unique<ThreadPoolCycleExecutor>(this))
 {
 }
@@ -93,6 +95,7 @@ void AppDelegate::applicationDidFinishLaunching(bool startTimer)
     }
 
     checkDrawMenu();
+    volumeTracker_->startWatching();
 
     loadSysInfoTimer();
     if (startTimer) {
@@ -172,6 +175,7 @@ void AppDelegate::checkDrawMenu()
         moduleAlloc(ModuleId::General);
     else
         moduleRelease(ModuleId::General);
+    volumeTracker_->collectDskVolDetail();
     // Each new item goes to the left of the others, so walking the order backwards lays the bar
     // out in the user's order.
     const QVariantList order = generalDefaults().listValue(PrefKey::TopItemSortArray);
@@ -217,6 +221,7 @@ void AppDelegate::loadSysInfoTimer()
     CycleInput input;
     input.general = generalDefaults();
     input.info = infoDict_;
+    input.volumeBase = volumeTracker_->sharedVolumeBaseDict();
     for (std::size_t m = 0; m < kSampledModules.size(); ++m) {
         const ModuleId id = kSampledModules[m];
         input.intervals[m] = defaults(id).intValue(moduleKeys(id).intervalKey);
@@ -234,6 +239,7 @@ void AppDelegate::redrawStep(ModuleDefaults general, InfoDict info)
 {
     mutableDefaults(ModuleId::General) = std::move(general);
     infoDict_ = std::move(info);
+    volumeTracker_->applyPendingRenames(infoDict_.volume);
     for (ModuleId id : kSampledModules) {
         if (SamplingCycle::wasSampled(generalDefaults(), id))
             reDrawModule(id, false);

@@ -18,6 +18,7 @@
 #include <memory>
 
 class CycleExecutor;
+class VolumeTracker;
 
 class AppDelegate : public QObject, public MenuModuleDelegate {
     Q_OBJECT
@@ -75,6 +76,8 @@ public:
     const InfoDict& infoDict() const { return infoDict_; }
     const QVariantMap& themeColorDict() const { return themeColorDict_; }
     const LoadSystemInformation& loadInfo() const { return *loadInfo_; }
+    // The volume and disk descriptions, with their signal for the Disk and Volume modules.
+    VolumeTracker& volumeTracker() const { return *volumeTracker_; }
     bool isDebugMode() const { return isDebugMode_; }
     bool cycleRunning() const { return loadSysInfoTimerFinishedBool; }
     quint32 globalIpCheckCount() const { return chkNowGlobalIpAddrCount; }
@@ -112,6 +115,8 @@ private:
     StatusBar* statusBar_ = nullptr;
     qreal pictureScale_ = 0;
     InfoDict infoDict_;
+    // After the settings it reads, before the collector it calls goes away.
+    std::unique_ptr<VolumeTracker> volumeTracker_;
     QTimer* sysInfoTimer_ = nullptr;
     std::function<void()> rebootAction_;
     // Last member: destroyed first, so a running cycle ends before the collector goes away.
