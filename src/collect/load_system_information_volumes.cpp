@@ -90,8 +90,9 @@ VolumeBaseDict LoadSystemInformation::retVolumeBase(const VolumeUtilDetail& util
         else if (util.allDriveSize.contains(kernelName))
             disk = kernelName; // a file system on the whole disk, as sticks often have
         // USB disks often call themselves fixed; the bus they hang on says otherwise.
-        entry.isRemovable = !entry.isNetworkVol && ((removableDisks.contains(disk) && removableDisks[disk]) ||
-                                                    (device && device->bus == "usb"));
+        const auto flag = removableDisks.find(disk);
+        entry.isRemovable =
+            !entry.isNetworkVol && ((flag != removableDisks.end() && flag->second) || (device && device->bus == "usb"));
 
         entry.volumeName =
             volumeDisplayName(mount.mountPoint, device ? device->fsLabel : std::nullopt, sources_.machine.get());

@@ -1,13 +1,12 @@
-// The descriptions follow the Disk and Volume switches, and a real mount and unmount.
+// The descriptions follow a real mount and unmount through the watch on the mount table.
 #include "app/volume_tracker.h"
 #include "collect/load_system_information.h"
 #include "prefs/pref_keys.h"
 
-#include "support/fixture_paths.h"
-
 #include <QDeadlineTimer>
 #include <QDir>
 #include <QProcess>
+#include <QScopeGuard>
 #include <QSignalSpy>
 #include <QTemporaryDir>
 
@@ -37,31 +36,6 @@ bool waitUntil(QSignalSpy& rebuilt, const std::function<bool()>& condition)
 
 } // namespace
 
-TEST(VolumeTracker, SwitchesDecideWhatIsRebuilt)
-{
-    // Only "/" of this tree exists as a folder, so only it can be measured.
-    LoadSystemInformation loadInfo(makeSourceSet(projectFixtures() / "linux" / "storage-machine"));
-    ModuleDefaults general;
-    VolumeTracker tracker(loadInfo, general);
-    EXPECT_FALSE(tracker.collectDskVolDetail());
-    EXPECT_TRUE(tracker.volumeBaseDict().empty());
-
-    general.set(PrefKey::LaunchVolume, true);
-    EXPECT_TRUE(tracker.collectDskVolDetail());
-    EXPECT_TRUE(tracker.volumeBaseDict().contains("/"));
-    EXPECT_TRUE(tracker.volumeUtilDict().allDriveSize.contains("nvme0n1"));
-    EXPECT_TRUE(tracker.diskBaseDict().empty());
-
-    // The cycle's copy is a snapshot: a rebuild does not change what it holds.
-    const auto shared = tracker.sharedVolumeBaseDict();
-    general.set(PrefKey::LaunchVolume, false);
-    general.set(PrefKey::LaunchDisk, true);
-    tracker.collectDskVolDetail();
-    EXPECT_TRUE(tracker.diskBaseDict().contains("/dev/nvme0n1"));
-    EXPECT_NE(tracker.sharedVolumeBaseDict(), shared);
-    EXPECT_TRUE(shared->contains("/"));
-}
-
 TEST(VolumeTracker, LoopMountIsAddedAndRemovedAsTheTableChanges)
 {
     if (::geteuid() != 0)
@@ -87,15 +61,7 @@ TEST(VolumeTracker, LoopMountIsAddedAndRemovedAsTheTableChanges)
 
     if (!run(QStringLiteral("mount"), {QStringLiteral("-o"), QStringLiteral("loop"), image, mountPoint}))
         GTEST_SKIP() << "no loop device to mount the image on";
-    struct Unmount {
-        QString path;
-        bool done = false;
-        ~Unmount()
-        {
-            if (!done)
-                run(QStringLiteral("umount"), {path});
-        }
-    } unmount{mountPoint};
+    auto unmount = qScopeGuard([&] { run(QStringLiteral("umount"), {mountPoint}); });
 
     ASSERT_TRUE(waitUntil(rebuilt, [&] { return tracker.volumeBaseDict().contains(mountPoint); }));
     const VolumeBaseEntry& volume = tracker.volumeBaseDict().at(mountPoint);
@@ -106,7 +72,7 @@ TEST(VolumeTracker, LoopMountIsAddedAndRemovedAsTheTableChanges)
     const VolumeSample sample = loadInfo.retDiskUsage(*tracker.sharedVolumeBaseDict());
     EXPECT_GT(sample.volumes.at(mountPoint).free, 0);
 
+    unmount.dismiss();
     ASSERT_TRUE(run(QStringLiteral("umount"), {mountPoint}));
-    unmount.done = true;
     EXPECT_TRUE(waitUntil(rebuilt, [&] { return !tracker.volumeBaseDict().contains(mountPoint); }));
 }

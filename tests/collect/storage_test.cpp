@@ -35,26 +35,25 @@ private:
     LinuxMountSource table_;
 };
 
+// Devices by kernel name; by number as "major:minor".
 class FakeDeviceDatabase final : public DeviceDatabaseSource {
 public:
     std::optional<DeviceProperties> blockDevice(const std::string& name) override
     {
-        const auto found = byName.find(name);
-        return found != byName.end() ? std::optional(found->second) : std::nullopt;
+        const auto found = devices.find(name);
+        return found != devices.end() ? std::optional(found->second) : std::nullopt;
     }
     std::optional<DeviceProperties> blockDevice(std::uint32_t major, std::uint32_t minor) override
     {
-        const auto found = byNumber.find({major, minor});
-        return found != byNumber.end() ? std::optional(found->second) : std::nullopt;
+        return blockDevice(std::to_string(major) + ":" + std::to_string(minor));
     }
     int eventDescriptor() override { return -1; }
     std::vector<std::string> takeChangedDevices() override { return {}; }
 
-    std::map<std::string, DeviceProperties> byName;
-    std::map<std::pair<std::uint32_t, std::uint32_t>, DeviceProperties> byNumber;
+    std::map<std::string, DeviceProperties> devices;
 };
 
-constexpr std::uint64_t kGiB = 1024ull * 1024 * 1024;
+constexpr std::int64_t kGiB = 1024ll * 1024 * 1024;
 
 // A laptop with an NVMe disk, a USB stick, network shares and the usual pseudo mounts.
 struct StorageMachine {
@@ -65,32 +64,21 @@ struct StorageMachine {
     {
         const SysRoot root(projectFixtures() / "linux" / "storage-machine");
         SourceSet sources;
-        sources.root = root.root();
         sources.blockDevices = std::make_unique<LinuxBlockDeviceSource>(root);
         sources.memory = std::make_unique<LinuxMemorySource>(root);
         auto table = std::make_unique<FixtureMounts>(root);
         mounts = table.get();
         for (const char* path : {"/", "/boot/efi", "/srv/projects", "/media/user/My Stick", "/mnt/nas", "/mnt/public",
-                                 "/home/user/remote", "/mnt/backup", "/proc", "/run", "/snap/core22/1122"})
+                                 "/home/user/remote", "/mnt/backup", "/run", "/snap/core22/1122"})
             mounts->sizes[path] = {100 * kGiB, 40 * kGiB};
         mounts->sizes["/mnt/image"] = {0, 0};
         sources.mounts = std::move(table);
         auto database = std::make_unique<FakeDeviceDatabase>();
-        DeviceProperties& esp = database->byNumber[{259, 1}];
-        esp.name = "nvme0n1p1";
-        esp.fsLabel = "ESP";
-        database->byNumber[{259, 2}].name = "nvme0n1p2";
-        DeviceProperties& backup = database->byNumber[{8, 49}];
-        backup.name = "sdd1";
-        backup.bus = "usb";
-        DeviceProperties& nvme = database->byName["nvme0n1"];
-        nvme.model = "Samsung SSD 980 PRO 1TB";
-        nvme.revision = "5B2QGXA7";
-        nvme.serial = "S5GXNF0R123456";
-        DeviceProperties& stick = database->byName["sdb"];
-        stick.vendor = "SanDisk";
-        stick.model = "Cruzer Blade";
-        stick.rotationRate = 0;
+        database->devices["259:1"].fsLabel = "ESP";
+        database->devices["8:49"].bus = "usb";
+        database->devices["nvme0n1"].model = "Samsung SSD 980 PRO 1TB";
+        database->devices["sdb"].vendor = "SanDisk";
+        database->devices["sdb"].rotationRate = 0;
         sources.deviceDatabase = std::move(database);
         info = std::make_unique<LoadSystemInformation>(std::move(sources));
     }
@@ -106,7 +94,7 @@ std::vector<QString> keys(const auto& map)
 
 } // namespace
 
-TEST(VolumeBase, RealFileSystemsOnlyTopMountOfAPathAndNoSecondMountOfAVolume)
+TEST(VolumeBase, RealVolumesOnlyWithTheirNamesDisksAndFlags)
 {
     StorageMachine machine;
     const VolumeBaseDict base = machine.info->retVolumeBase(machine.info->retVolumeUtilDetail());
@@ -114,46 +102,33 @@ TEST(VolumeBase, RealFileSystemsOnlyTopMountOfAPathAndNoSecondMountOfAVolume)
     // /srv/projects, the gvfs bridge, and the image that reports no size.
     EXPECT_EQ(keys(base), (std::vector<QString>{"/", "/boot/efi", "/home/user/remote", "/media/user/My Stick",
                                                 "/mnt/backup", "/mnt/nas", "/mnt/public"}));
-    // The later of two mounts on one path is the one that shows.
-    EXPECT_EQ(base.at("/mnt/backup").bsdName, "sdd1");
-    EXPECT_FALSE(base.at("/mnt/backup").isWritable);
-    EXPECT_TRUE(base.at("/").isWritable);
-}
-
-TEST(VolumeBase, NamesDisksAndFlagsOfLocalRemovableAndNetworkVolumes)
-{
-    StorageMachine machine;
-    const VolumeBaseDict base = machine.info->retVolumeBase(machine.info->retVolumeUtilDetail());
 
     // "/" has no label and no last component, and this machine no name.
-    const VolumeBaseEntry& root = base.at("/");
-    EXPECT_EQ(root.volumeName, localized("Root"));
-    EXPECT_EQ(root.bsdPath, "/dev/nvme0n1p2");
-    EXPECT_EQ(root.topDisk, "nvme0n1");
-    EXPECT_EQ(root.totalSize, static_cast<std::int64_t>(100 * kGiB));
-    EXPECT_EQ(root.iconKind, VolumeIconKind::Internal);
-    EXPECT_FALSE(root.isUnmountable);
+    EXPECT_EQ(base.at("/").volumeName, localized("Root"));
+    EXPECT_EQ(base.at("/").topDisk, "nvme0n1");
+    EXPECT_EQ(base.at("/").iconKind, VolumeIconKind::Internal);
     EXPECT_EQ(base.at("/boot/efi").volumeName, "ESP");
 
-    // No label: the decoded last component of the mount point.
+    // Without a label, the decoded last component of the mount point.
     const VolumeBaseEntry& stick = base.at("/media/user/My Stick");
     EXPECT_EQ(stick.volumeName, "My Stick");
     EXPECT_EQ(stick.bsdName, "sdb1");
     EXPECT_EQ(stick.topDisk, "sdb");
-    EXPECT_EQ(stick.fileType, "vfat");
-    EXPECT_TRUE(stick.isRemovable);
-    EXPECT_TRUE(stick.isUnmountable);
+    EXPECT_TRUE(stick.isRemovable && stick.isUnmountable && stick.isWritable);
     EXPECT_EQ(stick.iconKind, VolumeIconKind::External);
-    // The kernel calls this disk fixed; the device manager knows it hangs on USB.
-    EXPECT_TRUE(base.at("/mnt/backup").isRemovable);
+
+    // The later of two mounts on one path shows; the kernel calls its disk fixed, the device
+    // manager knows it hangs on USB.
+    const VolumeBaseEntry& backup = base.at("/mnt/backup");
+    EXPECT_EQ(backup.bsdName, "sdd1");
+    EXPECT_FALSE(backup.isWritable);
+    EXPECT_TRUE(backup.isRemovable);
 
     const VolumeBaseEntry& nas = base.at("/mnt/nas");
-    EXPECT_TRUE(nas.isNetworkVol);
+    EXPECT_TRUE(nas.isNetworkVol && !nas.isRemovable);
     EXPECT_EQ(nas.bsdName, "nas.local:/export/media");
     EXPECT_TRUE(nas.bsdPath.isEmpty());
-    EXPECT_EQ(nas.volumeName, "nas");
     EXPECT_EQ(nas.iconKind, VolumeIconKind::Network);
-    EXPECT_FALSE(nas.isRemovable);
     EXPECT_EQ(base.at("/mnt/public").bsdName, "fileserver/Public Docs");
     EXPECT_TRUE(base.at("/home/user/remote").isNetworkVol);
 }
@@ -164,27 +139,19 @@ TEST(DiskBase, DevicesThatHoldSomethingWithSizesIconsAndHardware)
     const VolumeUtilDetail util = machine.info->retVolumeUtilDetail();
     EXPECT_EQ(util.allDriveSize.at("nvme0n1"), 1953525168ll * 512);
     EXPECT_EQ(util.parDisksTops.at("nvme0n1p2"), "nvme0n1");
-    EXPECT_EQ(util.parDisksTops.at("sdb1"), "sdb");
     EXPECT_FALSE(util.allDriveSize.contains("sr0")); // no medium
 
     const DiskBaseDict disks = machine.info->retDisAccessBase(util, machine.info->retVolumeBase(util));
     // Not listed: the empty drive, the unattached loop device, the memory disk that is not swap.
     EXPECT_EQ(keys(disks), (std::vector<QString>{"/dev/loop2", "/dev/nvme0n1", "/dev/sdb", "/dev/zram1"}));
-
     const DiskBaseEntry& nvme = disks.at("/dev/nvme0n1");
-    EXPECT_EQ(nvme.bsdName, "nvme0n1");
     EXPECT_EQ(nvme.totalSize, 1953525168ll * 512);
     EXPECT_EQ(nvme.productName, "Samsung SSD 980 PRO 1TB");
-    EXPECT_EQ(nvme.productRevisionLevel, "5B2QGXA7");
-    EXPECT_EQ(nvme.productSerialNumber, "S5GXNF0R123456");
     EXPECT_FALSE(nvme.vendorName);
     EXPECT_EQ(nvme.mediumType, "Solid State");
-    EXPECT_FALSE(nvme.mediumRotationRate);
-
     // The stick's disk looks like its volume; a disk without a listed volume looks like "/".
     const DiskBaseEntry& stick = disks.at("/dev/sdb");
     EXPECT_EQ(stick.iconKind, VolumeIconKind::External);
-    EXPECT_EQ(stick.vendorName, "SanDisk");
     EXPECT_EQ(stick.mediumType, "Rotational");
     EXPECT_EQ(stick.mediumRotationRate, 0);
     EXPECT_EQ(disks.at("/dev/loop2").iconKind, VolumeIconKind::Internal);
@@ -192,7 +159,6 @@ TEST(DiskBase, DevicesThatHoldSomethingWithSizesIconsAndHardware)
     // The narrow rule for names of the other system's form.
     EXPECT_EQ(LoadSystemInformation::retDiskName("disk0s2"), "disk0");
     EXPECT_EQ(LoadSystemInformation::retDiskName("disk1s10"), "disk1s10");
-    EXPECT_EQ(LoadSystemInformation::retDiskName("sda1"), "sda1");
     EXPECT_EQ(LoadSystemInformation::retDiskName("ab"), "-");
 }
 
@@ -208,15 +174,9 @@ TEST(VolumeSample, UnmeasurableAndEmptyVolumesShowZeroAndAddNothingToAll)
     ASSERT_EQ(sample.volumes.size(), base.size());
     EXPECT_EQ(sample.volumes.at("/mnt/nas"), (VolumeUsage{0, 0, 0, "nas"}));
     EXPECT_EQ(sample.volumes.at("/mnt/public").total, 0);
-    const VolumeUsage& stick = sample.volumes.at("/media/user/My Stick");
-    EXPECT_EQ(stick, (VolumeUsage{100 * kGiB, 60 * kGiB, 40 * kGiB, "My Stick"}));
-    EXPECT_EQ(sample.volumes.at("/").free, static_cast<std::int64_t>(100 * kGiB));
-
-    // Five measured volumes: "/" full-free, four at 40 GiB free.
-    ASSERT_TRUE(sample.all);
-    EXPECT_EQ(sample.all->total, static_cast<std::int64_t>(5 * 100 * kGiB));
-    EXPECT_EQ(sample.all->free, static_cast<std::int64_t>((100 + 4 * 40) * kGiB));
-    EXPECT_EQ(sample.all->used, sample.all->total - sample.all->free);
+    EXPECT_EQ(sample.volumes.at("/media/user/My Stick"), (VolumeUsage{100 * kGiB, 60 * kGiB, 40 * kGiB, "My Stick"}));
+    // Five measured volumes: "/" all free, four with 40 GiB free.
+    EXPECT_EQ(sample.all, (VolumeUsage{500 * kGiB, 240 * kGiB, 260 * kGiB, {}}));
 
     const VolumeSample none = machine.info->retDiskUsage({});
     EXPECT_TRUE(none.volumes.empty());
@@ -232,19 +192,14 @@ TEST(DiskSample, WholeDisksOnlyInBytesWithTheInterval)
     EXPECT_EQ(keys(sample->devices), (std::vector<QString>{"/dev/loop0", "/dev/loop2", "/dev/nvme0n1", "/dev/sdb",
                                                            "/dev/sr0", "/dev/zram0", "/dev/zram1"}));
     EXPECT_EQ(sample->devices.at("/dev/nvme0n1"), (DiskCounters{11939458ull * 512, 22108456ull * 512}));
-    // The second tick takes the names it already knows.
+    // The second tick goes by the names it already knows.
     EXPECT_EQ(machine.info->retDiskRW(2.0)->devices, sample->devices);
-
-    LoadSystemInformation nothing{SourceSet{}};
-    EXPECT_FALSE(nothing.retDiskRW(1.0));
 }
 
 TEST(StorageText, ShareNamesUdevEscapesAndReadOnlyOptions)
 {
     EXPECT_EQ(networkShareName("//guest;AUTH=x@nas/Public%20Docs"), "guestx@nas/Public Docs");
-    EXPECT_EQ(networkShareName("100%"), "100%");
     EXPECT_EQ(decodeUdevEscapes("My\\x20Stick\\x2"), "My Stick\\x2");
-    EXPECT_TRUE(mountedReadOnly("ro,relatime"));
     EXPECT_TRUE(mountedReadOnly("nosuid,ro"));
     EXPECT_FALSE(mountedReadOnly("rw,errors=remount-ro"));
 }
@@ -255,10 +210,8 @@ TEST(SharedTreeStorage, VolumesOfACapturedTableAndDiskBytesOfEveryRowLength)
         GTEST_SKIP() << "the shared captured procfs tree is not present";
     const SysRoot root(sharedProcfsTree());
     LinuxMountSource table(root, "proc/26231/mountinfo");
-    const auto mounts = table.mounts();
-    ASSERT_TRUE(mounts);
     std::vector<std::string> points;
-    for (const MountRecord& mount : selectVolumeMounts(*mounts))
+    for (const MountRecord& mount : selectVolumeMounts(table.mounts().value_or(std::vector<MountRecord>{})))
         points.push_back(mount.mountPoint + " " + mount.fsType);
     // /mnt/nfs/test is mounted three times; the last (NFS version 3) is on top.
     EXPECT_EQ(points,
@@ -273,6 +226,5 @@ TEST(SharedTreeStorage, VolumesOfACapturedTableAndDiskBytesOfEveryRowLength)
     EXPECT_EQ(sample->devices.at("/dev/sda"), (DiskCounters{1003346126ull * 512, 505697032ull * 512}));
     EXPECT_EQ(sample->devices.at("/dev/sdb"), (DiskCounters{9657779ull * 512, 1972905ull * 512}));
     EXPECT_EQ(sample->devices.at("/dev/sdc"), (DiskCounters{579164ull * 512, 180500ull * 512}));
-    EXPECT_FALSE(sample->devices.contains("/dev/sda1"));
-    EXPECT_FALSE(sample->devices.contains("/dev/ram0"));
+    EXPECT_FALSE(sample->devices.contains("/dev/sda1") || sample->devices.contains("/dev/ram0"));
 }
