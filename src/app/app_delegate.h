@@ -115,7 +115,7 @@ private:
     StatusBar* statusBar_ = nullptr;
     qreal pictureScale_ = 0;
     InfoDict infoDict_;
-    // After the settings it reads, before the collector it calls goes away.
+    // Declared after the settings it reads, so it goes before them and before the collector.
     std::unique_ptr<VolumeTracker> volumeTracker_;
     QTimer* sysInfoTimer_ = nullptr;
     std::function<void()> rebootAction_;
