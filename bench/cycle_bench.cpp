@@ -27,6 +27,8 @@ void measure(const char* label, const std::filesystem::path& root, int cycles)
 {
     LoadSystemInformation loadInfo(makeSourceSet(root));
     CycleInput input = everyModuleDue();
+    // The mounted volumes, as the tracker hands them to the cycle, so that each is measured.
+    input.volumeBase = std::make_shared<const VolumeBaseDict>(loadInfo.retVolumeBase(loadInfo.retVolumeUtilDetail()));
     // Two warm-up cycles: the first primes the differences, the second fills the buffers.
     for (int i = 0; i < 2; ++i) {
         CycleOutput out = SamplingCycle::runBody(loadInfo, input);

@@ -6,6 +6,7 @@
 #include "app/cycle_executor.h"
 #include "app/general_functions_reboot.h"
 #include "app/sampling_cycle.h"
+#include "app/volume_tracker.h"
 #include "modules/module_registry.h"
 #include "net/ddns_settings.h"
 #include "preferences/preferences_window.h"
@@ -30,6 +31,7 @@ constexpr int kStartupWindowDelayMs = 1000;
 AppDelegate::AppDelegate(std::unique_ptr<SettingsStore> store, SourceSet sources, QObject* parent)
     : QObject(parent), userDefaults_(std::move(store)),
       loadInfo_(std::make_unique<LoadSystemInformation>(std::move(sources))),
+      volumeTracker_(std::make_unique<VolumeTracker>(*loadInfo_, defaults(ModuleId::General))),
       rebootAction_(&GeneralFunctions::rebootMe), prefCenter_(new PrefNotificationCenter(this)),
       executor_(std::make_unique<ThreadPoolCycleExecutor>(this))
 {
@@ -103,6 +105,7 @@ void AppDelegate::applicationDidFinishLaunching(bool startTimer)
     if (statusBar_ != nullptr)
         drawModuleTabViewControllers();
     checkDrawMenu();
+    volumeTracker_->startWatching();
     if (preferencePanel_ != nullptr) {
         appearanceWatcher_ = new AppearanceWatcher(this);
         connect(appearanceWatcher_, &AppearanceWatcher::appearanceChanged, this, &AppDelegate::changeAppearanceMode);
@@ -187,6 +190,7 @@ void AppDelegate::checkDrawMenu()
         moduleAlloc(ModuleId::General);
     else
         moduleRelease(ModuleId::General);
+    volumeTracker_->collectDskVolDetail();
     // Each new item goes to the left of the others, so walking the order backwards lays the bar
     // out in the user's order.
     const QVariantList order = generalDefaults().listValue(PrefKey::TopItemSortArray);
@@ -233,6 +237,7 @@ void AppDelegate::loadSysInfoTimer()
     CycleInput input;
     input.general = generalDefaults();
     input.info = infoDict_;
+    input.volumeBase = volumeTracker_->sharedVolumeBaseDict();
     for (std::size_t m = 0; m < kSampledModules.size(); ++m) {
         const ModuleId id = kSampledModules[m];
         input.intervals[m] = defaults(id).intValue(moduleKeys(id).intervalKey);
@@ -250,6 +255,7 @@ void AppDelegate::redrawStep(ModuleDefaults general, InfoDict info)
 {
     mutableDefaults(ModuleId::General) = std::move(general);
     infoDict_ = std::move(info);
+    volumeTracker_->applyPendingRenames(infoDict_.volume);
     for (ModuleId id : kSampledModules) {
         if (SamplingCycle::wasSampled(generalDefaults(), id))
             reDrawModule(id, false);

@@ -23,6 +23,7 @@
 
 class AppearanceWatcher;
 class CycleExecutor;
+class VolumeTracker;
 
 class AppDelegate : public QObject, public MenuModuleDelegate {
     Q_OBJECT
@@ -100,6 +101,8 @@ public:
     const InfoDict& infoDict() const { return infoDict_; }
     const QVariantMap& themeColorDict() const { return themeColorDict_; }
     const LoadSystemInformation& loadInfo() const { return *loadInfo_; }
+    // The volume and disk descriptions, with their signal for the Disk and Volume modules.
+    VolumeTracker& volumeTracker() const { return *volumeTracker_; }
     bool isDebugMode() const { return isDebugMode_; }
     bool cycleRunning() const { return loadSysInfoTimerFinishedBool; }
     quint32 globalIpCheckCount() const { return chkNowGlobalIpAddrCount; }
@@ -146,6 +149,8 @@ private:
     StatusBar* statusBar_ = nullptr;
     qreal pictureScale_ = 0;
     InfoDict infoDict_;
+    // Declared after the settings it reads, so it goes before them and before the collector.
+    std::unique_ptr<VolumeTracker> volumeTracker_;
     QTimer* sysInfoTimer_ = nullptr;
     QPointer<PreferencesWindow> preferencePanel_;
     AppearanceWatcher* appearanceWatcher_ = nullptr;

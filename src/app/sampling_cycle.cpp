@@ -42,7 +42,9 @@ void decideDueModules(ModuleDefaults& general, const std::array<qint64, 7>& inte
 CycleOutput runBody(LoadSystemInformation& loadInfo, CycleInput input)
 {
     decideDueModules(input.general, input.intervals, input.menuOpened, input.info.cpu.exists());
-    InfoDict info = loadCycleSysInfo(loadInfo, std::move(input.info), input.general);
+    static const VolumeBaseDict noVolumes;
+    InfoDict info = loadCycleSysInfo(loadInfo, std::move(input.info), input.general,
+                                     input.volumeBase ? *input.volumeBase : noVolumes);
     return {std::move(input.general), std::move(info)};
 }
 
@@ -54,12 +56,21 @@ bool wasSampled(const ModuleDefaults& general, ModuleId id)
 
 } // namespace SamplingCycle
 
-InfoDict loadCycleSysInfo(LoadSystemInformation& loadInfo, InfoDict info, const ModuleDefaults& general)
+InfoDict loadCycleSysInfo(LoadSystemInformation& loadInfo, InfoDict info, const ModuleDefaults& general,
+                          const VolumeBaseDict& volumeBase)
 {
     if (general.boolValue(moduleKeys(ModuleId::Cpu).loadFlagKey)) {
         CpuSample sample = loadInfo.loadCpuData();
         if (!sample.empty())
             info.cpu = info.cpu.appended(std::move(sample));
+    }
+    // An empty volume sample is kept too: it says that no volume is mounted.
+    if (general.boolValue(moduleKeys(ModuleId::Volume).loadFlagKey))
+        info.volume = info.volume.appended(loadInfo.retDiskUsage(volumeBase));
+    if (general.boolValue(moduleKeys(ModuleId::Disk).loadFlagKey)) {
+        const ModuleKeys& disk = moduleKeys(ModuleId::Disk);
+        if (auto sample = loadInfo.retDiskRW(general.doubleValue(disk.intervalKey)))
+            info.disk = info.disk.appended(std::move(*sample));
     }
     info.vnc = true;
     return info;

@@ -2,10 +2,12 @@
 #pragma once
 
 #include "collect/info_dict.h"
+#include "collect/storage_descriptions.h"
 #include "prefs/module_defaults.h"
 #include "prefs/module_table.h"
 
 #include <array>
+#include <memory>
 
 class LoadSystemInformation;
 
@@ -15,6 +17,9 @@ struct CycleInput {
     std::array<qint64, 7> intervals{};        // per sampled module, in cycle order
     std::array<bool, 7> menuOpened{};         // per sampled module, in cycle order
     InfoDict info;
+    // The volumes to measure; shared and never changed, so a rebuild on the main thread
+    // cannot pull it from under the cycle. None measures nothing.
+    std::shared_ptr<const VolumeBaseDict> volumeBase;
 };
 
 struct CycleOutput {
@@ -41,4 +46,5 @@ bool wasSampled(const ModuleDefaults& general, ModuleId id);
 } // namespace SamplingCycle
 
 // Collects the due modules into a new set of histories.
-InfoDict loadCycleSysInfo(LoadSystemInformation& loadInfo, InfoDict info, const ModuleDefaults& general);
+InfoDict loadCycleSysInfo(LoadSystemInformation& loadInfo, InfoDict info, const ModuleDefaults& general,
+                          const VolumeBaseDict& volumeBase);

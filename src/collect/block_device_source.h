@@ -16,6 +16,7 @@ struct BlockDevice {
     std::optional<std::uint64_t> sectors;  // 512-byte sectors, whatever the device's block size
     std::optional<bool> removable;
     std::optional<bool> rotational;
+    std::optional<std::string> backingFile;  // the file behind a loop device, while one is attached
     std::vector<BlockPartition> partitions;
 };
 

@@ -27,6 +27,18 @@ public:
         return History(std::move(next));
     }
 
+    // A history of the given samples, oldest first, of which the newest kMaxSamples are kept:
+    // for rewriting a whole history at once.
+    [[nodiscard]] static History fromSamples(std::vector<Sample> samples)
+    {
+        auto items = std::make_shared<Items>();
+        const std::size_t skip = samples.size() > kMaxSamples ? samples.size() - kMaxSamples : 0;
+        items->reserve(samples.size() - skip);
+        for (std::size_t i = skip; i < samples.size(); ++i)
+            items->push_back(std::make_shared<const Sample>(std::move(samples[i])));
+        return History(std::move(items));
+    }
+
     // False until the first sample is kept.
     [[nodiscard]] bool exists() const { return items_ != nullptr; }
     [[nodiscard]] std::size_t size() const { return items_ ? items_->size() : 0; }

@@ -2,12 +2,15 @@
 #pragma once
 
 #include "collect/cpu_sample.h"
+#include "collect/disk_sample.h"
 #include "collect/history.h"
 
 // Copies are cheap (shared histories), so the main thread can keep the last finished set while
 // the next cycle builds a new one.
 struct InfoDict {
     History<CpuSample> cpu;
+    History<DiskSample> disk;
+    History<VolumeSample> volume;
     // The screen-sharing module has no sample; its entry only says that a cycle ran.
     bool vnc = false;
 };

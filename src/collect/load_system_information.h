@@ -3,15 +3,18 @@
 
 #include "collect/cpu_sample.h"
 #include "collect/desktop_index.h"
+#include "collect/disk_sample.h"
 #include "collect/gpu_record.h"
 #include "collect/process_cpu_sampler.h"
 #include "collect/process_list.h"
 #include "collect/source_set.h"
+#include "collect/storage_descriptions.h"
 
 #include <QString>
 #include <QStringList>
 
 #include <filesystem>
+#include <map>
 #include <mutex>
 #include <optional>
 #include <vector>
@@ -50,6 +53,24 @@ public:
     // Display names of the running desktop applications under "_<pid>".
     ProcessDict retProcessDict();
 
+    // Storage descriptions, rebuilt on the main thread when volumes come and go.
+    // Whole disks with their sizes, and the disk that holds each partition.
+    VolumeUtilDetail retVolumeUtilDetail();
+    // The mounted volumes worth showing (see selectVolumeMounts) that report a size.
+    VolumeBaseDict retVolumeBase(const VolumeUtilDetail& util);
+    // The block devices that count I/O, with their hardware facts.
+    DiskBaseDict retDisAccessBase(const VolumeUtilDetail& util, const VolumeBaseDict& volumeBase);
+    // The whole disk of a name of the form disk0s2 (disk0): only a one-digit partition number
+    // is cut off, so disk1s10 stays as it is; "-" for names shorter than three characters.
+    static QString retDiskName(const QString& bsdName);
+
+    // Samples, on the cycle thread.
+    // Cumulative bytes read and written per whole disk; empty when the kernel's statistics
+    // cannot be read.
+    std::optional<DiskSample> retDiskRW(double interval);
+    // Space of each volume of the base, [0, 0, 0] for one that cannot be measured.
+    VolumeSample retDiskUsage(const VolumeBaseDict& volumeBase);
+
     const SourceSet& sources() const { return sources_; }
 
 private:
@@ -60,4 +81,8 @@ private:
     std::mutex processLock;
     DesktopIndex desktopIndex;
     std::mutex desktopLock;
+    // Every name met in the disk statistics: its sample key when it is a whole disk, none for
+    // a partition. Looked up rather than re-read, so a tick costs one read of the statistics.
+    std::map<std::string, std::optional<QString>, std::less<>> diskKeys;
+    std::mutex diskLock;
 };

@@ -16,6 +16,12 @@ struct MountRecord {
     std::string root;        // the directory of the file system that is mounted there
 };
 
+// The size of a mounted file system.
+struct FileSystemSpace {
+    std::uint64_t totalBytes = 0;
+    std::uint64_t availableBytes = 0;  // what an ordinary user may still write
+};
+
 class MountSource {
 public:
     virtual ~MountSource() = default;
@@ -23,4 +29,10 @@ public:
     virtual std::optional<std::vector<MountRecord>> mounts() = 0;
     // True once for each change of the table since the previous call. Never blocks.
     virtual bool changed() = 0;
+    // A descriptor that an event loop can wait on for changes of the table (it turns
+    // exceptional, POLLPRI); -1 when there is none. Waiting on it takes the change that
+    // changed() would report, so use one or the other.
+    virtual int changeDescriptor() { return -1; }
+    // The file system mounted at mountPoint; empty when it cannot be queried.
+    virtual std::optional<FileSystemSpace> space(const std::string& mountPoint) = 0;
 };

@@ -3,6 +3,7 @@
 
 #include "collect/block_device_source.h"
 #include "collect/cpu_source.h"
+#include "collect/device_database_source.h"
 #include "collect/machine_source.h"
 #include "collect/memory_source.h"
 #include "collect/mount_source.h"
@@ -23,6 +24,8 @@ struct SourceSet {
     std::unique_ptr<NetworkSource> network;
     std::unique_ptr<BlockDeviceSource> blockDevices;
     std::unique_ptr<MountSource> mounts;
+    // The live device manager; absent below any other root, whose devices it does not know.
+    std::unique_ptr<DeviceDatabaseSource> deviceDatabase;
     std::unique_ptr<SensorSource> sensors;
     std::unique_ptr<MachineSource> machine;
 };

@@ -1,5 +1,6 @@
-// Cadence rules of the per-module counters.
+// Cadence rules of the per-module counters, and which samples the collection step keeps.
 #include "app/sampling_cycle.h"
+#include "collect/load_system_information.h"
 #include "prefs/pref_keys.h"
 
 #include <gtest/gtest.h>
@@ -90,4 +91,17 @@ TEST(DecideDueModules, FirstCpuSampleIsTakenAtOnceAndIntervalsAreCopied)
     SamplingCycle::decideDueModules(general, intervals, {}, /*cpuHistoryExists=*/true);
     EXPECT_FALSE(general.boolValue(CpuInnerLoadData));
     EXPECT_FALSE(SamplingCycle::wasSampled(general, ModuleId::Cpu));
+}
+
+TEST(LoadCycleSysInfo, AnEmptyVolumeSampleIsKeptAndAFailedDiskSampleIsNot)
+{
+    // No sources at all: no volume to measure, no disk statistics to read.
+    LoadSystemInformation loadInfo{SourceSet{}};
+    ModuleDefaults general;
+    general.set(VlmsInnerLoadData, true);
+    general.set(DiskInnerLoadData, true);
+    const InfoDict info = loadCycleSysInfo(loadInfo, {}, general, {});
+    ASSERT_EQ(info.volume.size(), 1u);
+    EXPECT_TRUE(info.volume.back().empty());
+    EXPECT_FALSE(info.disk.exists());
 }

@@ -48,6 +48,7 @@ std::optional<std::vector<BlockDevice>> LinuxBlockDeviceSource::devices()
         device.sectors = readAttributeUnsigned(dir / "size");
         device.removable = readFlag(dir / "removable");
         device.rotational = readFlag(dir / "queue/rotational");
+        device.backingFile = readAttributeText(dir / "loop/backing_file");
         device.partitions = readPartitions(dir);
         devices.push_back(std::move(device));
     }

@@ -3,9 +3,11 @@
 
 #include "collect/collect_log.h"
 
+#include <cerrno>
 #include <libmount/libmount.h>
 #include <memory>
 #include <poll.h>
+#include <sys/statvfs.h>
 #include <sys/sysmacros.h>
 
 namespace {
@@ -22,7 +24,7 @@ int skipBadLine(libmnt_table*, const char*, int)
 }
 
 LinuxMountSource::LinuxMountSource(const SysRoot& root, std::string_view table)
-    : path_(root.join(table)), watch_(path_)
+    : root_(root), path_(root.join(table)), watch_(path_)
 {
     // Opened now, so that a change between construction and the first check is not missed.
     watch_.descriptor();
@@ -68,4 +70,26 @@ bool LinuxMountSource::changed()
     pollfd watch{fd, POLLPRI, 0};
     // Each poll takes the change event, so a change is reported once.
     return ::poll(&watch, 1, 0) > 0 && (watch.revents & (POLLPRI | POLLERR)) != 0;
+}
+
+int LinuxMountSource::changeDescriptor()
+{
+    const std::lock_guard guard(lock_);
+    return watch_.descriptor();
+}
+
+std::optional<FileSystemSpace> LinuxMountSource::space(const std::string& mountPoint)
+{
+    struct statvfs info {};
+    const std::filesystem::path path = root_.join(mountPoint);
+    int rc;
+    do {
+        rc = ::statvfs(path.c_str(), &info);
+    } while (rc != 0 && errno == EINTR);
+    if (rc != 0)
+        return std::nullopt;
+    // Sizes count in fragments; a file system that leaves the fragment size out means blocks.
+    const std::uint64_t unit = info.f_frsize != 0 ? info.f_frsize : info.f_bsize;
+    return FileSystemSpace{static_cast<std::uint64_t>(info.f_blocks) * unit,
+                           static_cast<std::uint64_t>(info.f_bavail) * unit};
 }

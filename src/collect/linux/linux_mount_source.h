@@ -15,8 +15,11 @@ public:
 
     std::optional<std::vector<MountRecord>> mounts() override;
     bool changed() override;
+    int changeDescriptor() override;
+    std::optional<FileSystemSpace> space(const std::string& mountPoint) override;
 
 private:
+    SysRoot root_;
     std::filesystem::path path_;
     std::mutex lock_;
     // Kept open only to be polled: the kernel flags a mount or unmount on this descriptor.

@@ -7,6 +7,7 @@
 #include "collect/linux/linux_network_source.h"
 #include "collect/linux/linux_process_source.h"
 #include "collect/linux/linux_sensor_source.h"
+#include "collect/linux/udev_device_database.h"
 #include "collect/source_set.h"
 
 SourceSet makeSourceSet(const std::filesystem::path& root)
@@ -20,6 +21,8 @@ SourceSet makeSourceSet(const std::filesystem::path& root)
     sources.network = std::make_unique<LinuxNetworkSource>(sysRoot);
     sources.blockDevices = std::make_unique<LinuxBlockDeviceSource>(sysRoot);
     sources.mounts = std::make_unique<LinuxMountSource>(sysRoot);
+    if (root == std::filesystem::path("/"))
+        sources.deviceDatabase = std::make_unique<UdevDeviceDatabase>();
     sources.sensors = std::make_unique<LinuxSensorSource>(sysRoot);
     sources.machine = std::make_unique<LinuxMachineSource>(sysRoot);
     return sources;

@@ -1,0 +1,78 @@
+// The descriptions follow a real mount and unmount through the watch on the mount table.
+#include "app/volume_tracker.h"
+#include "collect/load_system_information.h"
+#include "prefs/pref_keys.h"
+
+#include <QDeadlineTimer>
+#include <QDir>
+#include <QProcess>
+#include <QScopeGuard>
+#include <QSignalSpy>
+#include <QTemporaryDir>
+
+#include <functional>
+#include <gtest/gtest.h>
+#include <unistd.h>
+
+namespace {
+
+bool run(const QString& program, const QStringList& arguments)
+{
+    QProcess process;
+    process.start(program, arguments);
+    return process.waitForFinished(30000) && process.exitStatus() == QProcess::NormalExit && process.exitCode() == 0;
+}
+
+// Waits for rebuilds until the condition holds; other mounts on the machine may come first.
+bool waitUntil(QSignalSpy& rebuilt, const std::function<bool()>& condition)
+{
+    QDeadlineTimer deadline(10000);
+    while (!condition()) {
+        if (deadline.hasExpired() || !rebuilt.wait(static_cast<int>(deadline.remainingTime())))
+            return condition();
+    }
+    return true;
+}
+
+} // namespace
+
+TEST(VolumeTracker, LoopMountIsAddedAndRemovedAsTheTableChanges)
+{
+    if (::geteuid() != 0)
+        GTEST_SKIP() << "mounting a file system needs root";
+    QTemporaryDir dir;
+    ASSERT_TRUE(dir.isValid());
+    const QString image = dir.filePath(QStringLiteral("volume.img"));
+    const QString mountPoint = dir.filePath(QStringLiteral("mnt"));
+    ASSERT_TRUE(QDir().mkpath(mountPoint));
+    if (!run(QStringLiteral("truncate"), {QStringLiteral("-s"), QStringLiteral("8M"), image}) ||
+        !run(QStringLiteral("mkfs.ext4"), {QStringLiteral("-q"), QStringLiteral("-F"), image}))
+        GTEST_SKIP() << "cannot make an ext4 image";
+
+    LoadSystemInformation loadInfo(makeSourceSet("/"));
+    ModuleDefaults general;
+    general.set(PrefKey::LaunchVolume, true);
+    general.set(PrefKey::LaunchDisk, true);
+    VolumeTracker tracker(loadInfo, general);
+    tracker.startWatching();
+    tracker.collectDskVolDetail();
+    ASSERT_FALSE(tracker.volumeBaseDict().contains(mountPoint));
+    QSignalSpy rebuilt(&tracker, &VolumeTracker::descriptionsChanged);
+
+    if (!run(QStringLiteral("mount"), {QStringLiteral("-o"), QStringLiteral("loop"), image, mountPoint}))
+        GTEST_SKIP() << "no loop device to mount the image on";
+    auto unmount = qScopeGuard([&] { run(QStringLiteral("umount"), {mountPoint}); });
+
+    ASSERT_TRUE(waitUntil(rebuilt, [&] { return tracker.volumeBaseDict().contains(mountPoint); }));
+    const VolumeBaseEntry& volume = tracker.volumeBaseDict().at(mountPoint);
+    EXPECT_EQ(volume.fileType, "ext4");
+    EXPECT_TRUE(volume.bsdPath.startsWith("/dev/loop"));
+    EXPECT_GT(volume.totalSize, 0);
+    EXPECT_TRUE(tracker.diskBaseDict().contains(QStringLiteral("/dev/") + volume.bsdName));
+    const VolumeSample sample = loadInfo.retDiskUsage(*tracker.sharedVolumeBaseDict());
+    EXPECT_GT(sample.volumes.at(mountPoint).free, 0);
+
+    unmount.dismiss();
+    ASSERT_TRUE(run(QStringLiteral("umount"), {mountPoint}));
+    EXPECT_TRUE(waitUntil(rebuilt, [&] { return !tracker.volumeBaseDict().contains(mountPoint); }));
+}
