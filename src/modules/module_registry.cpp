@@ -2,6 +2,7 @@
 #include "modules/module_registry.h"
 
 #include "modules/cpu/cpu_menu_module.h"
+#include "modules/cpu/cpu_tab_view_controller.h"
 #include "modules/general/general_menu_module.h"
 #include "preferences/unbuilt_module_tab.h"
 
@@ -29,8 +30,9 @@ PreferenceTab* createPreferenceTab(ModuleId id, MenuModuleDelegate* delegate, Se
 {
     Q_UNUSED(delegate)
     switch (id) {
-    case ModuleId::General:
     case ModuleId::Cpu:
+        return new CpuTabViewController(store, center);
+    case ModuleId::General:
     case ModuleId::Memory:
     case ModuleId::Network:
     case ModuleId::Disk:
