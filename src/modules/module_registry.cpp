@@ -2,6 +2,7 @@
 #include "modules/module_registry.h"
 
 #include "modules/cpu/cpu_menu_module.h"
+#include "modules/cpu/cpu_tab_view_controller.h"
 #include "modules/general/general_menu_module.h"
 #include "modules/general/top_tab_view_controller.h"
 #include "preferences/unbuilt_module_tab.h"
@@ -37,6 +38,7 @@ PreferenceTab* createPreferenceTab(ModuleId id, MenuModuleDelegate* delegate, Se
     case ModuleId::General:
         return new TopTabViewController(delegate, store, center);
     case ModuleId::Cpu:
+        return new CpuTabViewController(store, center);
     case ModuleId::Memory:
     case ModuleId::Network:
     case ModuleId::Disk:

@@ -1,0 +1,134 @@
+// The CPU preferences tab: what each control stores and posts, and its live preview.
+#include "cpu_picture_defaults.h"
+#include "modules/cpu/cpu_bar_width.h"
+#include "modules/cpu/cpu_tab_view_controller.h"
+#include "preferences/element_order_list.h"
+#include "preferences/picture_preview.h"
+#include "preferences/pref_notification.h"
+#include "support/memory_settings_store.h"
+#include "toolkit/menu_geometry.h"
+
+#include <QCheckBox>
+#include <QSlider>
+#include <QThread>
+#include <gtest/gtest.h>
+
+using namespace PrefKey;
+
+namespace {
+
+struct TabFixture {
+    explicit TabFixture(const ModuleDefaults& cpu)
+    {
+        QObject::connect(&center, &PrefNotificationCenter::posted,
+                         [this](const PrefNotification& n) { posts.push_back(n); });
+        all[static_cast<std::size_t>(ModuleId::Cpu)] = cpu;
+        tab.setMyDefaults(all);
+    }
+    template <class Widget> Widget* find(const char* key) { return tab.findChild<Widget*>(QLatin1String(key)); }
+    double previewWidth() { return find<PicturePreview>("CpuPreview")->image().deviceIndependentSize().width(); }
+
+    MemorySettingsStore store;
+    PrefNotificationCenter center;
+    std::vector<PrefNotification> posts;
+    AllModuleDefaults all;
+    CpuTabViewController tab{store, center};
+};
+
+ModuleDefaults graphAndText()
+{
+    ModuleDefaults d = cpuPictureDefaults({.graph = true, .text = true}, false);
+    d.set(Cpu_GraphWidth, qint64{3});
+    d.set(Cpu_UpdateInterval, qint64{2});
+    return d;
+}
+
+} // namespace
+
+TEST(CpuTab, EachControlStoresItsKeyAndPostsTheCpuNotification)
+{
+    TabFixture f(graphAndText());
+    ASSERT_TRUE(f.posts.empty()) << "showing the settings is no change";
+    ASSERT_TRUE(f.store.values.isEmpty());
+
+    auto* graph = f.find<QSlider>(Cpu_GraphWidth);
+    EXPECT_EQ(graph->value(), CpuTabViewController::kGraphSliderMin) << "a stored 3 sits at the first step";
+    graph->setValue(5);
+    EXPECT_EQ(f.store.integerForKey(Cpu_GraphWidth), 50);
+    f.find<QSlider>(Cpu_UpdateInterval)->setValue(7);
+    EXPECT_EQ(f.store.integerForKey(Cpu_UpdateInterval), 7);
+    ASSERT_EQ(f.posts.size(), 2U);
+    EXPECT_EQ(f.posts.back().name, QLatin1String("CpuModuleNotif"));
+
+    auto* bold = f.find<QCheckBox>(CPU_LineAsBold);
+    EXPECT_FALSE(bold->isEnabled());
+    f.find<QCheckBox>(CPU_GraphAsLine)->click();
+    EXPECT_TRUE(bold->isEnabled());
+
+    const struct {
+        const char* key;
+        bool refreshesItems;
+        bool postsGeneral;
+    } switches[] = {{Cpu_AverageMultiProcessors, false, false},
+                    {Cpu_Text_DisplayAverage, false, false},
+                    {CPU_LineAsBold, false, false},
+                    {Cpu_ShowMyLabel, false, true},
+                    {CPU_EnaMenu_Amon, true, false},
+                    {CPU_EnaMenu_Cnsl, true, false},
+                    {CPU_EnaMenu_Tmnl, true, false}};
+    for (const auto& s : switches) {
+        SCOPED_TRACE(s.key);
+        f.posts.clear();
+        auto* box = f.find<QCheckBox>(s.key);
+        box->click();
+        EXPECT_EQ(f.store.boolForKey(s.key), box->isChecked());
+        ASSERT_EQ(f.posts.size(), s.postsGeneral ? 2U : 1U);
+        EXPECT_EQ(f.posts[0].name, QLatin1String("CpuModuleNotif"));
+        EXPECT_EQ(f.posts[0].userInfo.value(NotifKey::ModuleItemRefreshNow).toBool(), s.refreshesItems);
+        if (s.postsGeneral) {
+            EXPECT_EQ(f.posts[1].name, QLatin1String("GeneralModuleNotif"));
+        }
+    }
+
+    auto* list = f.find<ElementOrderList>(CpuItemSortArray);
+    list->item(2)->setCheckState(Qt::Checked);
+    EXPECT_TRUE(f.store.boolForKey(Cpu_Display_CircleMeter));
+    list->item(0)->setCheckState(Qt::Unchecked);
+    EXPECT_FALSE(f.store.boolForKey(Cpu_Display_Graph));
+    list->moveEntry(3, 0);
+    EXPECT_EQ(f.store.arrayForKey(CpuItemSortArray), (QVariantList{4, 1, 2, 3}));
+    EXPECT_EQ(f.posts.back().name, QLatin1String("CpuModuleNotif"));
+}
+
+TEST(CpuTab, PreviewIsTheBarPictureOfTheTabsSettingsOverLightAndDarkPanels)
+{
+    const double height = TvlClasses::retRootMenuHeight();
+    ModuleDefaults settings = graphAndText();
+    settings.set(Cpu_GraphWidth, qint64{40});
+    TabFixture f(settings);
+    // Before the first sample every processor of this machine shows at 0%.
+    const auto processors = static_cast<std::size_t>(std::max(1, QThread::idealThreadCount()));
+    EXPECT_DOUBLE_EQ(f.previewWidth(), cpuBarWidth(settings, processors, height));
+
+    f.tab.setLiveHistory(InfoDict{cpuHistory(CpuSample(5, CpuRecord{3, 2, 1, 4}), 3)});
+    EXPECT_DOUBLE_EQ(f.previewWidth(), cpuBarWidth(settings, 4, height));
+
+    // Changes show at once, before the application hands the reloaded settings back.
+    f.find<ElementOrderList>(CpuItemSortArray)->item(1)->setCheckState(Qt::Checked);
+    f.find<QSlider>(Cpu_GraphWidth)->setValue(6);
+    settings.set(Cpu_Display_LevelBar, true);
+    settings.set(Cpu_GraphWidth, qint64{60});
+    EXPECT_DOUBLE_EQ(f.previewWidth(), cpuBarWidth(settings, 4, height));
+
+    PicturePreview preview;
+    QImage red(10, 20, QImage::Format_ARGB32_Premultiplied);
+    red.fill(Qt::red);
+    preview.setImage(red);
+    preview.resize(200, preview.height());
+    const QImage shot = preview.grab().toImage();
+    const int strip = shot.height() / 2;
+    EXPECT_EQ(shot.pixelColor(100, strip / 2), PicturePreview::lightPanelColor());
+    EXPECT_EQ(shot.pixelColor(100, strip + strip / 2), PicturePreview::darkPanelColor());
+    EXPECT_EQ(shot.pixelColor(10, strip / 2), QColor(Qt::red));
+    EXPECT_EQ(shot.pixelColor(10, strip + strip / 2), QColor(Qt::red));
+}
