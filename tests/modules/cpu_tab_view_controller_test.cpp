@@ -110,7 +110,9 @@ TEST(CpuTab, PreviewIsTheBarPictureOfTheTabsSettingsOverLightAndDarkPanels)
     const auto processors = static_cast<std::size_t>(std::max(1, QThread::idealThreadCount()));
     EXPECT_DOUBLE_EQ(f.previewWidth(), cpuBarWidth(settings, processors, height));
 
-    f.tab.setLiveHistory(InfoDict{cpuHistory(CpuSample(5, CpuRecord{3, 2, 1, 4}), 3)});
+    InfoDict info;
+    info.cpu = cpuHistory(CpuSample(5, CpuRecord{3, 2, 1, 4}), 3);
+    f.tab.setLiveHistory(info);
     EXPECT_DOUBLE_EQ(f.previewWidth(), cpuBarWidth(settings, 4, height));
 
     // Changes show at once, before the application hands the reloaded settings back.
