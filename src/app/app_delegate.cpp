@@ -207,7 +207,7 @@ void AppDelegate::checkDrawMenu()
     if (chkGeneBool(PrefKey::DisplayTopWindowAtStartup) && preferencePanel_ != nullptr &&
         (!startupWindowShown_ || preferencePanel_->isVisible())) {
         startupWindowShown_ = true;
-        QTimer::singleShot(kStartupWindowDelayMs, preferencePanel_, [this] { preferencePanel_->openTab(openedTabNum - 1); });
+        QTimer::singleShot(kStartupWindowDelayMs, preferencePanel_, [this] { openPreferenceTab(static_cast<int>(openedTabNum) - 1); });
     }
     loadSysInfoTimerFinishedBool = false;
 }

@@ -72,8 +72,12 @@ void AppDelegate::drawModuleTabViewControllers()
 void AppDelegate::openPreferenceTab(int tabIndex)
 {
     openedTabNum = tabIndex + 1;
-    if (preferencePanel_ != nullptr)
-        preferencePanel_->openTab(tabIndex);
+    if (preferencePanel_ == nullptr)
+        return;
+    preferencePanel_->openTab(tabIndex);
+    // Previews start from what was sampled so far, not from the next cycle.
+    for (int i = 0; i < preferencePanel_->tabCount(); ++i)
+        preferencePanel_->tab(i)->setLiveHistory(infoDict_);
 }
 
 QList<QImage> AppDelegate::shownBarImages() const

@@ -13,7 +13,7 @@ namespace {
 // Room around the picture inside a strip, like the gap a panel leaves around its items.
 constexpr int kPadding = 6;
 // A strip is never lower than a panel, even before the first picture.
-constexpr int kMinimumPictureHeight = 20;
+constexpr int kMinimumPictureHeight = 40;
 constexpr int kMinimumWidth = 120;
 
 } // namespace
@@ -48,7 +48,7 @@ void PicturePreview::setImage(const QImage& image)
 
 QSizeF PicturePreview::imageSize() const
 {
-    return image_.isNull() ? QSizeF() : image_.deviceIndependentSize();
+    return image_.isNull() ? QSizeF() : image_.deviceIndependentSize() * zoom();
 }
 
 int PicturePreview::stripHeight() const
@@ -118,6 +118,6 @@ void PicturePreview::paintEvent(QPaintEvent* event)
             painter.drawText(frame.adjusted(0, 0, -kPadding, 0), Qt::AlignRight | Qt::AlignVCenter, caption);
         }
         if (!image_.isNull())
-            painter.drawImage(QPointF(left, frame.top() + (strip - size.height()) / 2), image_);
+            painter.drawImage(QRectF(QPointF(left, frame.top() + (strip - size.height()) / 2), size), image_);
     }
 }

@@ -9,8 +9,10 @@ class PicturePreview : public QAbstractScrollArea {
 public:
     explicit PicturePreview(QWidget* parent = nullptr);
 
-    // Shows the picture (its device pixel ratio sets its size in points) over both strips.
+    // Shows the picture (its device pixel ratio sets its size in points) over both strips,
+    // magnified by zoom(); draw it at zoom() times the screen's ratio to keep it sharp.
     void setImage(const QImage& image);
+    static constexpr double zoom() { return 2.0; }
     const QImage& image() const { return image_; }
 
     QSize sizeHint() const override;

@@ -245,5 +245,5 @@ void CpuTabViewController::redrawPreview()
     ImageCpuBar bar;
     bar.redrawWithSize(QSizeF(cpuBarWidth(defaults, cores, height), height),
                        TvlClasses::retStatusMenuInsets(cpuShownElementCount(defaults)), false, true, defaults, history);
-    preview_->setImage(bar.image(devicePixelRatioF()));
+    preview_->setImage(bar.image(devicePixelRatioF() * PicturePreview::zoom()));
 }
