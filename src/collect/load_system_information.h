@@ -4,6 +4,7 @@
 #include "collect/cpu_sample.h"
 #include "collect/desktop_index.h"
 #include "collect/gpu_record.h"
+#include "collect/memory_sample.h"
 #include "collect/process_cpu_sampler.h"
 #include "collect/process_list.h"
 #include "collect/source_set.h"
@@ -50,6 +51,18 @@ public:
     // Display names of the running desktop applications under "_<pid>".
     ProcessDict retProcessDict();
 
+    // The memory page counts (see memory_mapping.h for what each figure is); empty when the
+    // counters cannot be read. Each call reads the counter files once.
+    std::optional<MemorySample> loadMemoryData();
+    // What the memory figures add up to, as of the newest sample (read afresh before the first).
+    std::optional<MemoryTotals> memoryTotals();
+    // The size in bytes of the pages the memory figures count.
+    std::size_t memoryPageSize() const;
+    // Swap space over every swap area; empty when the swap list cannot be read.
+    std::optional<SwapUsage> loadSwapUsage();
+    // The swap areas and the hibernation image; empty when the swap list cannot be read.
+    std::optional<MemoryOptionDelayData> loadMemoryOptionDelayData();
+
     const SourceSet& sources() const { return sources_; }
 
 private:
@@ -60,4 +73,6 @@ private:
     std::mutex processLock;
     DesktopIndex desktopIndex;
     std::mutex desktopLock;
+    std::optional<MemoryTotals> lastMemoryTotals;
+    std::mutex memoryLock;
 };
