@@ -5,6 +5,9 @@
 #include "collect/desktop_index.h"
 #include "collect/gpu_record.h"
 #include "collect/memory_sample.h"
+#include "collect/network_base.h"
+#include "collect/network_base_builder.h"
+#include "collect/network_sample.h"
 #include "collect/process_cpu_sampler.h"
 #include "collect/process_list.h"
 #include "collect/source_set.h"
@@ -12,7 +15,9 @@
 #include <QString>
 #include <QStringList>
 
+#include <atomic>
 #include <filesystem>
+#include <memory>
 #include <mutex>
 #include <optional>
 #include <vector>
@@ -63,6 +68,36 @@ public:
     // The swap areas and the hibernation image; empty when the swap list cannot be read.
     std::optional<MemoryOptionDelayData> loadMemoryOptionDelayData();
 
+    // Addresses per interface; empty when they cannot be listed.
+    NetworkAddresses retIpAdress();
+    // Every interface with its kind, addresses, link and hardware; empty when none can be listed.
+    NetworkBase retNetworkBase();
+    // Traffic since boot, and the packet counts of the interfaces that base marks "Active";
+    // empty when the traffic table cannot be read. An active interface missing from the table
+    // is looked at again: gone or down by then, it is left out of this sample; still up with its
+    // counters unreadable, the collector asks for the application to end (terminationRequested).
+    std::optional<NetworkSample> loadNetworkData(double interval, const NetworkBase& base);
+    // True when links and addresses are as at the previous call; false when they changed, and
+    // the new state is kept for the next call.
+    bool checkInterfaceStatusChange();
+    // Forgets the kept state, so that the next check reports a change (on any thread).
+    void clearInterfaceStatusChange();
+    // Set once the statistics of an active interface could not be read: the figures can no
+    // longer be trusted, and the application is to quit.
+    bool terminationRequested() const { return terminationRequested_.load(); }
+
+    // The interface base. The sampling cycle's thread is its only writer and replaces it whole
+    // when the change check reports a change; readers on other threads (the Network menu) get a
+    // snapshot that stays valid and unchanged however long they hold it.
+    std::shared_ptr<const NetworkBase> networkBaseDict() const;
+    void setNetworkBaseDict(NetworkBase base);
+
+    // The host name of an IPv4 address, or "(Unknown Host)". Blocks while the resolver asks.
+    static QString getHostNameFromIpAddress(const QString& address);
+    // The name of NetworkManager's primary connection, or "---" when it is not running or has
+    // none. Waits at most a moment for the system bus.
+    static QString getCurrentNetworkLocation();
+
     const SourceSet& sources() const { return sources_; }
 
 private:
@@ -75,4 +110,9 @@ private:
     std::mutex desktopLock;
     std::optional<MemoryTotals> lastMemoryTotals;
     std::mutex memoryLock;
+    InterfaceStatusTable netIncDict;
+    std::mutex netIncLock;
+    std::shared_ptr<const NetworkBase> networkBase_ = std::make_shared<const NetworkBase>();
+    mutable std::mutex networkBaseLock;
+    std::atomic<bool> terminationRequested_ = false;
 };

@@ -75,3 +75,27 @@ TEST(LinuxCollector, MemoryFiguresOfTheCapturedTree)
     EXPECT_EQ(info.loadSwapUsage(), (SwapUsage{131068 * 1024, (131068 - 176) * 1024, 176 * 1024}));
     EXPECT_EQ(info.loadMemoryOptionDelayData(), (MemoryOptionDelayData{"/dev/dm-2", 1, 0}));
 }
+
+TEST(LinuxCollector, NetworkBaseAndSampleOfTheCapturedTree)
+{
+    if (sharedProcfsTree().empty())
+        GTEST_SKIP() << "the shared captured procfs tree is not present";
+    LoadSystemInformation info(makeSourceSet(sharedProcfsTree()));
+    EXPECT_FALSE(info.checkInterfaceStatusChange());
+    EXPECT_TRUE(info.checkInterfaceStatusChange());
+
+    // A captured tree holds no addresses, and no hardware database entry for its device.
+    const NetworkBase base = info.retNetworkBase();
+    ASSERT_EQ(base.size(), 1u);
+    const NetworkBaseEntry& eth = base.at("eth0");
+    EXPECT_EQ(eth.itf, (InterfaceIdentity{"eth0", "Ethernet"}));
+    EXPECT_FALSE(eth.ip);
+    EXPECT_EQ(eth.nic, (NicFacts{"Active", 1'000'000'000, std::nullopt, std::nullopt, "01:01:01:01:01:01"}));
+
+    const auto sample = info.loadNetworkData(1.0, base);
+    ASSERT_TRUE(sample);
+    EXPECT_EQ(sample->toUp, 438LL + 1664039048 + 438 + 563352563);
+    EXPECT_EQ(sample->toDw, 648LL + 1664039048 + 2568 + 874354587);
+    EXPECT_EQ(sample->packets, (std::vector<InterfacePackets>{{"eth0", 732147, 1036395}}));
+    EXPECT_FALSE(info.terminationRequested());
+}
