@@ -3,43 +3,42 @@
 
 #include "collect/linux/text_fields.h"
 
-#include <algorithm>
-#include <iterator>
 
 namespace {
 
 using Field = std::optional<std::uint64_t> MemoryCounters::*;
 
+// A name with the separator that ends it, so that "Active:" does not match "Active(anon):".
 struct NamedField {
-    std::string_view name;
+    std::string_view key;
     Field field;
 };
 
 constexpr NamedField kMeminfoFields[] = {
-    {"MemTotal", &MemoryCounters::memTotal},
-    {"MemFree", &MemoryCounters::memFree},
-    {"MemAvailable", &MemoryCounters::memAvailable},
-    {"Buffers", &MemoryCounters::buffers},
-    {"Cached", &MemoryCounters::cached},
-    {"Active", &MemoryCounters::active},
-    {"Inactive", &MemoryCounters::inactive},
-    {"Active(anon)", &MemoryCounters::activeAnon},
-    {"Inactive(anon)", &MemoryCounters::inactiveAnon},
-    {"Active(file)", &MemoryCounters::activeFile},
-    {"Inactive(file)", &MemoryCounters::inactiveFile},
-    {"Unevictable", &MemoryCounters::unevictable},
-    {"Zswap", &MemoryCounters::zswap},
-    {"AnonPages", &MemoryCounters::anonPages},
-    {"Shmem", &MemoryCounters::shmem},
-    {"SReclaimable", &MemoryCounters::sReclaimable},
-    {"SUnreclaim", &MemoryCounters::sUnreclaim},
-    {"KernelStack", &MemoryCounters::kernelStack},
-    {"PageTables", &MemoryCounters::pageTables},
+    {"MemTotal:", &MemoryCounters::memTotal},
+    {"MemFree:", &MemoryCounters::memFree},
+    {"MemAvailable:", &MemoryCounters::memAvailable},
+    {"Buffers:", &MemoryCounters::buffers},
+    {"Cached:", &MemoryCounters::cached},
+    {"Active:", &MemoryCounters::active},
+    {"Inactive:", &MemoryCounters::inactive},
+    {"Active(anon):", &MemoryCounters::activeAnon},
+    {"Inactive(anon):", &MemoryCounters::inactiveAnon},
+    {"Active(file):", &MemoryCounters::activeFile},
+    {"Inactive(file):", &MemoryCounters::inactiveFile},
+    {"Unevictable:", &MemoryCounters::unevictable},
+    {"Zswap:", &MemoryCounters::zswap},
+    {"AnonPages:", &MemoryCounters::anonPages},
+    {"Shmem:", &MemoryCounters::shmem},
+    {"SReclaimable:", &MemoryCounters::sReclaimable},
+    {"SUnreclaim:", &MemoryCounters::sUnreclaim},
+    {"KernelStack:", &MemoryCounters::kernelStack},
+    {"PageTables:", &MemoryCounters::pageTables},
 };
 
 constexpr NamedField kVmstatFields[] = {
-    {"pswpin", &MemoryCounters::pswpin},
-    {"pswpout", &MemoryCounters::pswpout},
+    {"pswpin ", &MemoryCounters::pswpin},
+    {"pswpout ", &MemoryCounters::pswpout},
 };
 
 // One "Name:   123 kB" line; a value in kB comes back in bytes.
@@ -69,22 +68,32 @@ bool vmstatLine(std::string_view line, std::string_view& name, std::uint64_t& va
     return true;
 }
 
+// The whole line that starts with key; empty when no line does.
+std::optional<std::string_view> lineStartingWith(std::string_view text, std::string_view key)
+{
+    for (std::size_t at = text.find(key); at != std::string_view::npos; at = text.find(key, at + 1)) {
+        if (at == 0 || text[at - 1] == '\n') {
+            const auto end = text.find('\n', at);
+            return text.substr(at, end == std::string_view::npos ? std::string_view::npos : end - at);
+        }
+    }
+    return std::nullopt;
+}
+
+// Looks for each wanted line rather than walking every line: vmstat has some two hundred, and
+// this runs every tick.
 template <std::size_t N>
 bool scanInto(std::string_view text, const NamedField (&fields)[N],
               bool (*parseLine)(std::string_view, std::string_view&, std::uint64_t&), MemoryCounters& counters)
 {
     bool any = false;
-    std::string_view line;
     std::string_view name;
     std::uint64_t value = 0;
-    while (takeLine(text, line)) {
-        if (!parseLine(line, name, value))
+    for (const NamedField& field : fields) {
+        const auto line = lineStartingWith(text, field.key);
+        if (!line || !parseLine(*line, name, value))
             continue;
-        const auto* field =
-            std::find_if(std::begin(fields), std::end(fields), [&](const NamedField& f) { return f.name == name; });
-        if (field == std::end(fields))
-            continue;
-        counters.*(field->field) = value;
+        counters.*(field.field) = value;
         any = true;
     }
     return any;
