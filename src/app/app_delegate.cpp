@@ -247,6 +247,8 @@ void AppDelegate::loadSysInfoTimer()
         CycleOutput output = SamplingCycle::runBody(*loadInfo_, std::move(input));
         executor_->postToMain([this, output = std::move(output)]() mutable {
             redrawStep(std::move(output.general), std::move(output.info));
+            if (output.quitRequested)
+                quitApplication();
         });
     });
 }

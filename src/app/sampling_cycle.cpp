@@ -42,10 +42,14 @@ void decideDueModules(ModuleDefaults& general, const std::array<qint64, 7>& inte
 CycleOutput runBody(LoadSystemInformation& loadInfo, CycleInput input)
 {
     decideDueModules(input.general, input.intervals, input.menuOpened, input.info.cpu.exists());
+    // Every cycle, sampled or not, so that the base is current when the Network menu opens. The
+    // base lives in the collector: this thread replaces it, the main thread reads snapshots.
+    if (!loadInfo.checkInterfaceStatusChange())
+        loadInfo.setNetworkBaseDict(loadInfo.retNetworkBase());
     static const VolumeBaseDict noVolumes;
     InfoDict info = loadCycleSysInfo(loadInfo, std::move(input.info), input.general,
                                      input.volumeBase ? *input.volumeBase : noVolumes);
-    return {std::move(input.general), std::move(info)};
+    return {std::move(input.general), std::move(info), loadInfo.terminationRequested()};
 }
 
 bool wasSampled(const ModuleDefaults& general, ModuleId id)
@@ -63,6 +67,15 @@ InfoDict loadCycleSysInfo(LoadSystemInformation& loadInfo, InfoDict info, const 
         CpuSample sample = loadInfo.loadCpuData();
         if (!sample.empty())
             info.cpu = info.cpu.appended(std::move(sample));
+    }
+    if (general.boolValue(moduleKeys(ModuleId::Memory).loadFlagKey)) {
+        if (auto sample = loadInfo.loadMemoryData())
+            info.memory = info.memory.appended(*sample);
+    }
+    if (general.boolValue(moduleKeys(ModuleId::Network).loadFlagKey)) {
+        const double interval = general.doubleValue(moduleKeys(ModuleId::Network).intervalKey);
+        if (auto sample = loadInfo.loadNetworkData(interval, *loadInfo.networkBaseDict()))
+            info.network = info.network.appended(std::move(*sample));
     }
     // An empty volume sample is kept too: it says that no volume is mounted.
     if (general.boolValue(moduleKeys(ModuleId::Volume).loadFlagKey))

@@ -25,6 +25,9 @@ struct CycleInput {
 struct CycleOutput {
     ModuleDefaults general;
     InfoDict info;
+    // The collector found the statistics of an active interface unreadable: the application is
+    // to quit once this output reaches the main thread.
+    bool quitRequested = false;
 };
 
 namespace SamplingCycle {
@@ -37,7 +40,8 @@ void loadCounterUp(ModuleDefaults& general, const char* switchKey, const char* c
 void decideDueModules(ModuleDefaults& general, const std::array<qint64, 7>& intervals,
                       const std::array<bool, 7>& menuOpened, bool cpuHistoryExists);
 
-// The whole body: the decision, then the collection.
+// The whole body: the decision, the interface change check (with a rebuild of the interface
+// base, which the collector keeps), then the collection.
 CycleOutput runBody(LoadSystemInformation& loadInfo, CycleInput input);
 
 // True when the module's switch and load flag are both on after a cycle.

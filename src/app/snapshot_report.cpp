@@ -27,6 +27,61 @@ QJsonArray cpuSampleJson(const CpuSample& sample)
 
 const char* const kOptionKeys[] = {"uptime", "awake", "tasks", "load", "host"};
 
+const char* const kMemoryFigures[] = {"wired",    "active",      "inactive",   "free",        "pageins",
+                                      "pageouts", "speculative", "compressor", "application", "cached"};
+
+QJsonArray memorySampleJson(const MemorySample& sample)
+{
+    QJsonArray figures;
+    for (std::int64_t figure : sample)
+        figures.append(static_cast<qint64>(figure));
+    return figures;
+}
+
+QJsonObject networkSampleJson(const NetworkSample& sample)
+{
+    QJsonObject object{{"to_up", static_cast<qint64>(sample.toUp)},
+                       {"to_dw", static_cast<qint64>(sample.toDw)},
+                       {"int", sample.interval}};
+    for (const InterfacePackets& p : sample.packets) {
+        object.insert(QString::fromStdString(p.name) + QLatin1String("_up"), static_cast<qint64>(p.up));
+        object.insert(QString::fromStdString(p.name) + QLatin1String("_dw"), static_cast<qint64>(p.dw));
+    }
+    return object;
+}
+
+// The raw figures until the menu-bar texts of these modules exist.
+QString memoryText(const AppDelegate& app)
+{
+    QString out = QStringLiteral("Memory\n");
+    const auto& history = app.infoDict().memory;
+    if (history.empty())
+        return out + QStringLiteral("  no sample yet\n");
+    out += QStringLiteral("  pages of %1 bytes\n").arg(app.loadInfo().memoryPageSize());
+    for (std::size_t i = 0; i < history.back().size(); ++i)
+        out += QStringLiteral("  %1 %2\n").arg(QString::fromLatin1(kMemoryFigures[i]), -11).arg(history.back()[i]);
+    return out;
+}
+
+QString networkText(const AppDelegate& app)
+{
+    QString out = QStringLiteral("Network\n");
+    const auto& history = app.infoDict().network;
+    if (history.empty())
+        return out + QStringLiteral("  no sample yet\n");
+    const NetworkSample& newest = history.back();
+    out += QStringLiteral("  sent %1 received %2 bytes, over %3 s\n")
+               .arg(newest.toUp)
+               .arg(newest.toDw)
+               .arg(newest.interval);
+    for (const InterfacePackets& p : newest.packets)
+        out += QStringLiteral("  %1 %2 packets sent, %3 received\n")
+                   .arg(QString::fromStdString(p.name))
+                   .arg(p.up)
+                   .arg(p.dw);
+    return out;
+}
+
 QString cpuText(const AppDelegate& app, const SnapshotReport::CpuPanelRows& panel)
 {
     QString out = QStringLiteral("CPU\n");
@@ -75,6 +130,10 @@ QString text(const AppDelegate& app, const CpuPanelRows& panel)
     QString out;
     if (moduleOn(app, ModuleId::Cpu))
         out += cpuText(app, panel);
+    if (moduleOn(app, ModuleId::Memory))
+        out += memoryText(app);
+    if (moduleOn(app, ModuleId::Network))
+        out += networkText(app);
     return out;
 }
 
@@ -86,6 +145,11 @@ QByteArray json(const AppDelegate& app, const CpuPanelRows& panel)
             root.insert(QLatin1String(moduleKeys(ModuleId::Cpu).historyKey), cpuSampleJson(app.infoDict().cpu.back()));
         root.insert(QLatin1String("CPUPanel"), cpuPanelJson(app, panel));
     }
+    const InfoDict& info = app.infoDict();
+    if (moduleOn(app, ModuleId::Memory) && !info.memory.empty())
+        root.insert(QLatin1String(moduleKeys(ModuleId::Memory).historyKey), memorySampleJson(info.memory.back()));
+    if (moduleOn(app, ModuleId::Network) && !info.network.empty())
+        root.insert(QLatin1String(moduleKeys(ModuleId::Network).historyKey), networkSampleJson(info.network.back()));
     return QJsonDocument(root).toJson(QJsonDocument::Compact) + '\n';
 }
 

@@ -5,6 +5,10 @@
 #include "collect/desktop_index.h"
 #include "collect/disk_sample.h"
 #include "collect/gpu_record.h"
+#include "collect/memory_sample.h"
+#include "collect/network_base.h"
+#include "collect/network_base_builder.h"
+#include "collect/network_sample.h"
 #include "collect/process_cpu_sampler.h"
 #include "collect/process_list.h"
 #include "collect/source_set.h"
@@ -13,8 +17,10 @@
 #include <QString>
 #include <QStringList>
 
+#include <atomic>
 #include <filesystem>
 #include <map>
+#include <memory>
 #include <mutex>
 #include <optional>
 #include <vector>
@@ -53,6 +59,48 @@ public:
     // Display names of the running desktop applications under "_<pid>".
     ProcessDict retProcessDict();
 
+    // The memory page counts (see memory_mapping.h for what each figure is); empty when the
+    // counters cannot be read. Each call reads the counter files once.
+    std::optional<MemorySample> loadMemoryData();
+    // What the memory figures add up to, as of the newest sample (read afresh before the first).
+    std::optional<MemoryTotals> memoryTotals();
+    // The size in bytes of the pages the memory figures count.
+    std::size_t memoryPageSize() const;
+    // Swap space over every swap area; empty when the swap list cannot be read.
+    std::optional<SwapUsage> loadSwapUsage();
+    // The swap areas and the hibernation image; empty when the swap list cannot be read.
+    std::optional<MemoryOptionDelayData> loadMemoryOptionDelayData();
+
+    // Addresses per interface; empty when they cannot be listed.
+    NetworkAddresses retIpAdress();
+    // Every interface with its kind, addresses, link and hardware; empty when none can be listed.
+    NetworkBase retNetworkBase();
+    // Traffic since boot, and the packet counts of the interfaces that base marks "Active";
+    // empty when the traffic table cannot be read. An active interface missing from the table
+    // is looked at again: gone or down by then, it is left out of this sample; still up with its
+    // counters unreadable, the collector asks for the application to end (terminationRequested).
+    std::optional<NetworkSample> loadNetworkData(double interval, const NetworkBase& base);
+    // True when links and addresses are as at the previous call; false when they changed, and
+    // the new state is kept for the next call.
+    bool checkInterfaceStatusChange();
+    // Forgets the kept state, so that the next check reports a change (on any thread).
+    void clearInterfaceStatusChange();
+    // Set once the statistics of an active interface could not be read: the figures can no
+    // longer be trusted, and the application is to quit.
+    bool terminationRequested() const { return terminationRequested_.load(); }
+
+    // The interface base. The sampling cycle's thread is its only writer and replaces it whole
+    // when the change check reports a change; readers on other threads (the Network menu) get a
+    // snapshot that stays valid and unchanged however long they hold it.
+    std::shared_ptr<const NetworkBase> networkBaseDict() const;
+    void setNetworkBaseDict(NetworkBase base);
+
+    // The host name of an IPv4 address, or "(Unknown Host)". Blocks while the resolver asks.
+    static QString getHostNameFromIpAddress(const QString& address);
+    // The name of NetworkManager's primary connection, or "---" when it is not running or has
+    // none. Waits at most a moment for the system bus.
+    static QString getCurrentNetworkLocation();
+
     // Storage descriptions, rebuilt on the main thread when volumes come and go.
     // Whole disks with their sizes, and the disk that holds each partition.
     VolumeUtilDetail retVolumeUtilDetail();
@@ -85,4 +133,11 @@ private:
     // a partition. Looked up rather than re-read, so a tick costs one read of the statistics.
     std::map<std::string, std::optional<QString>, std::less<>> diskKeys;
     std::mutex diskLock;
+    std::optional<MemoryTotals> lastMemoryTotals;
+    std::mutex memoryLock;
+    InterfaceStatusTable netIncDict;
+    std::mutex netIncLock;
+    std::shared_ptr<const NetworkBase> networkBase_ = std::make_shared<const NetworkBase>();
+    mutable std::mutex networkBaseLock;
+    std::atomic<bool> terminationRequested_ = false;
 };

@@ -19,6 +19,16 @@ struct SwapArea {
     std::uint64_t usedKiB = 0;
 };
 
+// The figures the memory sample is made of, in bytes, except the page-in and page-out counts;
+// each is empty when the kernel does not print it.
+struct MemoryCounters {
+    std::optional<std::uint64_t> memTotal, memFree, memAvailable, buffers, cached, shmem;
+    std::optional<std::uint64_t> active, inactive, activeAnon, activeFile, inactiveAnon, inactiveFile;
+    std::optional<std::uint64_t> unevictable, sUnreclaim, sReclaimable, kernelStack, pageTables, anonPages;
+    std::optional<std::uint64_t> zswap; // the compressed pool's size
+    std::optional<std::uint64_t> pswpin, pswpout;
+};
+
 class MemorySource {
 public:
     virtual ~MemorySource() = default;
@@ -26,6 +36,15 @@ public:
     virtual std::optional<NamedCounters> memoryInfo() = 0;
     // Paging and page-state counters by name, as counts.
     virtual std::optional<NamedCounters> vmStatistics() = 0;
+    // The sample's figures from one read of each counter file, without building the tables
+    // above; empty when the memory figures cannot be read (the paging counts may still be
+    // missing).
+    virtual std::optional<MemoryCounters> memoryCounters() = 0;
     virtual std::optional<std::vector<SwapArea>> swapAreas() = 0;
     virtual std::size_t pageSize() = 0;
+    // Whether the compressed swap cache is switched on; empty when the system has none.
+    virtual std::optional<bool> zswapEnabled() = 0;
+    // The size in bytes the system aims at for a hibernation image; empty where it cannot
+    // hibernate.
+    virtual std::optional<std::uint64_t> hibernationImageSize() = 0;
 };

@@ -1,7 +1,10 @@
-// Cadence rules of the per-module counters, and which samples the collection step keeps.
+// Cadence rules of the per-module counters, and the collection steps of the cycle body.
 #include "app/sampling_cycle.h"
 #include "collect/load_system_information.h"
 #include "prefs/pref_keys.h"
+
+#include "support/fake_network_source.h"
+#include "support/fixture_paths.h"
 
 #include <gtest/gtest.h>
 
@@ -104,4 +107,46 @@ TEST(LoadCycleSysInfo, AnEmptyVolumeSampleIsKeptAndAFailedDiskSampleIsNot)
     ASSERT_EQ(info.volume.size(), 1u);
     EXPECT_TRUE(info.volume.back().empty());
     EXPECT_FALSE(info.disk.exists());
+}
+
+TEST(CycleBody, MemoryAndNetworkStepsAndTheInterfaceBaseBetweenSamples)
+{
+    if (sharedProcfsTree().empty())
+        GTEST_SKIP() << "the shared captured procfs tree is not present";
+    SourceSet sources = makeSourceSet(sharedProcfsTree());
+    auto fake = std::make_unique<FakeNetworkSource>();
+    FakeNetworkSource* network = fake.get();
+    sources.network = std::move(fake);
+    network->listed = {FakeNetworkSource::wired("eth0", "up")};
+    network->rows = std::vector<InterfaceCounters>{{"eth0", 100, 1, 200, 2}};
+    LoadSystemInformation loadInfo(std::move(sources));
+
+    CycleInput input;
+    input.general.set(LaunchMemo, true);
+    input.general.set(LaunchNetw, true);
+    input.intervals = {1, 1, 3, 1, 1, 1, 1};
+    const auto cycle = [&] {
+        CycleOutput out = SamplingCycle::runBody(loadInfo, input);
+        input.general = out.general;
+        input.info = out.info;
+        return out.quitRequested;
+    };
+
+    EXPECT_FALSE(cycle());
+    ASSERT_EQ(input.info.memory.size(), 1u);
+    ASSERT_EQ(input.info.network.size(), 1u);
+    EXPECT_EQ(input.info.network.back(), (NetworkSample{200, 100, 3.0, {{"eth0", 2, 1}}}));
+
+    // Not a Network second, yet the base follows the interfaces at once.
+    network->listed.push_back(FakeNetworkSource::wired("usb0", "up"));
+    EXPECT_FALSE(cycle());
+    EXPECT_EQ(input.info.network.size(), 1u);
+    EXPECT_EQ(input.info.memory.size(), 2u);
+    EXPECT_TRUE(loadInfo.networkBaseDict()->contains("usb0"));
+
+    // usb0 is still up at its next sample but its counters cannot be read: time to quit.
+    network->secondLook["usb0"] = {true, std::nullopt};
+    EXPECT_FALSE(cycle());
+    EXPECT_TRUE(cycle());
+    EXPECT_EQ(input.info.network.size(), 2u);
 }

@@ -36,6 +36,24 @@ TEST(NetDevText, HandlesCountersGluedToTheColonAndSkipsShortRows)
     EXPECT_FALSE(parseNetDev("Inter-|   Receive\n face |bytes\n"));
 }
 
+TEST(NetDevText, NamesEndAtTheLastColonWhateverTheyHold)
+{
+    // Counters never hold a colon, so a name may: with blanks after it, glued to a counter,
+    // and with letters beyond ASCII.
+    const auto rows = parseNetDev("  br:lan:   10 1 0 0 0 0 0 0 20 2 0 0 0 0 0 0\n"
+                                  "v:1:4294967296 3 0 0 0 0 0 0 30 4 0 0 0 0 0 0\n"
+                                  "wlän0: 7 5 0 0 0 0 0 0 8 6 0 0 0 0 0 0\n");
+    ASSERT_TRUE(rows);
+    ASSERT_EQ(rows->size(), 3u);
+    EXPECT_EQ((*rows)[0].name, "br:lan");
+    EXPECT_EQ((*rows)[0].receivedBytes, 10u);
+    EXPECT_EQ((*rows)[1].name, "v:1");
+    EXPECT_EQ((*rows)[1].receivedBytes, 4294967296u);
+    EXPECT_EQ((*rows)[1].sentPackets, 4u);
+    EXPECT_EQ((*rows)[2].name, "wl\xc3\xa4n0");
+    EXPECT_EQ((*rows)[2].sentBytes, 8u);
+}
+
 TEST(DiskstatsText, ReadsRowsOfEveryKernelGeneration)
 {
     const auto rows = parseDiskstats(

@@ -2,11 +2,14 @@
 #include "collect/linux/linux_memory_source.h"
 
 #include "collect/linux/memory_parsers.h"
+#include "collect/linux/sysfs_attribute.h"
+#include "collect/linux/text_fields.h"
 
 #include <unistd.h>
 
 LinuxMemorySource::LinuxMemorySource(const SysRoot& root)
-    : meminfo_(root.join("proc/meminfo")), vmstat_(root.join("proc/vmstat")), swaps_(root.join("proc/swaps"))
+    : root_(root), meminfo_(root.join("proc/meminfo")), vmstat_(root.join("proc/vmstat")),
+      swaps_(root.join("proc/swaps")), zswapSwitch_(root.join("sys/module/zswap/parameters/enabled"))
 {
 }
 
@@ -24,6 +27,18 @@ std::optional<NamedCounters> LinuxMemorySource::vmStatistics()
     return text ? parseVmstat(*text) : std::nullopt;
 }
 
+std::optional<MemoryCounters> LinuxMemorySource::memoryCounters()
+{
+    const std::lock_guard guard(lock_);
+    MemoryCounters counters;
+    const auto meminfo = meminfo_.read();
+    if (!meminfo || !scanMeminfo(*meminfo, counters))
+        return std::nullopt;
+    if (const auto vmstat = vmstat_.read())
+        scanVmstat(*vmstat, counters);
+    return counters;
+}
+
 std::optional<std::vector<SwapArea>> LinuxMemorySource::swapAreas()
 {
     const std::lock_guard guard(lock_);
@@ -35,4 +50,28 @@ std::size_t LinuxMemorySource::pageSize()
 {
     const long size = ::sysconf(_SC_PAGESIZE);
     return size > 0 ? static_cast<std::size_t>(size) : 4096;
+}
+
+std::optional<bool> LinuxMemorySource::zswapEnabled()
+{
+    const std::lock_guard guard(lock_);
+    const auto text = zswapSwitch_.read();
+    if (!text)
+        return std::nullopt;
+    const std::string_view value = trimSpace(*text);
+    if (value.empty())
+        return std::nullopt;
+    return value == "Y" || value == "1";
+}
+
+std::optional<std::uint64_t> LinuxMemorySource::hibernationImageSize()
+{
+    // "disk" among the sleep states means the kernel can hibernate; the mode list reads
+    // "[disabled]" when it was forbidden (a locked-down kernel, for one).
+    const auto states = readAttributeText(root_.join("sys/power/state"));
+    if (!states || states->find("disk") == std::string::npos)
+        return std::nullopt;
+    if (readAttributeText(root_.join("sys/power/disk")) == "[disabled]")
+        return std::nullopt;
+    return readAttributeUnsigned(root_.join("sys/power/image_size"));
 }

@@ -1,5 +1,6 @@
 // Parses the interface rows "name: rx_bytes rx_packets ... tx_bytes tx_packets ...". Old kernels
-// print large counters right after the colon with no blank, so the name ends at the colon.
+// print large counters right after the colon with no blank, and a name may hold colons itself
+// (and any UTF-8 letters), so the name ends at the last colon: counters never hold one.
 #include "collect/linux/net_dev_parser.h"
 
 #include "collect/linux/text_fields.h"
@@ -20,7 +21,7 @@ std::optional<std::vector<InterfaceCounters>> parseNetDev(std::string_view text)
     std::vector<InterfaceCounters> rows;
     std::string_view line;
     while (takeLine(text, line)) {
-        const auto colon = line.find(':');
+        const auto colon = line.rfind(':');
         if (colon == std::string_view::npos)
             continue;
         const std::string_view name = trimSpace(line.substr(0, colon));
