@@ -2,6 +2,7 @@
 #include "recording_status_bar.h"
 #include "test_app.h"
 
+#include "app/appearance_watcher.h"
 #include "modules/general/top_tab_color_section.h"
 #include "modules/general/top_tab_theme_section.h"
 #include "modules/general/top_tab_view_controller.h"
@@ -166,6 +167,41 @@ TEST_F(PreferencesTest, SettingsSurviveARestartAndAFailedSaveIsShown)
     EXPECT_FALSE(window->storeFailureShown());
     rebootDays()->setValue(5);
     EXPECT_TRUE(window->storeFailureShown());
+}
+
+} // namespace
+
+namespace {
+
+TEST_F(PreferencesTest, ADarkDesktopSwitchesToTheThemesAlternativeOnce)
+{
+    ASSERT_FALSE(t.app->currentTheme().value(QLatin1String(_ForDarkAppearance)).toBool());
+    int reloads = 0;
+    QObject::connect(t.app.get(), &AppDelegate::allModulesReloaded, [&] { ++reloads; });
+    t.app->changeAppearanceMode(true);
+    QTest::qWait(kSettleMs);
+    EXPECT_TRUE(t.app->currentTheme().value(QLatin1String(_ForDarkAppearance)).toBool());
+    EXPECT_TRUE(themeFile().value(QLatin1String(_ForDarkAppearance)).toBool());
+    EXPECT_EQ(reloads, 1);
+    // Already dark: nothing more happens.
+    t.app->changeAppearanceMode(true);
+    QTest::qWait(kSettleMs);
+    EXPECT_EQ(reloads, 1);
+}
+
+TEST(AppearanceWatcher, PortalValuesAndPalettes)
+{
+    EXPECT_EQ(AppearanceWatcher::darkFromColorScheme(1), std::optional<bool>(true));
+    EXPECT_EQ(AppearanceWatcher::darkFromColorScheme(2), std::optional<bool>(false));
+    EXPECT_EQ(AppearanceWatcher::darkFromColorScheme(0), std::nullopt);
+    QPalette dark;
+    dark.setColor(QPalette::Window, QColor(0x20, 0x20, 0x20));
+    dark.setColor(QPalette::WindowText, Qt::white);
+    EXPECT_TRUE(AppearanceWatcher::darkFromPalette(dark));
+    QPalette light;
+    light.setColor(QPalette::Window, QColor(0xef, 0xef, 0xef));
+    light.setColor(QPalette::WindowText, Qt::black);
+    EXPECT_FALSE(AppearanceWatcher::darkFromPalette(light));
 }
 
 } // namespace
