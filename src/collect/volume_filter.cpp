@@ -1,6 +1,8 @@
 // Mount table rules: real file systems only, the top mount of a path, one mount per device.
 #include "collect/volume_filter.h"
 
+#include "collect/hex_escapes.h"
+
 #include <algorithm>
 #include <array>
 #include <map>
@@ -27,16 +29,6 @@ void replaceAll(std::string& text, std::string_view what)
         text.erase(at, what.size());
 }
 
-int hexValue(char c)
-{
-    if (c >= '0' && c <= '9')
-        return c - '0';
-    if (c >= 'a' && c <= 'f')
-        return c - 'a' + 10;
-    if (c >= 'A' && c <= 'F')
-        return c - 'A' + 10;
-    return -1;
-}
 } // namespace
 
 bool isNetworkFileSystem(std::string_view fsType)
@@ -92,16 +84,7 @@ bool mountedReadOnly(std::string_view options)
 
 std::string networkShareName(std::string_view source)
 {
-    std::string name;
-    name.reserve(source.size());
-    for (std::size_t i = 0; i < source.size(); ++i) {
-        if (source[i] == '%' && i + 2 < source.size() && hexValue(source[i + 1]) >= 0 && hexValue(source[i + 2]) >= 0) {
-            name.push_back(static_cast<char>(hexValue(source[i + 1]) * 16 + hexValue(source[i + 2])));
-            i += 2;
-        } else {
-            name.push_back(source[i]);
-        }
-    }
+    std::string name = decodeHexEscapes(source, "%");
     replaceAll(name, "//");
     replaceAll(name, ";AUTH=");
     return name;

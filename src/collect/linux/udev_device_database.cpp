@@ -2,6 +2,7 @@
 #include "collect/linux/udev_device_database.h"
 
 #include "collect/collect_log.h"
+#include "collect/hex_escapes.h"
 #include "collect/linux/text_fields.h"
 
 #include <libudev.h>
@@ -36,32 +37,11 @@ std::optional<std::string> text(udev_device* device, const char* encodedKey, con
     return property(device, plainKey);
 }
 
-int hexDigit(char c)
-{
-    if (c >= '0' && c <= '9')
-        return c - '0';
-    if (c >= 'a' && c <= 'f')
-        return c - 'a' + 10;
-    if (c >= 'A' && c <= 'F')
-        return c - 'A' + 10;
-    return -1;
-}
 } // namespace
 
 std::string decodeUdevEscapes(std::string_view text)
 {
-    std::string decoded;
-    decoded.reserve(text.size());
-    for (std::size_t i = 0; i < text.size(); ++i) {
-        if (text[i] == '\\' && i + 3 < text.size() && text[i + 1] == 'x' && hexDigit(text[i + 2]) >= 0 &&
-            hexDigit(text[i + 3]) >= 0) {
-            decoded.push_back(static_cast<char>(hexDigit(text[i + 2]) * 16 + hexDigit(text[i + 3])));
-            i += 3;
-        } else {
-            decoded.push_back(text[i]);
-        }
-    }
-    return decoded;
+    return decodeHexEscapes(text, "\\x");
 }
 
 UdevDeviceDatabase::UdevDeviceDatabase()
