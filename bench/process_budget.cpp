@@ -1,4 +1,9 @@
 // Runs the monitor for a while and prints its processor time per second and its memory.
+#include "prefs/module_table.h"
+#include "prefs/plist_settings_store.h"
+#include "prefs/pref_functions.h"
+#include "prefs/pref_keys.h"
+
 #include <QCoreApplication>
 #include <QDir>
 #include <QFile>
@@ -43,6 +48,20 @@ qint64 privateKiB(qint64 pid)
     return memoryKiB(pid, "Anonymous");
 }
 
+// First-run settings with the budget's conditions: every module that samples does so every
+// second, and the preferences window stays closed.
+void writeBudgetSettings(const QString& path)
+{
+    PlistSettingsStore store(path);
+    for (ModuleId id : kAllModules)
+        PrefFunctions::initializeModulePreference(id, store);
+    store.setString(PrefKey::AppVersion, QStringLiteral(TARVEL_VERSION));
+    store.setBool(PrefKey::DisplayTopWindowAtStartup, false);
+    for (ModuleId id : kSampledModules)
+        store.setInteger(moduleKeys(id).intervalKey, 1);
+    store.synchronize();
+}
+
 } // namespace
 
 int main(int argc, char** argv)
@@ -51,7 +70,8 @@ int main(int argc, char** argv)
     const QStringList args = app.arguments();
     if (args.size() < 2) {
         std::fprintf(stderr, "usage: tarvel_process_budget TARVEL [SECONDS] [TARVEL ARGUMENTS...]\n"
-                             "Runs TARVEL offscreen in its bar window (default 120 s after 5 s of warm-up).\n");
+                             "Runs TARVEL offscreen in its bar window (default 120 s after 5 s of warm-up),\n"
+                             "every module sampling every second.\n");
         return 2;
     }
     const int seconds = args.size() > 2 ? std::max(10, args.at(2).toInt()) : 120;
@@ -59,7 +79,9 @@ int main(int argc, char** argv)
     QProcessEnvironment env = QProcessEnvironment::systemEnvironment();
     env.insert(QStringLiteral("QT_QPA_PLATFORM"), QStringLiteral("offscreen"));
     env.insert(QStringLiteral("XDG_DATA_HOME"), home.filePath(QStringLiteral("data")));
-    QStringList tarvelArgs{QStringLiteral("--bar"), QStringLiteral("--settings"), home.filePath(QStringLiteral("s.plist"))};
+    const QString settings = home.filePath(QStringLiteral("s.plist"));
+    writeBudgetSettings(settings);
+    QStringList tarvelArgs{QStringLiteral("--bar"), QStringLiteral("--settings"), settings};
     tarvelArgs += args.mid(3);
 
     QProcess tarvel;

@@ -136,6 +136,8 @@ private:
     std::optional<MemoryTotals> lastMemoryTotals;
     std::mutex memoryLock;
     InterfaceStatusTable netIncDict;
+    bool netIncKnown = false; // netIncDict holds a look at the interfaces
+
     std::mutex netIncLock;
     std::shared_ptr<const NetworkBase> networkBase_ = std::make_shared<const NetworkBase>();
     mutable std::mutex networkBaseLock;

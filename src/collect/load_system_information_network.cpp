@@ -79,9 +79,17 @@ std::optional<NetworkSample> LoadSystemInformation::loadNetworkData(double inter
 
 bool LoadSystemInformation::checkInterfaceStatusChange()
 {
+    // Asked every tick: the full look (every link and address) only when something was announced.
+    const bool announced = !sources_.network || sources_.network->linksMayHaveChanged();
+    {
+        const std::lock_guard guard(netIncLock);
+        if (netIncKnown && !announced)
+            return true;
+    }
     const auto links = sources_.network ? sources_.network->linkStates() : std::nullopt;
     InterfaceStatusTable fresh = links ? interfaceStatusTable(*links, retIpAdress()) : InterfaceStatusTable{};
     const std::lock_guard guard(netIncLock);
+    netIncKnown = true;
     if (fresh == netIncDict)
         return true;
     netIncDict = std::move(fresh);
@@ -92,6 +100,7 @@ void LoadSystemInformation::clearInterfaceStatusChange()
 {
     const std::lock_guard guard(netIncLock);
     netIncDict.clear();
+    netIncKnown = false;
 }
 
 std::shared_ptr<const NetworkBase> LoadSystemInformation::networkBaseDict() const

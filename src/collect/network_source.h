@@ -62,4 +62,7 @@ public:
     // Every address of every interface, in the system's order; empty when they cannot be listed.
     virtual std::optional<std::vector<InterfaceAddress>> addresses() = 0;
     virtual InterfaceRecheck recheck(const std::string& name) = 0;
+    // False only when links and addresses are known to be as at the previous call; a source that
+    // cannot tell answers true, and the caller looks for itself. Never blocks.
+    virtual bool linksMayHaveChanged() { return true; }
 };

@@ -92,6 +92,14 @@ TEST(NetworkBaseAndChangeCheck, LastAddressWinsAndEveryChangeIsReportedOnce)
     c.info->clearInterfaceStatusChange();
     EXPECT_FALSE(c.info->checkInterfaceStatusChange());
 
+    // Unannounced, nothing is looked at; once the kept state is forgotten, it is looked at anyway.
+    c.network->announced = false;
+    c.network->listed[1].operState = "down";
+    EXPECT_TRUE(c.info->checkInterfaceStatusChange());
+    c.info->clearInterfaceStatusChange();
+    EXPECT_FALSE(c.info->checkInterfaceStatusChange());
+    c.network->announced = true;
+
     // With no interface at all both states are empty: nothing to report.
     c.network->listed.clear();
     c.network->addressList.clear();

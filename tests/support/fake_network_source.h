@@ -11,6 +11,7 @@ public:
     std::optional<std::vector<InterfaceCounters>> rows = std::vector<InterfaceCounters>{};
     std::vector<InterfaceAddress> addressList;
     std::map<std::string, InterfaceRecheck> secondLook; // unlisted names: gone
+    bool announced = true;                               // the system says links may have changed
 
     std::optional<std::vector<NetworkInterface>> interfaces() override { return listed; }
     std::optional<std::vector<InterfaceCounters>> counters() override { return rows; }
@@ -22,6 +23,7 @@ public:
         return links;
     }
     std::optional<std::vector<InterfaceAddress>> addresses() override { return addressList; }
+    bool linksMayHaveChanged() override { return announced; }
     InterfaceRecheck recheck(const std::string& name) override
     {
         const auto it = secondLook.find(name);

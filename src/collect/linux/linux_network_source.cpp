@@ -47,6 +47,13 @@ bool plainName(std::string_view name)
 LinuxNetworkSource::LinuxNetworkSource(const SysRoot& root)
     : root_(root), netDev_(root.join("proc/net/dev"))
 {
+    if (root_.root() == "/")
+        watch_ = std::make_unique<NetlinkWatch>();
+}
+
+bool LinuxNetworkSource::linksMayHaveChanged()
+{
+    return watch_ == nullptr || watch_->changed();
 }
 
 LinuxNetworkSource::~LinuxNetworkSource() = default;

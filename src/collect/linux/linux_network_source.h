@@ -2,6 +2,7 @@
 #pragma once
 
 #include "collect/linux/hardware_database.h"
+#include "collect/linux/netlink_watch.h"
 #include "collect/linux/proc_file.h"
 #include "collect/linux/sys_root.h"
 #include "collect/network_source.h"
@@ -21,6 +22,7 @@ public:
     // The live system's addresses; none below any other root, whose tree cannot hold them.
     std::optional<std::vector<InterfaceAddress>> addresses() override;
     InterfaceRecheck recheck(const std::string& name) override;
+    bool linksMayHaveChanged() override;
 
 private:
     SysRoot root_;
@@ -32,4 +34,6 @@ private:
     std::mutex linkLock_;
     // Opened at the first listing; the database is large and mapped once.
     std::unique_ptr<HardwareDatabase> hardware_;
+    // The live system's announcements; below another root nothing announces the tree's changes.
+    std::unique_ptr<NetlinkWatch> watch_;
 };
