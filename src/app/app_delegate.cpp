@@ -101,12 +101,11 @@ void AppDelegate::applicationDidFinishLaunching(bool startTimer)
             mutableDefaults(id) = PrefFunctions::loadModuleDefaults(id, store, themeColorDict_);
     }
 
-    // The window and its tabs exist only where there are status items to configure.
-    if (statusBar_ != nullptr)
-        drawModuleTabViewControllers();
+    // The preferences window is built when it is first opened: most of the time it is closed,
+    // and its widgets and the font list would only take memory.
     checkDrawMenu();
     volumeTracker_->startWatching();
-    if (preferencePanel_ != nullptr) {
+    if (statusBar_ != nullptr && qobject_cast<QGuiApplication*>(QCoreApplication::instance()) != nullptr) {
         appearanceWatcher_ = new AppearanceWatcher(this);
         connect(appearanceWatcher_, &AppearanceWatcher::appearanceChanged, this, &AppDelegate::changeAppearanceMode);
         changeAppearanceMode(appearanceWatcher_->isDark());
@@ -204,10 +203,10 @@ void AppDelegate::checkDrawMenu()
             moduleRelease(*id);
     }
     // Shown once at start; later rebuilds only bring an open window to the front again.
-    if (chkGeneBool(PrefKey::DisplayTopWindowAtStartup) && preferencePanel_ != nullptr &&
-        (!startupWindowShown_ || preferencePanel_->isVisible())) {
+    if (chkGeneBool(PrefKey::DisplayTopWindowAtStartup) && statusBar_ != nullptr &&
+        (!startupWindowShown_ || (preferencePanel_ != nullptr && preferencePanel_->isVisible()))) {
         startupWindowShown_ = true;
-        QTimer::singleShot(kStartupWindowDelayMs, preferencePanel_, [this] { openPreferenceTab(static_cast<int>(openedTabNum) - 1); });
+        QTimer::singleShot(kStartupWindowDelayMs, this, [this] { openPreferenceTab(static_cast<int>(openedTabNum) - 1); });
     }
     loadSysInfoTimerFinishedBool = false;
 }

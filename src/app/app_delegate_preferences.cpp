@@ -66,12 +66,19 @@ void AppDelegate::drawModuleTabViewControllers()
         }
         refreshAllMenuModules();
     });
-    connect(preferencePanel_, &PreferencesWindow::closed, this, &AppDelegate::refreshAllMenuModules);
+    connect(preferencePanel_, &PreferencesWindow::closed, this, [this] {
+        refreshAllMenuModules();
+        // Built again when next opened, from the settings of that moment.
+        preferencePanel_->deleteLater();
+    });
 }
 
 void AppDelegate::openPreferenceTab(int tabIndex)
 {
     openedTabNum = tabIndex + 1;
+    if (statusBar_ == nullptr)
+        return;
+    drawModuleTabViewControllers();
     if (preferencePanel_ == nullptr)
         return;
     preferencePanel_->openTab(tabIndex);

@@ -37,6 +37,7 @@ struct PreferencesTest : ::testing::Test {
     {
         t.launchWithBar(bar);
         t.executor->finishCycle();
+        t.app->openPreferenceTab(0);
     }
 
     TopTabViewController& top()
@@ -70,9 +71,14 @@ TEST_F(PreferencesTest, WindowHasOneTabPerModuleTitledWithTheApplication)
     ASSERT_NE(window, nullptr);
     EXPECT_EQ(window->tabCount(), 9);
     EXPECT_TRUE(window->windowTitle().endsWith(QStringLiteral(" Preferences")));
+    // Closing the window frees it; opening builds it again, on the tab asked for.
+    window->close();
+    QTest::qWait(10);
+    EXPECT_EQ(t.app->preferencePanel(), nullptr);
     t.app->openPreferenceTab(1);
-    EXPECT_EQ(window->currentTab(), 1);
-    EXPECT_TRUE(window->isVisible());
+    ASSERT_NE(t.app->preferencePanel(), nullptr);
+    EXPECT_EQ(t.app->preferencePanel()->currentTab(), 1);
+    EXPECT_TRUE(t.app->preferencePanel()->isVisible());
 }
 
 TEST_F(PreferencesTest, SwitchingCpuOffAndOnRemovesAndRestoresItsItemAndElements)
