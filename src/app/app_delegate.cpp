@@ -105,7 +105,7 @@ void AppDelegate::applicationDidFinishLaunching(bool startTimer)
     // and its widgets and the font list would only take memory.
     checkDrawMenu();
     volumeTracker_->startWatching();
-    if (statusBar_ != nullptr && qobject_cast<QGuiApplication*>(QCoreApplication::instance()) != nullptr) {
+    if (statusBar_ != nullptr && preferencesAvailable_ && qobject_cast<QGuiApplication*>(QCoreApplication::instance()) != nullptr) {
         appearanceWatcher_ = new AppearanceWatcher(this);
         connect(appearanceWatcher_, &AppearanceWatcher::appearanceChanged, this, &AppDelegate::changeAppearanceMode);
         changeAppearanceMode(appearanceWatcher_->isDark());

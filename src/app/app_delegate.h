@@ -37,6 +37,8 @@ public:
     // Where status items go; without one (snapshot) no module is created. Call before launching;
     // the bar must outlive this controller.
     void setStatusBar(StatusBar* bar) { statusBar_ = bar; }
+    // Whether a preferences window can be shown (not where only text lines are).
+    void setPreferencesAvailable(bool available) { preferencesAvailable_ = available; }
     // Device pixels per point of the modules' pictures; 0 follows the screen.
     void setPictureScale(qreal scale) { pictureScale_ = scale; }
 
@@ -157,6 +159,7 @@ private:
     std::deque<PrefNotification> pendingPrefs_;
     bool prefRetryScheduled_ = false;
     bool startupWindowShown_ = false;
+    bool preferencesAvailable_ = true;
     std::function<void()> rebootAction_;
     PrefNotificationCenter* prefCenter_;
     // Last member: destroyed first, so a running cycle ends before the collector goes away.

@@ -45,7 +45,8 @@ bool flag(const QVariantMap& info, const char* key)
 
 void AppDelegate::drawModuleTabViewControllers()
 {
-    if (preferencePanel_ != nullptr || qobject_cast<QApplication*>(QCoreApplication::instance()) == nullptr)
+    if (preferencePanel_ != nullptr || !preferencesAvailable_ ||
+        qobject_cast<QApplication*>(QCoreApplication::instance()) == nullptr)
         return;
     preferencePanel_ = new PreferencesWindow();
     preferencePanel_->setAttribute(Qt::WA_DeleteOnClose, false);

@@ -25,7 +25,8 @@ int runMonitor(const AppOptions& options, int argc, char** argv)
     QuitOnSignal quitOnSignal;
 
     std::unique_ptr<StatusBar> bar;
-    switch (chooseFrontEnd(options.bar, display, display && TrayStatusBar::isAvailable())) {
+    const FrontEndKind frontEnd = chooseFrontEnd(options.bar, display, display && TrayStatusBar::isAvailable());
+    switch (frontEnd) {
     case FrontEndKind::Tray:
         bar = std::make_unique<TrayStatusBar>();
         break;
@@ -39,6 +40,7 @@ int runMonitor(const AppOptions& options, int argc, char** argv)
 
     AppDelegate delegate(openSettingsStore(options), makeSourceSet(options.root.toStdString()));
     delegate.setStatusBar(bar.get());
+    delegate.setPreferencesAvailable(frontEnd != FrontEndKind::Terminal);
     delegate.applicationDidFinishLaunching();
     if (options.preferencesTab)
         delegate.openPreferenceTab(*options.preferencesTab);
