@@ -1,5 +1,6 @@
 // The Disk picture: its width rule against what it draws, per-disk and combined figures, rates.
 #include "modules/disk/disk_bar_width.h"
+#include "modules/disk/disk_graph.h"
 #include "modules/disk/disk_rates.h"
 #include "modules/disk/image_disk_bar.h"
 #include "storage_picture_defaults.h"
@@ -131,4 +132,42 @@ TEST(DiskRates, NeedTwoSamplesAndNeverRunBackwards)
         EXPECT_FALSE(countsInCombinedRates(QLatin1String(name))) << name;
     for (const char* name : {"/dev/sda", "/dev/nvme0n1", "/dev/mmcblk0", "/dev/md"})
         EXPECT_TRUE(countsInCombinedRates(QLatin1String(name))) << name;
+}
+
+TEST(DiskGraph, ScalesToTheBusiestMomentOrLogarithmicallyAndOpposesReadAndWrite)
+{
+    // Two rates, newest first: read 200 kB/s with write 50 kB/s, then read 100 kB/s alone.
+    const auto history =
+        historyOf<DiskSample>({diskSample({{"/dev/sda", {0, 0}}}, 1), diskSample({{"/dev/sda", {100'000, 0}}}, 1),
+                               diskSample({{"/dev/sda", {300'000, 50'000}}}, 1)});
+    const auto columns = [&](TvlClasses::DiskGraphKind kind, TvlClasses::DiskGraphScale scale) {
+        RecordingPaintDevice device(QSize(40, 20));
+        QPainter painter(&device);
+        const TvlClasses::DiskGraphStyle style{kind, scale, Qt::green, Qt::red};
+        EXPECT_DOUBLE_EQ(
+            tvlDrawDiskGraph(painter, history, QStringLiteral("/dev/sda"), style, QRectF(30, 0, 30, 20), false), 28);
+        painter.end();
+        std::vector<std::pair<QColor, QRectF>> out;
+        for (const DrawCall& call : device.calls(DrawCall::Rect))
+            if (call.rect.height() > 0)
+                out.emplace_back(call.brush, call.rect);
+        return out;
+    };
+    using Kind = TvlClasses::DiskGraphKind;
+    using Scale = TvlClasses::DiskGraphScale;
+    // Stacked against the peak of 250 kB/s: read 16 of 20 points, write 4 above it; then read 8.
+    const auto stacked = columns(Kind::Stacked, Scale::Relative);
+    ASSERT_EQ(stacked.size(), 3U);
+    EXPECT_EQ(stacked[0], std::make_pair(QColor(Qt::green), QRectF(29, 0, 1, 16)));
+    EXPECT_EQ(stacked[1], std::make_pair(QColor(Qt::red), QRectF(29, 16, 1, 4)));
+    EXPECT_EQ(stacked[2], std::make_pair(QColor(Qt::green), QRectF(28, 0, 1, 8)));
+    // Opposed against the larger of the two, 200 kB/s: read up from the middle, write down.
+    const auto opposed = columns(Kind::Opposed, Scale::Relative);
+    ASSERT_EQ(opposed.size(), 3U);
+    EXPECT_EQ(opposed[0].second, QRectF(29, 10, 1, 10));
+    EXPECT_EQ(opposed[1].second, QRectF(29, 7.5, 1, 2.5));
+    // Logarithmic: 250 kB/s is 5.4 of 9 decades, whatever else the graph shows.
+    const auto logarithmic = columns(Kind::Stacked, Scale::Logarithmic);
+    ASSERT_GE(logarithmic.size(), 2U);
+    EXPECT_NEAR(logarithmic[0].second.height() + logarithmic[1].second.height(), 20 * std::log10(250'000.0) / 9, 1e-9);
 }
