@@ -30,8 +30,14 @@ bool serviceMissing(const QDBusError& error)
 
 VolumeEjector::VolumeEjector(QObject* parent)
     : QObject(parent)
-    , bus_(QDBusConnection::systemBus())
 {}
+
+QDBusConnection VolumeEjector::bus()
+{
+    if (!bus_)
+        bus_ = QDBusConnection::systemBus();
+    return *bus_;
+}
 
 QString VolumeEjector::blockObjectPath(const QString& kernelName)
 {
@@ -70,7 +76,7 @@ void VolumeEjector::eject(const QString& path, const VolumeBaseEntry& volume)
         Q_EMIT finished(path, false, localized("Network volumes are disconnected, not ejected."));
         return;
     }
-    if (!bus_.isConnected()) {
+    if (!bus().isConnected()) {
         Q_EMIT finished(path, false, unavailableMessage());
         return;
     }
@@ -80,7 +86,7 @@ void VolumeEjector::eject(const QString& path, const VolumeBaseEntry& volume)
     QDBusMessage unmount = QDBusMessage::createMethodCall(
         QLatin1String(kService), blockPath, QLatin1String(kFilesystemInterface), QStringLiteral("Unmount"));
     unmount << QVariantMap();
-    auto* watcher = new QDBusPendingCallWatcher(bus_.asyncCall(unmount), this);
+    auto* watcher = new QDBusPendingCallWatcher(bus().asyncCall(unmount), this);
     connect(watcher, &QDBusPendingCallWatcher::finished, this, [this, path, blockPath](QDBusPendingCallWatcher* w) {
         w->deleteLater();
         unmounted(path, blockPath, *w);
@@ -96,7 +102,7 @@ void VolumeEjector::unmounted(const QString& path, const QString& blockPath, con
     QDBusMessage get = QDBusMessage::createMethodCall(QLatin1String(kService), blockPath, QLatin1String(kProperties),
                                                       QStringLiteral("Get"));
     get << QLatin1String(kBlockInterface) << QStringLiteral("Drive");
-    auto* watcher = new QDBusPendingCallWatcher(bus_.asyncCall(get), this);
+    auto* watcher = new QDBusPendingCallWatcher(bus().asyncCall(get), this);
     connect(watcher, &QDBusPendingCallWatcher::finished, this, [this, path](QDBusPendingCallWatcher* w) {
         w->deleteLater();
         driveFound(path, *w);
@@ -115,7 +121,7 @@ void VolumeEjector::driveFound(const QString& path, const QDBusPendingCall& call
     QDBusMessage all = QDBusMessage::createMethodCall(QLatin1String(kService), drive, QLatin1String(kProperties),
                                                       QStringLiteral("GetAll"));
     all << QLatin1String(kDriveInterface);
-    auto* watcher = new QDBusPendingCallWatcher(bus_.asyncCall(all), this);
+    auto* watcher = new QDBusPendingCallWatcher(bus().asyncCall(all), this);
     connect(watcher, &QDBusPendingCallWatcher::finished, this, [this, path, drive](QDBusPendingCallWatcher* w) {
         w->deleteLater();
         powerOff(path, drive, *w);
@@ -133,7 +139,7 @@ void VolumeEjector::powerOff(const QString& path, const QString& drive, const QD
         QDBusMessage off = QDBusMessage::createMethodCall(QLatin1String(kService), drive,
                                                           QLatin1String(kDriveInterface), QLatin1String(method));
         off << QVariantMap();
-        bus_.asyncCall(off);
+        bus().asyncCall(off);
     }
     Q_EMIT finished(path, true, {});
 }

@@ -8,6 +8,8 @@
 #include <QObject>
 #include <QString>
 
+#include <optional>
+
 class QDBusPendingCall;
 
 class VolumeEjector : public QObject {
@@ -33,10 +35,12 @@ Q_SIGNALS:
     void finished(const QString& path, bool ejected, const QString& message);
 
 private:
+    QDBusConnection bus();
     void unmounted(const QString& path, const QString& blockPath, const QDBusPendingCall& call);
     void driveFound(const QString& path, const QDBusPendingCall& call);
     void powerOff(const QString& path, const QString& drive, const QDBusPendingCall& call);
     void fail(const QString& path, const QDBusPendingCall& call);
 
-    QDBusConnection bus_;
+    // Connected at the first eject: items are created where no eject ever happens.
+    std::optional<QDBusConnection> bus_;
 };
