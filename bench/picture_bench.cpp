@@ -6,6 +6,7 @@
 #include "prefs/pref_functions.h"
 #include "prefs/pref_keys.h"
 #include "prefs/theme_files.h"
+#include "storage_picture_bench.h"
 #include "toolkit/menu_geometry.h"
 
 #include <QGuiApplication>
@@ -88,5 +89,6 @@ int main(int argc, char** argv)
     measure("all four elements per core, 40-point graph", everything, history, pictures);
     everything.set(PrefKey::CPU_GraphAsLine, true);
     measure("the same with line graphs", everything, history, pictures);
+    benchStoragePictures(theme, pictures);
     return 0;
 }

@@ -36,6 +36,7 @@ AppDelegate::AppDelegate(std::unique_ptr<SettingsStore> store, SourceSet sources
       executor_(std::make_unique<ThreadPoolCycleExecutor>(this))
 {
     connect(prefCenter_, &PrefNotificationCenter::posted, this, &AppDelegate::notifFromPref);
+    connect(volumeTracker_.get(), &VolumeTracker::descriptionsChanged, this, &AppDelegate::storageDescriptionsChanged);
 }
 
 AppDelegate::~AppDelegate()
@@ -145,6 +146,10 @@ void AppDelegate::moduleAlloc(ModuleId id)
     if (!slot)
         return;
     slot->setMyDefaults(defaults(id));
+    if (id == ModuleId::Disk)
+        moduleDskRefresh(true);
+    else if (id == ModuleId::Volume)
+        moduleVolRefresh(true);
     slot->setPictureScale(pictureScale_);
     slot->initDrawStatusBar(*statusBar_);
     if (id != ModuleId::General)
@@ -189,7 +194,8 @@ void AppDelegate::checkDrawMenu()
         moduleAlloc(ModuleId::General);
     else
         moduleRelease(ModuleId::General);
-    volumeTracker_->collectDskVolDetail();
+    if (volumeTracker_->collectDskVolDetail())
+        handOutStorageDescriptions();
     // Each new item goes to the left of the others, so walking the order backwards lays the bar
     // out in the user's order.
     const QVariantList order = generalDefaults().listValue(PrefKey::TopItemSortArray);

@@ -105,6 +105,12 @@ public:
     const LoadSystemInformation& loadInfo() const { return *loadInfo_; }
     // The volume and disk descriptions, with their signal for the Disk and Volume modules.
     VolumeTracker& volumeTracker() const { return *volumeTracker_; }
+    // Hand the descriptions to the Disk or the Volume module when it is on: an open menu is
+    // closed, since its rows no longer match, and with reset the picture is drawn again.
+    void moduleDskRefresh(bool reset);
+    void moduleVolRefresh(bool reset);
+    // Rebuilds the descriptions (unless Disk and Volume are both off) and hands them to both.
+    void moduleDskVolRefresh();
     bool isDebugMode() const { return isDebugMode_; }
     bool cycleRunning() const { return loadSysInfoTimerFinishedBool; }
     quint32 globalIpCheckCount() const { return chkNowGlobalIpAddrCount; }
@@ -131,6 +137,10 @@ private:
     void processFontOrColor(const QVariantMap& info, bool& skipRest);
     void processModuleNotif(ModuleId id, const QVariantMap& info, bool removeFirst, bool refreshItems);
     void handOutTabDefaults(bool themeChanged);
+    // After a mount, an unmount or a rename.
+    void storageDescriptionsChanged();
+    // The descriptions, as rebuilt, to the modules and the previews that draw from them.
+    void handOutStorageDescriptions();
     void writeNowThemeFile();
 
     std::unique_ptr<SettingsStore> userDefaults_;

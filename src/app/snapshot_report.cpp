@@ -2,7 +2,10 @@
 #include "app/snapshot_report.h"
 
 #include "app/app_delegate.h"
+#include "app/volume_tracker.h"
 #include "modules/cpu/cpu_usage_text.h"
+#include "modules/disk/disk_menu_rows.h"
+#include "modules/volume/volume_menu_rows.h"
 #include "prefs/pref_keys.h"
 
 #include <QJsonArray>
@@ -82,6 +85,63 @@ QString networkText(const AppDelegate& app)
     return out;
 }
 
+// The menu bar's words, then each disk as its menu block shows it.
+QString diskText(const AppDelegate& app)
+{
+    const DiskBaseDict& disks = app.volumeTracker().diskBaseDict();
+    const auto& history = app.infoDict().disk;
+    const std::vector<DiskBarSet> sets = diskBarSets(app.defaults(ModuleId::Disk), disks);
+    QString out = QStringLiteral("Disk\n  bar    ") + diskBarText(sets, disks, history) + QLatin1Char('\n');
+    if (history.size() < 2)
+        out += QStringLiteral("  (rates need two samples; sample more cycles)\n");
+    for (const auto& [key, disk] : disks) {
+        out += QStringLiteral("  ") + diskTitleText(disk) + QLatin1Char('\n');
+        for (const QString& line : {diskFactsText(disk), diskRatesText(history, key), diskTotalsText(history, key)})
+            if (!line.isEmpty())
+                out += QStringLiteral("    ") + line + QLatin1Char('\n');
+    }
+    return out;
+}
+
+// The menu bar's words, then each volume as its menu block shows it.
+QString volumeText(const AppDelegate& app)
+{
+    const VolumeBaseDict& volumes = app.volumeTracker().volumeBaseDict();
+    const auto& history = app.infoDict().volume;
+    const ModuleDefaults& settings = app.defaults(ModuleId::Volume);
+    const std::vector<VolumeBarSet> sets = volumeBarSets(settings, volumes);
+    QString out = QStringLiteral("Volume\n  bar    ")
+        + volumeBarText(sets, volumes, history, volumePercentKind(settings.intValue(PrefKey::Vlms_Percent_Mode)))
+        + QLatin1Char('\n');
+    static const VolumeSample noSample;
+    const VolumeSample& newest = history.empty() ? noSample : history.back();
+    for (const auto& [path, volume] : volumes)
+        out += QStringLiteral("  %1\n    %2\n    %3\n")
+                   .arg(volume.volumeName, volumeFactsText(path, volume), volumeUsageText(volumeUsageOf(newest, path)));
+    return out;
+}
+
+QJsonObject diskSampleJson(const DiskSample& sample)
+{
+    QJsonObject object{{"int", sample.interval}};
+    for (const auto& [key, counters] : sample.devices)
+        object.insert(key, QJsonArray{static_cast<qint64>(counters[0]), static_cast<qint64>(counters[1])});
+    return object;
+}
+
+QJsonObject volumeSampleJson(const VolumeSample& sample)
+{
+    const auto usage = [](const VolumeUsage& u) {
+        return QJsonArray{static_cast<qint64>(u.total), static_cast<qint64>(u.used), static_cast<qint64>(u.free)};
+    };
+    QJsonObject object;
+    for (const auto& [path, volume] : sample.volumes)
+        object.insert(path, usage(volume));
+    if (sample.all)
+        object.insert(QLatin1String("all"), usage(*sample.all));
+    return object;
+}
+
 QString cpuText(const AppDelegate& app, const SnapshotReport::CpuPanelRows& panel)
 {
     QString out = QStringLiteral("CPU\n");
@@ -134,6 +194,10 @@ QString text(const AppDelegate& app, const CpuPanelRows& panel)
         out += memoryText(app);
     if (moduleOn(app, ModuleId::Network))
         out += networkText(app);
+    if (moduleOn(app, ModuleId::Disk))
+        out += diskText(app);
+    if (moduleOn(app, ModuleId::Volume))
+        out += volumeText(app);
     return out;
 }
 
@@ -150,6 +214,10 @@ QByteArray json(const AppDelegate& app, const CpuPanelRows& panel)
         root.insert(QLatin1String(moduleKeys(ModuleId::Memory).historyKey), memorySampleJson(info.memory.back()));
     if (moduleOn(app, ModuleId::Network) && !info.network.empty())
         root.insert(QLatin1String(moduleKeys(ModuleId::Network).historyKey), networkSampleJson(info.network.back()));
+    if (moduleOn(app, ModuleId::Disk) && !info.disk.empty())
+        root.insert(QLatin1String(moduleKeys(ModuleId::Disk).historyKey), diskSampleJson(info.disk.back()));
+    if (moduleOn(app, ModuleId::Volume) && !info.volume.empty())
+        root.insert(QLatin1String(moduleKeys(ModuleId::Volume).historyKey), volumeSampleJson(info.volume.back()));
     return QJsonDocument(root).toJson(QJsonDocument::Compact) + '\n';
 }
 

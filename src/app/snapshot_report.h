@@ -19,7 +19,7 @@ struct CpuPanelRows {
 };
 
 // The texts the menu bar and the CPU panel show, one block per switched-on module (the raw
-// figures for Memory and Network).
+// figures for Memory and Network; for Disk and Volume also each disk's and volume's menu block).
 QString text(const AppDelegate& app, const CpuPanelRows& panel = {});
 
 // The newest raw sample of each switched-on module under its module key, and the CPU panel's

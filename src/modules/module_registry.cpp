@@ -3,8 +3,12 @@
 
 #include "modules/cpu/cpu_menu_module.h"
 #include "modules/cpu/cpu_tab_view_controller.h"
+#include "modules/disk/disk_menu_module.h"
+#include "modules/disk/disk_tab_view_controller.h"
 #include "modules/general/general_menu_module.h"
 #include "modules/general/top_tab_view_controller.h"
+#include "modules/volume/volume_menu_module.h"
+#include "modules/volume/volume_tab_view_controller.h"
 #include "preferences/unbuilt_module_tab.h"
 
 std::unique_ptr<MenuModule> createMenuModule(ModuleId id, MenuModuleDelegate* delegate)
@@ -14,10 +18,12 @@ std::unique_ptr<MenuModule> createMenuModule(ModuleId id, MenuModuleDelegate* de
         return std::make_unique<General_MenuModule>(delegate);
     case ModuleId::Cpu:
         return std::make_unique<CPU_MenuModule>(delegate);
+    case ModuleId::Disk:
+        return std::make_unique<Disk_MenuModule>(delegate);
+    case ModuleId::Volume:
+        return std::make_unique<Volume_MenuModule>(delegate);
     case ModuleId::Memory:
     case ModuleId::Network:
-    case ModuleId::Disk:
-    case ModuleId::Volume:
     case ModuleId::Temp:
     case ModuleId::Fan:
     case ModuleId::Vnc:
@@ -39,10 +45,12 @@ PreferenceTab* createPreferenceTab(ModuleId id, MenuModuleDelegate* delegate, Se
         return new TopTabViewController(delegate, store, center);
     case ModuleId::Cpu:
         return new CpuTabViewController(store, center);
+    case ModuleId::Disk:
+        return new DiskTabViewController(store, center);
+    case ModuleId::Volume:
+        return new VolumeTabViewController(store, center);
     case ModuleId::Memory:
     case ModuleId::Network:
-    case ModuleId::Disk:
-    case ModuleId::Volume:
     case ModuleId::Temp:
     case ModuleId::Fan:
     case ModuleId::Vnc:

@@ -66,6 +66,7 @@ void addVolume(ModuleDefaults& d, const Measure& m)
     addLabelPair(d, m, PlistFunction::labelForSetting(PlistFunction::retVolumeUsedFree(), d.intValue(Vlms_Text_Label) + 1), Vlms_Text_LabelAry,
                  VlmsInnerTextLabelWidth);
     d.set(VlmsInnerPercentWidth, m.floorWidth(QStringLiteral("188%")));
+    d.set(VlmsInnerTextValueWidth, m.floorWidth(QStringLiteral("888.8XX")));
     d.set(VlmsInnerIconAbleToBeBol, d.boolValue(Vlms_WithDiskIconInBackground) && d.boolValue(Vlms_ShowEachDisk));
 }
 

@@ -212,6 +212,8 @@ inline constexpr char Vlms_Text_LabelAry[] = "Vlms_Text_LabelAry";
 inline constexpr char VlmsInnerIconAbleToBeBol[] = "VlmsInnerIconAbleToBeBol";
 inline constexpr char VlmsInnerTextLabelWidth[] = "VlmsInnerTextLabelWidth";
 inline constexpr char VlmsInnerPercentWidth[] = "VlmsInnerPercentWidth";
+// The widest size the Volume text shows, measured like the Disk rates.
+inline constexpr char VlmsInnerTextValueWidth[] = "VlmsInnerTextValueWidth";
 inline constexpr char TempInnerTextWidth[] = "TempInnerTextWidth";
 inline constexpr char TempInnerTextMode[] = "TempInnerTextMode";
 inline constexpr char TempInnerPiledFontSizeDbl[] = "TempInnerPiledFontSizeDbl";

@@ -156,7 +156,15 @@ ModuleSchema disk()
                            {Disk_ShowMyLabel, T::Bool, kNone}},
                           Disk_EnaMenu_Amon, Disk_EnaMenu_Cnsl, Disk_EnaMenu_Tmnl),
             colors({"D01", "D02", "D03", "D04"}),
-            sharedPictures("L04", {{"O31", PictureSize::Icon18}, {"O32", PictureSize::Icon18}})};
+            // The volume kinds stand behind per-disk sets when disk pictures are asked for.
+            sharedPictures("L04", {{"M01", PictureSize::Half},
+                                   {"M02", PictureSize::Half},
+                                   {"M03", PictureSize::Half},
+                                   {"M04", PictureSize::Half},
+                                   {"M05", PictureSize::Half},
+                                   {"M06", PictureSize::Half},
+                                   {"O31", PictureSize::Icon18},
+                                   {"O32", PictureSize::Icon18}})};
 }
 
 ModuleSchema volume()

@@ -147,6 +147,17 @@ protected:
         return QImage(QDir(out).filePath(moduleKey + QStringLiteral(".png")));
     }
 
+    // The modules the render command drew a status-item picture of (menu graphs left out).
+    QStringList renderedModuleKeys()
+    {
+        renderedPicture(QStringLiteral("General"));
+        QStringList keys;
+        for (const QString& file : QDir(dir_.filePath(QStringLiteral("rendered"))).entryList({QStringLiteral("*.png")}))
+            if (!file.contains(QLatin1Char('-')))
+                keys << file.chopped(4);
+        return keys;
+    }
+
     QImage grab()
     {
         const QString file = dir_.filePath(QStringLiteral("screen.png"));

@@ -12,13 +12,21 @@ TEST_F(VirtualScreenTest, BarWindowShowsTheCpuPictureAtItsWidthInTheThemeColours
     QProcess& tarvel = start(QStringLiteral(TARVEL_EXECUTABLE), tarvelArguments({QStringLiteral("--bar")}));
     ASSERT_TRUE(tarvel.waitForStarted());
 
-    // The bar ends with General at the right edge; the CPU picture stands one gap to its left.
-    // Rendered at scale 1, the CPU picture's pixels are the bar's points.
+    // The bar ends with General at the right edge; CPU comes first in the first-run order, so
+    // every other item stands to its right, one gap apart. Rendered at scale 1, the CPU
+    // picture's pixels are the bar's points.
     const int gap = BarWindowStatusBar::kItemSpacing;
     ASSERT_EQ(pointSize(cpu), cpu.size());
-    const int barHeight = std::max({BarWindowStatusBar::kMinimumHeight, cpu.height(), pointSize(general).height()});
-    const QRect cpuSlot(screenSize().width() - pointSize(general).width() - gap - cpu.width(), 0, cpu.width(),
-                        barHeight);
+    int barHeight = std::max(BarWindowStatusBar::kMinimumHeight, cpu.height());
+    int rightOfCpu = 0;
+    for (const QString& key : renderedModuleKeys()) {
+        if (key == QLatin1String("CPU"))
+            continue;
+        const QSize size = pointSize(renderedPicture(key));
+        rightOfCpu += size.width() + gap;
+        barHeight = std::max(barHeight, size.height());
+    }
+    const QRect cpuSlot(screenSize().width() - rightOfCpu - cpu.width(), 0, cpu.width(), barHeight);
     const QRect cpuDrawn = boundsDifferingFrom(cpu, cpu.rect(), qRgba(0, 0, 0, 0));
     const QList<QRgb> themeColours = solidColours(cpu);
     ASSERT_FALSE(themeColours.isEmpty());

@@ -27,7 +27,8 @@ QVariantMap bundled(const char* name)
 }
 
 // Pixel sizes: the loaders draw labels, status items and volume kinds at half their pixels and
-// the menu pictures at 18 x 18 points, so all are drawn at twice their point size.
+// the menu pictures at 18 x 18 points, so all are drawn at twice their point size. Volume kinds
+// are 36 points: the Volume menu shows them at that size.
 QSize pixelSizeOf(const QString& key)
 {
     if (key.startsWith(u'L'))
@@ -35,7 +36,7 @@ QSize pixelSizeOf(const QString& key)
     if (key.startsWith(u'N'))
         return {44, 44};
     if (key.startsWith(u'M') && key < QStringLiteral("M11"))
-        return {28, 28};
+        return {72, 72};
     return {36, 36};
 }
 

@@ -5,7 +5,10 @@
 
 namespace {
 
-constexpr QSizeF kKindSize(14, 14);
+// The kinds are designed on a 14-point grid and drawn at 36 points, the size the Volume menu
+// shows them at; the menu bar draws them at 14 points, a sharp reduction.
+constexpr double kKindGrid = 14;
+constexpr QSizeF kKindSize(36, 36);
 constexpr QSizeF kMenuSize(18, 18);
 
 void drawDriveBox(QPainter& p, const PictureInks& inks, const QRectF& box, const char* ledKey)
@@ -130,7 +133,10 @@ void addVolumePictures(QVariantMap& theme, const PictureInks& inks)
         {"M04", drawNetworkVolume}, {"M05", drawOptical}, {"M06", drawDiskImage},
     };
     for (const auto& [key, picture] : kinds)
-        theme.insert(QLatin1String(key), drawPicture(kKindSize, [&](QPainter& p) { picture(p, inks); }));
+        theme.insert(QLatin1String(key), drawPicture(kKindSize, [&](QPainter& p) {
+            p.scale(kKindSize.width() / kKindGrid, kKindSize.height() / kKindGrid);
+            picture(p, inks);
+        }));
     theme.insert(QStringLiteral("M11"), drawPicture(kMenuSize, [&](QPainter& p) { drawEject(p, inks); }));
     theme.insert(QStringLiteral("M12"), drawPicture(kMenuSize, [&](QPainter& p) { drawOpenFolder(p, inks); }));
 }

@@ -1,0 +1,106 @@
+// The Disk tab: each control writes its key, saves and posts "DiskModuleNotif"; the preview is
+// drawn by the status item's own picture code.
+#include "modules/disk/disk_tab_view_controller.h"
+
+#include "modules/disk/disk_bar_width.h"
+#include "modules/disk/image_disk_bar.h"
+#include "preferences/picture_preview.h"
+#include "prefs/pref_keys.h"
+#include "toolkit/label_lists.h"
+#include "toolkit/localization.h"
+#include "toolkit/menu_geometry.h"
+
+#include <QCheckBox>
+#include <QFormLayout>
+#include <QGroupBox>
+
+using namespace PrefKey;
+
+namespace {
+
+// The label pairs as "R: / W:", the hyphen pair as "None".
+StorageTab::Choices labelChoices()
+{
+    StorageTab::Choices choices;
+    qint64 value = 1;
+    for (const QStringList& pair : PlistFunction::retDiskReadWrite()) {
+        const bool none = pair.value(0) == QLatin1String("-");
+        choices.append({none ? localized("None") : pair.join(QStringLiteral(" / ")), value++});
+    }
+    return choices;
+}
+
+StorageTab::Choices listChoices(const QStringList& texts)
+{
+    StorageTab::Choices choices;
+    for (qsizetype i = 0; i < texts.size(); ++i)
+        choices.append({texts.at(i), i + 1});
+    return choices;
+}
+
+} // namespace
+
+const QList<StorageTab::Element>& DiskTabViewController::elements()
+{
+    static const QList<Element> list{{1, Disk_Display_Indicator, "Read/write lamps"},
+                                     {2, Disk_Display_Graph, "Graph"},
+                                     {3, Disk_Display_Text, "Text"}};
+    return list;
+}
+
+DiskTabViewController::DiskTabViewController(SettingsStore& store, PrefNotificationCenter& center, QWidget* parent)
+    : StorageTab(ModuleId::Disk, store, center, parent)
+{
+    buildFrame(elements(), DiskItemSortArray, buildDisplay(),
+               buildMenuItems(Disk_EnaMenu_Amon, Disk_EnaMenu_Cnsl, Disk_EnaMenu_Tmnl));
+    redrawPreview();
+}
+
+QWidget* DiskTabViewController::buildDisplay()
+{
+    auto* box = new QGroupBox(localized("Display"), this);
+    auto* form = new QFormLayout(box);
+    addGraphSlider(form, Disk_GraphWidth);
+    addIntervalSlider(form, Disk_UpdateInterval);
+    addChoice(form, Disk_Indicator_Label, "Lamp labels", labelChoices());
+    addChoice(form, Disk_Graph_Label, "Graph labels", labelChoices());
+    addChoice(form, Disk_Text_Label, "Text labels", labelChoices());
+    addChoice(form, Disk_Graph_Mode, "Graph style", listChoices(PlistFunction::retGeneralGraphKind()));
+    addChoice(form, Disk_Percent_Mode, "Graph scale",
+              {{localized("Relative to the busiest moment shown"), 1}, {localized("Logarithmic"), 2}});
+    QCheckBox* each = addSwitch(form, Disk_ShowEachDisk, "Show each disk");
+    QCheckBox* icons = addSwitch(form, Disk_WithDiskIconInBackground, "Disk pictures behind each disk");
+    // A picture stands for one disk, so it goes only behind per-disk sets.
+    connect(each, &QCheckBox::toggled, icons, &QWidget::setEnabled);
+    icons->setEnabled(each->isChecked());
+    addSwitch(form, Disk_ShowMyLabel, "Show the Disk label");
+    return box;
+}
+
+void DiskTabViewController::setLiveHistory(const InfoDict& info)
+{
+    if (!info.disk.exists() || info.disk.empty())
+        return;
+    history_ = info.disk;
+    redrawPreview();
+}
+
+void DiskTabViewController::setDiskBaseDict(const DiskBaseDict& diskBaseDict)
+{
+    diskBaseDict_ = diskBaseDict;
+    redrawPreview();
+}
+
+void DiskTabViewController::redrawPreview()
+{
+    if (preview() == nullptr)
+        return;
+    const ModuleDefaults defaults = previewDefaults();
+    const std::vector<DiskBarSet> sets = diskBarSets(defaults, diskBaseDict_);
+    const double height = TvlClasses::retRootMenuHeight();
+    ImageDiskBar bar;
+    bar.redrawWithSize(QSizeF(diskBarWidth(defaults, sets.size()), height),
+                       TvlClasses::retStatusMenuInsets(diskShownElementCount(defaults)), false, true, defaults,
+                       history_, sets);
+    preview()->setImage(bar.image(devicePixelRatioF() * PicturePreview::zoom()));
+}

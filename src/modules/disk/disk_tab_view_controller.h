@@ -1,0 +1,30 @@
+// The Disk module's preferences tab: elements and their order, graph, interval, labels, graph
+// style and scale, per-disk sets, menu items and a live preview of the picture.
+#pragma once
+
+#include "collect/disk_sample.h"
+#include "collect/history.h"
+#include "collect/storage_descriptions.h"
+#include "modules/disk/storage_tab.h"
+
+class DiskTabViewController : public StorageTab {
+    Q_OBJECT
+public:
+    DiskTabViewController(SettingsStore& store, PrefNotificationCenter& center, QWidget* parent = nullptr);
+
+    // The elements in the list: lamps 1, graph 2, text 3.
+    static const QList<Element>& elements();
+
+    void setLiveHistory(const InfoDict& info) override;
+    // The disks the preview draws one set for, as the status item does.
+    void setDiskBaseDict(const DiskBaseDict& diskBaseDict);
+
+protected:
+    void redrawPreview() override;
+
+private:
+    QWidget* buildDisplay();
+
+    History<DiskSample> history_;
+    DiskBaseDict diskBaseDict_;
+};

@@ -1,0 +1,66 @@
+// The Volume status item: its picture in the bar, and its menu with the combined graph, a block
+// per volume and the open and eject items.
+#pragma once
+
+#include "collect/disk_sample.h"
+#include "collect/history.h"
+#include "collect/storage_descriptions.h"
+#include "modules/menu_module.h"
+#include "modules/volume/image_volume_bar.h"
+#include "modules/volume/volume_ejector.h"
+#include "modules/volume/volume_menu_controller.h"
+
+#include <memory>
+
+class QLabel;
+
+class Volume_MenuModule final : public MenuModule {
+    Q_OBJECT
+public:
+    explicit Volume_MenuModule(MenuModuleDelegate* delegate, QObject* parent = nullptr);
+
+    void setHistory(const InfoDict& info) override;
+    void setResumeArray(const History<VolumeSample>& history) { resumeArray = history; }
+    // The volumes to show; the menu's blocks and items follow at its next opening.
+    void setVolumeBaseDict(std::shared_ptr<const VolumeBaseDict> volumeBaseDict);
+    const VolumeBaseDict& volumeBaseDict() const { return *volumeBaseDict_; }
+    void refreshBar() override;
+
+    // Closes an open menu, whose blocks no longer match the volumes.
+    void menuAutoClose();
+    bool checkcMenuOpened() const { return menuOpened(); }
+    // Draws again from the volumes now described (after a mount or an unmount).
+    void resetAndRefreshBar();
+
+    // The picture last given to the status item, and the graph the open menu shows.
+    const QImage& barImage() const { return barImage_; }
+    QImage menuGraphImage();
+    // The panel of volume blocks; none before the menu is built.
+    Volume_MenuController* controller() const { return volumeMenuController; }
+    VolumeEjector& ejector() { return *ejector_; }
+
+protected:
+    void drawBaseStatusBar() override;
+    void redrawStatusItem() override;
+    void prepareMenuOpening() override;
+
+private:
+    static constexpr double kMenuGraphHeight = 20;
+
+    void addVolumeItems();
+    void ejectFinished(const QString& path, bool ejected, const QString& message);
+    // The user's settings with the menu graph's fixed layout laid over them.
+    ModuleDefaults withMenuLayout() const;
+    QImage drawMenuGraph(const ModuleDefaults& defaults);
+
+    ModuleDefaults mnDefaults;
+    ModuleDefaults mnDefaultsTmp;
+    ImageVolumeBar imageVolumeBar;
+    ImageVolumeBar imageVolumeMenu;
+    QLabel* menuGraph_ = nullptr;                          // owned by the menu through its widget action
+    Volume_MenuController* volumeMenuController = nullptr; // likewise
+    VolumeEjector* ejector_;                               // a child of this module
+    History<VolumeSample> resumeArray;
+    std::shared_ptr<const VolumeBaseDict> volumeBaseDict_;
+    QImage barImage_;
+};

@@ -1,0 +1,113 @@
+// The Volume tab: each control writes its key, saves and posts "VlmsModuleNotif"; the preview is
+// drawn by the status item's own picture code.
+#include "modules/volume/volume_tab_view_controller.h"
+
+#include "modules/volume/image_volume_bar.h"
+#include "modules/volume/volume_bar_width.h"
+#include "preferences/picture_preview.h"
+#include "prefs/pref_keys.h"
+#include "toolkit/label_lists.h"
+#include "toolkit/localization.h"
+#include "toolkit/menu_geometry.h"
+
+#include <QCheckBox>
+#include <QFormLayout>
+#include <QGroupBox>
+
+using namespace PrefKey;
+
+namespace {
+
+// The label pairs as "U: / F:", the hyphen pair as "None". This setting counts from 0.
+StorageTab::Choices labelChoices()
+{
+    StorageTab::Choices choices;
+    qint64 value = 0;
+    for (const QStringList& pair : PlistFunction::retVolumeUsedFree()) {
+        const bool none = pair.value(0) == QLatin1String("-");
+        choices.append({none ? localized("None") : pair.join(QStringLiteral(" / ")), value++});
+    }
+    return choices;
+}
+
+StorageTab::Choices percentChoices()
+{
+    StorageTab::Choices choices;
+    const QStringList kinds = PlistFunction::retVolumePercentKind();
+    for (qsizetype i = 0; i < kinds.size(); ++i)
+        choices.append({kinds.at(i), i + 1});
+    return choices;
+}
+
+} // namespace
+
+const QList<StorageTab::Element>& VolumeTabViewController::elements()
+{
+    static const QList<Element> list{{1, Vlms_Display_BarChart, "Bar chart"},
+                                     {2, Vlms_Display_CycleChart, "Cycle chart"},
+                                     {3, Vlms_Display_Graph, "Graph"},
+                                     {4, Vlms_Display_Text, "Text"},
+                                     {5, Vlms_Display_Percent, "Percentage"}};
+    return list;
+}
+
+VolumeTabViewController::VolumeTabViewController(SettingsStore& store, PrefNotificationCenter& center, QWidget* parent)
+    : StorageTab(ModuleId::Volume, store, center, parent)
+    , volumeBaseDict_(std::make_shared<const VolumeBaseDict>())
+{
+    buildFrame(elements(), VlmsItemSortArray, buildDisplay(),
+               buildMenuItems(Volume_EnaMenu_Amon, Volume_EnaMenu_Cnsl, Volume_EnaMenu_Tmnl));
+    redrawPreview();
+}
+
+QWidget* VolumeTabViewController::buildDisplay()
+{
+    auto* box = new QGroupBox(localized("Display"), this);
+    auto* form = new QFormLayout(box);
+    addGraphSlider(form, Vlms_GraphWidth);
+    addIntervalSlider(form, Vlms_UpdateInterval);
+    addChoice(form, Vlms_Text_Label, "Text labels", labelChoices());
+    addChoice(form, Vlms_Percent_Mode, "Percentage", percentChoices());
+    QCheckBox* line = addSwitch(form, Vlms_GraphAsLine, "Draw the graph as a line");
+    QCheckBox* bold = addSwitch(form, Vlms_LineAsBold, "Heavy line");
+    connect(line, &QCheckBox::toggled, bold, &QWidget::setEnabled);
+    bold->setEnabled(line->isChecked());
+    addSwitch(form, Vlms_ColoredValue, "Colour the figures by how full the volume is");
+    addSwitch(form, Vlms_GradientColor, "Blend the warning colours");
+    QCheckBox* each = addSwitch(form, Vlms_ShowEachDisk, "Show each volume");
+    QCheckBox* icons = addSwitch(form, Vlms_WithDiskIconInBackground, "Volume pictures behind each volume");
+    // A picture stands for one volume, so it goes only behind per-volume sets.
+    connect(each, &QCheckBox::toggled, icons, &QWidget::setEnabled);
+    icons->setEnabled(each->isChecked());
+    addSwitch(form, Vlms_ShowMyLabel, "Show the Volume label");
+    return box;
+}
+
+void VolumeTabViewController::setLiveHistory(const InfoDict& info)
+{
+    if (!info.volume.exists() || info.volume.empty())
+        return;
+    history_ = info.volume;
+    redrawPreview();
+}
+
+void VolumeTabViewController::setVolumeBaseDict(std::shared_ptr<const VolumeBaseDict> volumeBaseDict)
+{
+    if (volumeBaseDict)
+        volumeBaseDict_ = std::move(volumeBaseDict);
+    redrawPreview();
+}
+
+void VolumeTabViewController::redrawPreview()
+{
+    if (preview() == nullptr)
+        return;
+    const ModuleDefaults defaults = previewDefaults();
+    const std::vector<VolumeBarSet> sets = volumeBarSets(defaults, *volumeBaseDict_);
+    const double height = TvlClasses::retRootMenuHeight();
+    ImageVolumeBar bar;
+    bar.redrawWithSize(QSizeF(volumeBarWidth(defaults, sets.size(), height), height),
+                       TvlClasses::retStatusMenuInsets(volumeShownElementCount(defaults)), false, true, defaults,
+                       history_, sets);
+    preview()->setImage(bar.image(devicePixelRatioF() * PicturePreview::zoom()));
+}

@@ -1,0 +1,32 @@
+// The Volume module's preferences tab: elements and their order, graph, interval, labels, the
+// used or free percentage, colours by fill, per-volume sets, menu items and a live preview.
+#pragma once
+
+#include "collect/disk_sample.h"
+#include "collect/history.h"
+#include "collect/storage_descriptions.h"
+#include "modules/disk/storage_tab.h"
+
+#include <memory>
+
+class VolumeTabViewController : public StorageTab {
+    Q_OBJECT
+public:
+    VolumeTabViewController(SettingsStore& store, PrefNotificationCenter& center, QWidget* parent = nullptr);
+
+    // The elements in the list: bar chart 1, cycle chart 2, graph 3, text 4, percentage 5.
+    static const QList<Element>& elements();
+
+    void setLiveHistory(const InfoDict& info) override;
+    // The volumes the preview draws one set for, as the status item does.
+    void setVolumeBaseDict(std::shared_ptr<const VolumeBaseDict> volumeBaseDict);
+
+protected:
+    void redrawPreview() override;
+
+private:
+    QWidget* buildDisplay();
+
+    History<VolumeSample> history_;
+    std::shared_ptr<const VolumeBaseDict> volumeBaseDict_;
+};
