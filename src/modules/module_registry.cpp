@@ -5,6 +5,8 @@
 #include "modules/cpu/cpu_tab_view_controller.h"
 #include "modules/general/general_menu_module.h"
 #include "modules/general/top_tab_view_controller.h"
+#include "modules/memory/memory_menu_module.h"
+#include "modules/memory/memory_tab_view_controller.h"
 #include "preferences/unbuilt_module_tab.h"
 
 std::unique_ptr<MenuModule> createMenuModule(ModuleId id, MenuModuleDelegate* delegate)
@@ -15,6 +17,7 @@ std::unique_ptr<MenuModule> createMenuModule(ModuleId id, MenuModuleDelegate* de
     case ModuleId::Cpu:
         return std::make_unique<CPU_MenuModule>(delegate);
     case ModuleId::Memory:
+        return std::make_unique<Memory_MenuModule>(delegate);
     case ModuleId::Network:
     case ModuleId::Disk:
     case ModuleId::Volume:
@@ -40,6 +43,7 @@ PreferenceTab* createPreferenceTab(ModuleId id, MenuModuleDelegate* delegate, Se
     case ModuleId::Cpu:
         return new CpuTabViewController(store, center);
     case ModuleId::Memory:
+        return new MemoryTabViewController(delegate, store, center);
     case ModuleId::Network:
     case ModuleId::Disk:
     case ModuleId::Volume:
