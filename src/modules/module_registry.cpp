@@ -7,6 +7,8 @@
 #include "modules/general/top_tab_view_controller.h"
 #include "modules/memory/memory_menu_module.h"
 #include "modules/memory/memory_tab_view_controller.h"
+#include "modules/network/network_menu_module.h"
+#include "modules/network/network_tab_view_controller.h"
 #include "preferences/unbuilt_module_tab.h"
 
 std::unique_ptr<MenuModule> createMenuModule(ModuleId id, MenuModuleDelegate* delegate)
@@ -19,6 +21,7 @@ std::unique_ptr<MenuModule> createMenuModule(ModuleId id, MenuModuleDelegate* de
     case ModuleId::Memory:
         return std::make_unique<Memory_MenuModule>(delegate);
     case ModuleId::Network:
+        return std::make_unique<Network_MenuModule>(delegate);
     case ModuleId::Disk:
     case ModuleId::Volume:
     case ModuleId::Temp:
@@ -45,6 +48,7 @@ PreferenceTab* createPreferenceTab(ModuleId id, MenuModuleDelegate* delegate, Se
     case ModuleId::Memory:
         return new MemoryTabViewController(delegate, store, center);
     case ModuleId::Network:
+        return new NetworkTabViewController(store, center);
     case ModuleId::Disk:
     case ModuleId::Volume:
     case ModuleId::Temp:
