@@ -7,7 +7,7 @@
 
 // The boxes of the two text elements in points, each a header and a value column.
 struct MemoryTextWidths {
-    static constexpr double kColumnGap = 3; // between the detail text's two columns
+    static constexpr double kColumnGap = 4; // between the detail text's two columns
 
     double header = 0;      // text: "Used:" / "Free:", or "U:" / "F:" without long labels
     double detailLeft = 0;  // detail text, left column

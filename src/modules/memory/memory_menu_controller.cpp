@@ -48,11 +48,15 @@ Memory_MenuController::Memory_MenuController(LoadSystemInformation& loadInfo, QW
     swapAreasLabel_->setAlignment(Qt::AlignRight | Qt::AlignTop);
     grid->addWidget(swapAreasLabel_, row++, 2);
 
-    processNameLabel_ = new QLabel(this);
+    // Names in the figures' face too, so that both columns keep the same line height.
+    processNameLabel_ = PanelLabels::figure(this, Qt::AlignLeft);
     processNameLabel_->setForegroundRole(QPalette::PlaceholderText);
     processNameLabel_->setAlignment(Qt::AlignLeft | Qt::AlignTop);
     processSizeLabel_ = PanelLabels::figure(this, Qt::AlignRight);
     processSizeLabel_->setAlignment(Qt::AlignRight | Qt::AlignTop);
+    // Room for the whole list from the start: an open menu does not grow when it arrives.
+    for (QLabel* label : {processNameLabel_, processSizeLabel_})
+        label->setMinimumHeight(label->fontMetrics().lineSpacing() * kProcessRows);
     grid->addWidget(processNameLabel_, row, 0, 1, 2);
     grid->addWidget(processSizeLabel_, row, 2);
     grid->setColumnStretch(2, 1);
@@ -89,30 +93,27 @@ void Memory_MenuController::replaceData(double seconds, const ModuleDefaults& my
         pageRates_[1]->setText(memoryPageRateText(resumeArray, MemoryPageOuts, seconds));
     }
 
+    // Swap is one short read of the kernel's list: shown at once, so the menu is sized for it.
+    MemorySource* memory = loadInfo_.sources().memory.get();
+    const auto areas = memory != nullptr ? memory->swapAreas() : std::nullopt;
+    swapUsedLabel_->setText(areas ? swapUsedText(swapUsageFrom(*areas), unit) : QStringLiteral("---"));
+    const QStringList areaTexts = areas ? swapAreaTexts(*areas, unit) : QStringList();
+    swapAreasLabel_->setText(areaTexts.isEmpty() ? QStringLiteral("---") : areaTexts.join(QLatin1Char('\n')));
+
     // A scan slower than a tick is not stacked behind itself.
     if (detailsInFlight_)
         return;
     detailsInFlight_ = true;
     pool_.start([this, names = procDict_, unit] {
-        // One read of the swap list gives both the areas and their sum.
-        MemorySource* memory = loadInfo_.sources().memory.get();
-        const auto areas = memory != nullptr ? memory->swapAreas() : std::nullopt;
-        const QString swapUsed = areas ? swapUsedText(swapUsageFrom(*areas), unit) : QStringLiteral("---");
-        const QStringList areaTexts = areas ? swapAreaTexts(*areas, unit) : QStringList();
         const QStringList processes =
-            loadInfo_.psGetProccessAsKv(QStringLiteral("rss"), names, 10, unit).value_or(QStringList());
-        QMetaObject::invokeMethod(
-            this, [this, swapUsed, areaTexts, processes] { applyDetails(swapUsed, areaTexts, processes); },
-            Qt::QueuedConnection);
+            loadInfo_.psGetProccessAsKv(QStringLiteral("rss"), names, kProcessRows, unit).value_or(QStringList());
+        QMetaObject::invokeMethod(this, [this, processes] { applyDetails(processes); }, Qt::QueuedConnection);
     });
 }
 
-void Memory_MenuController::applyDetails(const QString& swapUsed, const QStringList& areas,
-                                         const QStringList& processes)
+void Memory_MenuController::applyDetails(const QStringList& processes)
 {
     detailsInFlight_ = false;
-    swapUsedLabel_->setText(swapUsed);
-    swapAreasLabel_->setText(areas.isEmpty() ? QStringLiteral("---") : areas.join(QLatin1Char('\n')));
     if (processes.size() == 2) {
         processNameLabel_->setText(processes.at(0).trimmed());
         processSizeLabel_->setText(processes.at(1).trimmed());

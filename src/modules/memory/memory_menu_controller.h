@@ -21,14 +21,15 @@ class Memory_MenuController final : public QWidget {
     Q_OBJECT
 public:
     static constexpr std::size_t kPartRows = 8;
+    static constexpr int kProcessRows = 10;
 
     explicit Memory_MenuController(LoadSystemInformation& loadInfo, QWidget* parent = nullptr);
     ~Memory_MenuController() override;
 
     // Refreshes the names of running desktop applications.
     void reloadProcDict();
-    // Every tick while the menu is open: the parts and paging at once; the swap areas and the
-    // processes from the background, a moment later. seconds is what the newest sample covers.
+    // Every tick while the menu is open: the parts, paging and swap at once; the processes from
+    // the background, a moment later. seconds is what the newest sample covers.
     void replaceData(double seconds, const ModuleDefaults& myDefaults, const History<MemorySample>& resumeArray,
                      std::size_t pageSize, std::int64_t totalPages);
 
@@ -39,11 +40,11 @@ public:
     QString processNames() const;
 
 Q_SIGNALS:
-    // The background swap and process rows have been shown.
+    // The background process rows have been shown.
     void detailsUpdated();
 
 private:
-    void applyDetails(const QString& swapUsed, const QStringList& areas, const QStringList& processes);
+    void applyDetails(const QStringList& processes);
 
     LoadSystemInformation& loadInfo_;
     std::array<QLabel*, kPartRows> swatches_{};
