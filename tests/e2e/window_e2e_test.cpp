@@ -12,13 +12,20 @@ TEST_F(VirtualScreenTest, BarWindowShowsTheCpuPictureAtItsWidthInTheThemeColours
     QProcess& tarvel = start(QStringLiteral(TARVEL_EXECUTABLE), tarvelArguments({QStringLiteral("--bar")}));
     ASSERT_TRUE(tarvel.waitForStarted());
 
-    // The bar ends with General at the right edge; the CPU picture stands one gap to its left.
-    // Rendered at scale 1, the CPU picture's pixels are the bar's points.
+    // The bar ends with General at the right edge; the modules after CPU in the first-run order
+    // stand between them, one gap apart. Rendered at scale 1, a picture's pixels are the bar's points.
     const int gap = BarWindowStatusBar::kItemSpacing;
     ASSERT_EQ(pointSize(cpu), cpu.size());
-    const int barHeight = std::max({BarWindowStatusBar::kMinimumHeight, cpu.height(), pointSize(general).height()});
-    const QRect cpuSlot(screenSize().width() - pointSize(general).width() - gap - cpu.width(), 0, cpu.width(),
-                        barHeight);
+    int rightOfCpu = pointSize(general).width();
+    int barHeight = std::max({BarWindowStatusBar::kMinimumHeight, cpu.height(), pointSize(general).height()});
+    for (const char* key : {"Memory", "Network", "Disk", "Volume", "Temp", "Fan", "VNC"}) {
+        const QImage other = renderedPicture(QLatin1String(key));
+        if (!other.isNull()) {
+            rightOfCpu += gap + pointSize(other).width();
+            barHeight = std::max(barHeight, pointSize(other).height());
+        }
+    }
+    const QRect cpuSlot(screenSize().width() - rightOfCpu - gap - cpu.width(), 0, cpu.width(), barHeight);
     const QRect cpuDrawn = boundsDifferingFrom(cpu, cpu.rect(), qRgba(0, 0, 0, 0));
     const QList<QRgb> themeColours = solidColours(cpu);
     ASSERT_FALSE(themeColours.isEmpty());
