@@ -188,8 +188,9 @@ void ImageMemoryBar::drawText(QPainter& painter, TextAttributes& attributes, con
 {
     const bool longLabel = myDefaults.boolValue(Memory_Text_WithLongLabel);
     const QRectF column(x, 0, widths_.text(), mySize.height());
-    // The figure in use is headed in the pressure colour it would have in the graph.
-    const QColor pressure = retGraphColor(parts.inUseFraction(), myDefaults.color(MemoryThemeKey::B08),
+    // The figure in use is headed in the colour of the memory pressure, as the graph shows it.
+    const QColor pressure = retGraphColor(memoryPressure(resumeArray.back(), totalPages_),
+                                          myDefaults.color(MemoryThemeKey::B08),
                                           myDefaults.color(MemoryThemeKey::B09),
                                           myDefaults.color(MemoryThemeKey::B10), true);
     drawLine(painter, attributes, column, 0, localized(longLabel ? "Used:" : "U:"), pressure, parts.inUse());

@@ -65,6 +65,11 @@ MemoryBreakdown memoryBreakdown(const MemorySample& sample, std::int64_t totalPa
     return out;
 }
 
+double memoryPressure(const MemorySample& sample, std::int64_t totalPages)
+{
+    return memoryBreakdown(sample, totalPages, false).inUseFraction();
+}
+
 QColor memoryPartColor(const ModuleDefaults& defaults, MemoryPart part)
 {
     using namespace MemoryThemeKey;

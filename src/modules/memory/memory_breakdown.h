@@ -45,6 +45,10 @@ struct MemoryBreakdown {
 // total; the total is then their sum, so the fractions never add up to more than 1.
 MemoryBreakdown memoryBreakdown(const MemorySample& sample, std::int64_t totalPages, bool traditional);
 
+// The share of memory that cannot be had back by dropping cached files: the application view's
+// in-use share, whichever view is shown.
+double memoryPressure(const MemorySample& sample, std::int64_t totalPages);
+
 // The theme colour of a part. "Other" has no theme colour of its own: it is the frame colour
 // at half its opacity, a neutral that reads as the system's share on light and dark panels.
 QColor memoryPartColor(const ModuleDefaults& defaults, MemoryPart part);

@@ -19,6 +19,9 @@
 #include <QStandardPaths>
 #include <QWidgetAction>
 
+#include <optional>
+#include <utility>
+
 using namespace PrefKey;
 
 namespace {
