@@ -177,7 +177,11 @@ void AppDelegate::moduleRelease(ModuleId id)
     // Only the in-memory switch: the stored setting stays as the user left it.
     if (id != ModuleId::General)
         mutableDefaults(ModuleId::General).set(moduleKeys(id).switchKey, false);
-    modules_[static_cast<std::size_t>(id)].reset();
+    auto& slot = modules_[static_cast<std::size_t>(id)];
+    // The interface base is rebuilt on the first tick after the module comes back.
+    if (id == ModuleId::Network && slot)
+        loadInfo_->clearInterfaceStatusChange();
+    slot.reset();
 }
 
 void AppDelegate::allModulesDisable()

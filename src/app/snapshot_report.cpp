@@ -6,6 +6,8 @@
 #include "modules/cpu/cpu_usage_text.h"
 #include "modules/disk/disk_menu_rows.h"
 #include "modules/volume/volume_menu_rows.h"
+#include "modules/memory/memory_breakdown.h"
+#include "modules/network/network_rates.h"
 #include "prefs/pref_keys.h"
 
 #include <QJsonArray>
@@ -53,19 +55,27 @@ QJsonObject networkSampleJson(const NetworkSample& sample)
     return object;
 }
 
-// The raw figures until the menu-bar texts of these modules exist.
-QString memoryText(const AppDelegate& app)
+// The menu-bar text, then the raw page counts the picture is drawn from.
+QString memoryText(AppDelegate& app)
 {
     QString out = QStringLiteral("Memory\n");
     const auto& history = app.infoDict().memory;
     if (history.empty())
         return out + QStringLiteral("  no sample yet\n");
-    out += QStringLiteral("  pages of %1 bytes\n").arg(app.loadInfo().memoryPageSize());
+    const ModuleDefaults& memory = app.defaults(ModuleId::Memory);
+    const std::size_t pageSize = app.loadInfo().memoryPageSize();
+    const auto totals = app.collector().memoryTotals();
+    const MemoryBreakdown parts = memoryBreakdown(history.back(), totals ? totals->totalPages : 0,
+                                                  memory.boolValue(PrefKey::Memory_TradMemoryInfo));
+    out += QStringLiteral("  ") +
+        memoryBarText(parts, pageSize, static_cast<int>(memory.intValue(PrefKey::Memory_Unit))) + QLatin1Char('\n');
+    out += QStringLiteral("  pages of %1 bytes, %2 in all\n").arg(pageSize).arg(totals ? totals->totalPages : 0);
     for (std::size_t i = 0; i < history.back().size(); ++i)
         out += QStringLiteral("  %1 %2\n").arg(QString::fromLatin1(kMemoryFigures[i]), -11).arg(history.back()[i]);
     return out;
 }
 
+// The menu-bar text, then the raw counters it is worked out from.
 QString networkText(const AppDelegate& app)
 {
     QString out = QStringLiteral("Network\n");
@@ -73,6 +83,10 @@ QString networkText(const AppDelegate& app)
     if (history.empty())
         return out + QStringLiteral("  no sample yet\n");
     const NetworkSample& newest = history.back();
+    out += QStringLiteral("  ") +
+        networkBarText(currentNetworkRates(history, newest.interval),
+                       networkRatesInBits(app.defaults(ModuleId::Network))) +
+        QLatin1Char('\n');
     out += QStringLiteral("  sent %1 received %2 bytes, over %3 s\n")
                .arg(newest.toUp)
                .arg(newest.toDw)
@@ -185,7 +199,7 @@ QJsonObject cpuPanelJson(const AppDelegate& app, const SnapshotReport::CpuPanelR
 
 namespace SnapshotReport {
 
-QString text(const AppDelegate& app, const CpuPanelRows& panel)
+QString text(AppDelegate& app, const CpuPanelRows& panel)
 {
     QString out;
     if (moduleOn(app, ModuleId::Cpu))

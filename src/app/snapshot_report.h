@@ -18,9 +18,10 @@ struct CpuPanelRows {
     QStringList processValues; // their shares, one per name
 };
 
-// The texts the menu bar and the CPU panel show, one block per switched-on module (the raw
-// figures for Memory and Network; for Disk and Volume also each disk's and volume's menu block).
-QString text(const AppDelegate& app, const CpuPanelRows& panel = {});
+// The texts the menu bar and the CPU panel show, one block per switched-on module, with the raw
+// figures of Memory and Network under theirs and each disk's and volume's menu block under
+// Disk and Volume. Non-const: the memory total is asked of the collector.
+QString text(AppDelegate& app, const CpuPanelRows& panel = {});
 
 // The newest raw sample of each switched-on module under its module key, and the CPU panel's
 // rows under "CPUPanel".

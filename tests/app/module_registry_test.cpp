@@ -47,7 +47,7 @@ TEST(ModuleRegistry, GeneralFirstThenTheBarOrderAndOddListsAreTolerated)
     TestApp t2;
     writeOrder(t2, {2, 3});
     t2.launchWithBar(bar2);
-    EXPECT_EQ(bar2.shown, (QStringList{"General"}));
+    EXPECT_EQ(bar2.shown, (QStringList{"Memory", "Network", "General"}));
     EXPECT_TRUE(t2.app->chkGeneBool(LaunchCpus));
 }
 

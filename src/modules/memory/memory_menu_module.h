@@ -1,0 +1,76 @@
+// The Memory status item: its picture in the bar, and its menu with the graph and the panel.
+#pragma once
+
+#include "collect/history.h"
+#include "collect/memory_sample.h"
+#include "modules/memory/image_memory_bar.h"
+#include "modules/memory/memory_bar_width.h"
+#include "modules/memory/memory_menu_controller.h"
+#include "modules/menu_module.h"
+#include "modules/sample_arrivals.h"
+
+#include <array>
+
+class QLabel;
+
+// Settings whose values the picture gives a meaning to:
+//   Memory_Unit: 2 all figures in MB, 3 all in GB, anything else (1) the unit that fits.
+//   Memory_TradMemoryInfo: the page-list view instead of the application view (see
+//   memory_breakdown.h).
+//   Memory_Text_WithLongLabel, Memory_DetailText_WithLongLabel: "Used:" instead of "U:".
+class Memory_MenuModule final : public MenuModule {
+    Q_OBJECT
+public:
+    explicit Memory_MenuModule(MenuModuleDelegate* delegate, QObject* parent = nullptr);
+
+    void setHistory(const InfoDict& info) override;
+    void setResumeArray(const History<MemorySample>& history);
+    // The page size and the machine's memory in pages; taken from the collector at each redraw
+    // when the module has a delegate.
+    void setMemorySize(std::size_t pageSize, std::int64_t totalPages);
+    void refreshBar() override;
+
+    const QImage& barImage() const { return barImage_; }
+    QImage menuGraphImage();
+    // The detail panel under the graph; none before the menu is built.
+    Memory_MenuController* controller() const { return memoryMenuController; }
+
+protected:
+    void drawBaseStatusBar() override;
+    void redrawStatusItem() override;
+    void prepareMenuOpening() override;
+
+private:
+    static constexpr double kMenuGraphHeight = 20;
+
+    void takeMemorySize();
+    // Measures text only when the font, the labels, the unit or the memory size changed.
+    const MemoryTextWidths& textWidths();
+    ModuleDefaults withMenuLayout() const;
+    QImage drawMenuGraph(const ModuleDefaults& defaults);
+
+    ModuleDefaults mnDefaults;
+    ModuleDefaults mnDefaultsTmp;
+    ImageMemoryBar imageMemoryBar;
+    ImageMemoryBar imageMemoryMenu;
+    QLabel* menuGraph_ = nullptr; // owned by the menu through its widget action
+    Memory_MenuController* memoryMenuController = nullptr; // likewise
+    History<MemorySample> resumeArray;
+    SampleArrivals arrivals_;
+    std::size_t memoryPageSize_ = 4096;
+    std::int64_t memoryTotalPages_ = 0;
+    // What the text widths were measured for.
+    struct WidthInputs {
+        QString font;
+        double sizeDiff = 0;
+        qint64 unit = 0;
+        bool longText = false;
+        bool longDetail = false;
+        std::array<double, 3> headers{};
+        std::int64_t totalBytes = -1;
+        bool operator==(const WidthInputs&) const = default;
+    };
+    WidthInputs widthInputs_;
+    MemoryTextWidths widths_;
+    QImage barImage_;
+};

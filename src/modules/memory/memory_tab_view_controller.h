@@ -1,0 +1,36 @@
+// The Memory module's preferences tab: elements and their order, graph, interval, unit, view,
+// labels, menu items and a live preview of the picture.
+#pragma once
+
+#include "collect/history.h"
+#include "collect/memory_sample.h"
+#include "modules/picture_settings_tab.h"
+
+class MenuModuleDelegate;
+
+class MemoryTabViewController : public PictureSettingsTab {
+    Q_OBJECT
+public:
+    // The graph slider counts tens of points.
+    static constexpr int kGraphSliderMin = 1;
+    static constexpr int kGraphSliderMax = 10;
+    static constexpr int kIntervalSliderMin = 1;
+    static constexpr int kIntervalSliderMax = 60;
+
+    // The delegate lends the collector's page size and memory total for the preview; without
+    // one the preview's parts add up to what the sample counts.
+    MemoryTabViewController(MenuModuleDelegate* delegate, SettingsStore& store, PrefNotificationCenter& center,
+                            QWidget* parent = nullptr);
+
+    void setLiveHistory(const InfoDict& info) override;
+
+protected:
+    void loadViews() override;
+    void redrawPreview() override;
+
+private:
+    QWidget* buildDisplay();
+
+    MenuModuleDelegate* delegate_;
+    History<MemorySample> history_;
+};

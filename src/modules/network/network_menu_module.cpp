@@ -1,0 +1,249 @@
+// The Network status item: width rule, picture, in-menu graph, traffic panel, interface rows.
+#include "modules/network/network_menu_module.h"
+
+#include "collect/load_system_information.h"
+#include "modules/network/network_bar_width.h"
+#include "modules/network/network_panel_rows.h"
+#include "modules/network/network_theme_keys.h"
+#include "modules/standard_menu_items.h"
+#include "prefs/pref_keys.h"
+#include "toolkit/localization.h"
+#include "toolkit/menu_geometry.h"
+
+#include <QClipboard>
+#include <QGuiApplication>
+#include <QIcon>
+#include <QLabel>
+#include <QMenu>
+#include <QProcess>
+#include <QStandardPaths>
+#include <QWidgetAction>
+
+#include <optional>
+#include <utility>
+
+using namespace PrefKey;
+
+namespace {
+
+struct SettingsProgram {
+    const char* program;
+    QStringList arguments;
+};
+
+// The desktop's network settings, tried in order of how common they are.
+std::optional<SettingsProgram> networkSettingsProgram()
+{
+    static const SettingsProgram candidates[] = {{"nm-connection-editor", {}},
+                                                 {"gnome-control-center", {QStringLiteral("network")}},
+                                                 {"kcmshell6", {QStringLiteral("kcm_networkmanagement")}},
+                                                 {"kcmshell5", {QStringLiteral("kcm_networkmanagement")}}};
+    for (const SettingsProgram& candidate : candidates) {
+        if (!QStandardPaths::findExecutable(QLatin1String(candidate.program)).isEmpty())
+            return candidate;
+    }
+    return std::nullopt;
+}
+
+} // namespace
+
+Network_MenuModule::Network_MenuModule(MenuModuleDelegate* delegate, QObject* parent) : MenuModule(delegate, 3, parent)
+{
+    setObjectName(QStringLiteral("Network"));
+    pool_.setMaxThreadCount(1);
+    // The menu always shows one graph, 400 points wide, in the user's style and colours.
+    mnDefaults.set(Network_Display_UdLabel, false);
+    mnDefaults.set(Network_Display_UdCircle, false);
+    mnDefaults.set(Network_Display_Graph, true);
+    mnDefaults.set(Network_Display_Text, false);
+    mnDefaults.set(Network_GraphWidth, qint64{400});
+    mnDefaults.set(Network_ShowMyLabel, false);
+}
+
+Network_MenuModule::~Network_MenuModule()
+{
+    pool_.waitForDone();
+}
+
+void Network_MenuModule::setHistory(const InfoDict& info)
+{
+    if (info.network.exists())
+        setResumeArray(info.network);
+}
+
+void Network_MenuModule::setResumeArray(const History<NetworkSample>& history)
+{
+    resumeArray = history;
+    arrivals_.note(resumeArray.identity());
+}
+
+void Network_MenuModule::setNetworkBaseDict(std::shared_ptr<const NetworkBase> base)
+{
+    networkBaseDict = std::move(base);
+}
+
+double Network_MenuModule::retNowInterval() const
+{
+    return arrivals_.secondsBetweenNewest(resumeArray.empty() ? 1.0 : resumeArray.back().interval);
+}
+
+NetworkRates Network_MenuModule::retNowUpDwBytes() const
+{
+    return currentNetworkRates(resumeArray, retNowInterval());
+}
+
+void Network_MenuModule::drawBaseStatusBar()
+{
+    removeNicMenus();
+    statusMenu->clear();
+    GeneralFunctions::addStandardMenuItems(statusMenu, myDefaults, myDefaults.boolValue(Network_EnaMenu_Amon),
+                                           myDefaults.boolValue(Network_EnaMenu_Cnsl),
+                                           myDefaults.boolValue(Network_EnaMenu_Tmnl), [this] { openTab(); });
+    if (const auto settings = networkSettingsProgram()) {
+        QAction* item = statusMenu->addAction(localized("Open Network Settings"));
+        const ThemePicture icon = myDefaults.picture(NetworkThemeKey::O22);
+        if (!icon.image.isNull())
+            item->setIcon(QIcon(QPixmap::fromImage(icon.image)));
+        connect(item, &QAction::triggered, this,
+                [settings] { QProcess::startDetached(QLatin1String(settings->program), settings->arguments); });
+    }
+    statusMenu->addSeparator();
+    auto* graphAction = new QWidgetAction(statusMenu);
+    menuGraph_ = new QLabel();
+    menuGraph_->setFixedSize(static_cast<int>(mnDefaults.intValue(Network_GraphWidth)),
+                             static_cast<int>(kMenuGraphHeight));
+    graphAction->setDefaultWidget(menuGraph_);
+    statusMenu->addAction(graphAction);
+    auto* panelAction = new QWidgetAction(statusMenu);
+    networkCurrent = new Network_Current();
+    panelAction->setDefaultWidget(networkCurrent);
+    statusMenu->addAction(panelAction);
+    nicSeparator_ = statusMenu->addSeparator();
+    listedBase_.reset();
+    redrawStatusItem();
+}
+
+void Network_MenuModule::refreshBar()
+{
+    if (myDefaults.isEmpty() || myDefaults.intList(NetworkItemSortArray).isEmpty() || !statusItem)
+        return;
+    const double height = TvlClasses::retRootMenuHeight();
+    const NetworkRates now = retNowUpDwBytes();
+    imageNetworkBar.redrawWithSize(QSizeF(networkBarWidth(myDefaults), height),
+                                   TvlClasses::retStatusMenuInsets(networkShownElementCount(myDefaults)),
+                                   menuOpened(), true, myDefaults, resumeArray, now);
+    barImage_ = imageNetworkBar.image(pictureScale());
+    showImage(barImage_);
+    if (!resumeArray.empty())
+        statusItem->setText(networkBarText(now, networkRatesInBits(myDefaults)));
+}
+
+void Network_MenuModule::prepareMenuOpening()
+{
+    mnDefaultsTmp = withMenuLayout();
+    if (myDelegate != nullptr)
+        networkBaseDict = myDelegate->collector().networkBaseDict();
+    lookUpNames();
+}
+
+ModuleDefaults Network_MenuModule::withMenuLayout() const
+{
+    ModuleDefaults defaults = myDefaults;
+    for (auto it = mnDefaults.values().cbegin(); it != mnDefaults.values().cend(); ++it)
+        defaults.set(it.key(), it.value());
+    return defaults;
+}
+
+QImage Network_MenuModule::drawMenuGraph(const ModuleDefaults& defaults)
+{
+    imageNetworkMenu.redrawWithSize(
+        QSizeF(static_cast<double>(mnDefaults.intValue(Network_GraphWidth)), kMenuGraphHeight),
+        TvlClasses::retMenuPullDownInsets(), false, true, defaults, resumeArray, retNowUpDwBytes());
+    return imageNetworkMenu.image(pictureScale());
+}
+
+QImage Network_MenuModule::menuGraphImage()
+{
+    return drawMenuGraph(withMenuLayout());
+}
+
+void Network_MenuModule::redrawStatusItem()
+{
+    if (!menuOpened())
+        return;
+    if (menuGraph_ != nullptr)
+        menuGraph_->setPixmap(QPixmap::fromImage(drawMenuGraph(mnDefaultsTmp)));
+    if (networkCurrent != nullptr)
+        networkCurrent->replaceData(retNowInterval(), myDefaults, resumeArray);
+    if (myDelegate != nullptr)
+        networkBaseDict = myDelegate->collector().networkBaseDict();
+    // The base is replaced, never changed, when an interface changes: a new one means new rows.
+    if (networkBaseDict != listedBase_)
+        addtionalNicMenus();
+}
+
+void Network_MenuModule::removeNicMenus()
+{
+    for (QMenu* menu : std::as_const(nicMenus_)) {
+        if (statusMenu != nullptr)
+            statusMenu->removeAction(menu->menuAction());
+        // A submenu may be on screen right now: it goes once the event loop is back.
+        menu->deleteLater();
+    }
+    nicMenus_.clear();
+}
+
+void Network_MenuModule::addtionalNicMenus()
+{
+    removeNicMenus();
+    listedBase_ = networkBaseDict;
+    if (statusMenu == nullptr || !networkBaseDict)
+        return;
+    for (const NicRow& row :
+         networkInterfaceRows(*networkBaseDict, myDefaults.boolValue(Network_ShowAllNic), hostNames_)) {
+        auto* menu = new QMenu(row.title, statusMenu);
+        for (const auto& [title, value] : row.lines) {
+            // Choosing a line copies its value, an address most often.
+            QAction* line = menu->addAction(QStringLiteral("%1: %2").arg(title, value));
+            connect(line, &QAction::triggered, this, [value] { QGuiApplication::clipboard()->setText(value); });
+        }
+        statusMenu->addMenu(menu);
+        nicMenus_.append(menu);
+    }
+    if (nicSeparator_ != nullptr)
+        nicSeparator_->setVisible(!nicMenus_.isEmpty());
+}
+
+void Network_MenuModule::lookUpNames()
+{
+    if (lookUpInFlight_ || !networkBaseDict)
+        return;
+    lookUpInFlight_ = true;
+    QStringList addresses;
+    for (const auto& [name, entry] : *networkBaseDict) {
+        if (entry.nic && entry.nic->linkstatus == QLatin1String("Active") && entry.ip && entry.ip->ipv4)
+            addresses << *entry.ip->ipv4;
+    }
+    // Both wait on other processes (the system bus, the resolver): never on the menu's thread.
+    pool_.start([this, addresses] {
+        const QString location = LoadSystemInformation::getCurrentNetworkLocation();
+        QHash<QString, QString> names;
+        for (const QString& address : addresses) {
+            const QString host = LoadSystemInformation::getHostNameFromIpAddress(address);
+            if (host != QLatin1String("(Unknown Host)"))
+                names.insert(address, host);
+        }
+        QMetaObject::invokeMethod(
+            this,
+            [this, location, names] {
+                lookUpInFlight_ = false;
+                if (networkCurrent != nullptr)
+                    networkCurrent->setLocation(location);
+                hostNames_ = names;
+                if (menuOpened())
+                    addtionalNicMenus();
+                Q_EMIT namesLookedUp();
+            },
+            Qt::QueuedConnection);
+    });
+}

@@ -1,0 +1,81 @@
+// Network menu texts from the traffic figures and the interface base.
+#include "modules/network/network_panel_rows.h"
+
+#include "collect/network_detail.h"
+#include "toolkit/localization.h"
+#include "toolkit/value_format.h"
+
+namespace {
+
+QString rate(double bytesPerSecond, bool bits)
+{
+    return TvlClasses::calcBytesPerSec(bytesPerSecond, bits, 0);
+}
+
+} // namespace
+
+NetworkPanelFigures networkPanelFigures(const History<NetworkSample>& history, double seconds, bool bits)
+{
+    const auto detail = TvlClasses::getNetworkDetail(history, &NetworkSample::toUp, &NetworkSample::toDw);
+    if (!detail)
+        return {};
+    const double interval = history.back().interval;
+    const auto perSecond = [](std::int64_t bytes, double over) {
+        return over > 0 ? static_cast<double>(bytes) / over : 0.0;
+    };
+    return {rate(perSecond(detail->nowUp, seconds), bits),
+            rate(perSecond(detail->nowDw, seconds), bits),
+            rate(static_cast<double>(detail->avgUp), bits),
+            rate(static_cast<double>(detail->avgDw), bits),
+            rate(perSecond(detail->maxUp, interval), bits),
+            rate(perSecond(detail->maxDw, interval), bits),
+            TvlClasses::calcMemorySize(detail->lstUp, 1),
+            TvlClasses::calcMemorySize(detail->lstDw, 1)};
+}
+
+QString linkSpeedText(std::int64_t bitsPerSecond)
+{
+    const auto scaled = [](double value, const char* unit) -> QString {
+        return QString::number(value, 'g', 4) + QLatin1Char(' ') + QLatin1String(unit);
+    };
+    const auto bps = static_cast<double>(bitsPerSecond);
+    if (bps >= 1e9)
+        return scaled(bps / 1e9, "Gbps");
+    if (bps >= 1e6)
+        return scaled(bps / 1e6, "Mbps");
+    return scaled(bps / 1e3, "Kbps");
+}
+
+std::vector<NicRow> networkInterfaceRows(const NetworkBase& base, bool showAll,
+                                         const QHash<QString, QString>& hostNames)
+{
+    std::vector<NicRow> rows;
+    for (const auto& [name, entry] : base) {
+        const bool active = entry.nic && entry.nic->linkstatus == QLatin1String("Active");
+        if (!showAll && !active)
+            continue;
+        NicRow row;
+        row.bsdName = name;
+        const QString bsd = QString::fromStdString(name);
+        row.title = entry.itf && entry.itf->name != bsd ? QStringLiteral("%1 (%2)").arg(entry.itf->name, bsd) : bsd;
+        if (entry.itf)
+            row.lines.append({localized("Type"), localized(entry.itf->type.toUtf8().constData())});
+        if (entry.ip && entry.ip->ipv4) {
+            const QString host = hostNames.value(*entry.ip->ipv4);
+            row.lines.append({localized("IPv4"), host.isEmpty() ? *entry.ip->ipv4
+                                                                : QStringLiteral("%1 (%2)").arg(*entry.ip->ipv4, host)});
+        }
+        if (entry.ip && entry.ip->ipv6)
+            row.lines.append({localized("IPv6"), *entry.ip->ipv6});
+        if (entry.nic) {
+            QString link = localized(entry.nic->linkstatus.toUtf8().constData());
+            if (entry.nic->speed && *entry.nic->speed > 0)
+                link += QStringLiteral(", ") + linkSpeedText(*entry.nic->speed);
+            row.lines.append({localized("Link"), link});
+            if (entry.nic->macaddr)
+                row.lines.append({localized("MAC Address"), *entry.nic->macaddr});
+        }
+        rows.push_back(std::move(row));
+    }
+    return rows;
+}

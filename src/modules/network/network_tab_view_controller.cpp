@@ -1,0 +1,105 @@
+// The Network tab: each control writes its key, saves and posts "NetworkModuleNotif"; the
+// preview is drawn by the status item's own picture code.
+#include "modules/network/network_tab_view_controller.h"
+
+#include "modules/network/image_network_bar.h"
+#include "modules/network/network_bar_width.h"
+#include "preferences/picture_preview.h"
+#include "prefs/pref_keys.h"
+#include "toolkit/label_lists.h"
+#include "toolkit/localization.h"
+#include "toolkit/menu_geometry.h"
+#include "toolkit/text_metrics.h"
+
+#include <QFormLayout>
+#include <QGroupBox>
+#include <QHBoxLayout>
+#include <QVBoxLayout>
+
+#include <algorithm>
+#include <cmath>
+
+using namespace PrefKey;
+
+NetworkTabViewController::NetworkTabViewController(SettingsStore& store, PrefNotificationCenter& center,
+                                                   QWidget* parent)
+    : PictureSettingsTab(ModuleId::Network,
+                         {{1, Network_Display_UdLabel, "Upload and download labels"},
+                          {2, Network_Display_UdCircle, "Activity lamps"},
+                          {3, Network_Display_Graph, "Graph"},
+                          {4, Network_Display_Text, "Text"}},
+                         NetworkItemSortArray, store, center, parent)
+{
+    auto* columns = new QHBoxLayout();
+    columns->addWidget(buildElements());
+    columns->addWidget(buildDisplay(), 1);
+
+    auto* layout = new QVBoxLayout(this);
+    layout->addWidget(buildPreview("NetworkPreview"));
+    layout->addLayout(columns);
+    layout->addWidget(buildMenuItems(Network_EnaMenu_Amon, Network_EnaMenu_Cnsl, Network_EnaMenu_Tmnl));
+    layout->addStretch(1);
+    redrawPreview();
+}
+
+QWidget* NetworkTabViewController::buildDisplay()
+{
+    auto* box = new QGroupBox(localized("Display"), this);
+    auto* form = new QFormLayout(box);
+    addSlider(form, Network_GraphWidth, SliderKind::GraphWidth, kGraphSliderMin, kGraphSliderMax);
+    addSlider(form, Network_UpdateInterval, SliderKind::Interval, kIntervalSliderMin, kIntervalSliderMax);
+    addSlider(form, Network_Limen_Base, SliderKind::Limen, kLimenSliderMin, kLimenSliderMax);
+    QStringList pairs;
+    for (const QStringList& pair : PlistFunction::retNetworkUdLabel())
+        pairs << pair.join(QStringLiteral(" / "));
+    addPopup(form, Network_UdLabel_Mode, "Labels", pairs);
+    addPopup(form, Network_Graph_Mode, "Graph style", PlistFunction::retGeneralGraphKind());
+    addPopup(form, Network_Text_Mode, "Unit", PlistFunction::retNetworkBitOrByte());
+    addSwitch(form, Network_ShowAllNic, "List every interface in the menu",
+              {{QLatin1String(NotifKey::ModuleItemRefreshNow), true}});
+    addLabelSwitch(form, Network_ShowMyLabel, "Show the Network label");
+    return box;
+}
+
+void NetworkTabViewController::loadViews()
+{
+    loadControls();
+    redrawPreview();
+}
+
+void NetworkTabViewController::noteDerivedChanges(const char* key, const QVariant& value, QVariantHash& changes) const
+{
+    if (qstrcmp(key, Network_UdLabel_Mode) != 0)
+        return;
+    const QStringList labels = PlistFunction::labelForSetting(PlistFunction::retNetworkUdLabel(), value.toLongLong());
+    const ModuleDefaults& d = myDefaults();
+    double widest = 0;
+    for (const QString& label : labels)
+        widest = std::max(widest, TvlClasses::calcMenuLabelSize(label, 9 + d.doubleValue(_FontSizeDiff),
+                                                                 d.stringValue(_FontPostScriptName))
+                                      .width());
+    changes.insert(QLatin1String(Network_UdLabel_ModeAry), labels);
+    changes.insert(QLatin1String(NetworkInnerUdLabelWidth), static_cast<qint64>(std::floor(widest)));
+}
+
+void NetworkTabViewController::setLiveHistory(const InfoDict& info)
+{
+    if (!info.network.exists() || info.network.empty())
+        return;
+    history_ = info.network;
+    redrawPreview();
+}
+
+void NetworkTabViewController::redrawPreview()
+{
+    const ModuleDefaults defaults = previewDefaults();
+    // Before the first sample: the elements idle, as the bar would show them.
+    const History<NetworkSample> history =
+        history_.empty() ? History<NetworkSample>().appended(NetworkSample{}) : history_;
+    const double height = TvlClasses::retRootMenuHeight();
+    ImageNetworkBar bar;
+    bar.redrawWithSize(QSizeF(networkBarWidth(defaults), height),
+                       TvlClasses::retStatusMenuInsets(networkShownElementCount(defaults)), false, true, defaults,
+                       history, currentNetworkRates(history, history.back().interval));
+    showPreview(bar.image(devicePixelRatioF() * PicturePreview::zoom()));
+}

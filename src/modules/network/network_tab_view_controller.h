@@ -1,0 +1,35 @@
+// The Network module's preferences tab: elements and their order, graph, interval, threshold,
+// labels, graph style, unit, interface list, menu items and a live preview of the picture.
+#pragma once
+
+#include "collect/history.h"
+#include "collect/network_sample.h"
+#include "modules/picture_settings_tab.h"
+
+class NetworkTabViewController : public PictureSettingsTab {
+    Q_OBJECT
+public:
+    // The graph slider counts tens of points.
+    static constexpr int kGraphSliderMin = 1;
+    static constexpr int kGraphSliderMax = 10;
+    static constexpr int kIntervalSliderMin = 1;
+    static constexpr int kIntervalSliderMax = 60;
+    // KB/s; 0 counts any traffic.
+    static constexpr int kLimenSliderMin = 0;
+    static constexpr int kLimenSliderMax = 100;
+
+    NetworkTabViewController(SettingsStore& store, PrefNotificationCenter& center, QWidget* parent = nullptr);
+
+    void setLiveHistory(const InfoDict& info) override;
+
+protected:
+    void loadViews() override;
+    void redrawPreview() override;
+    // A new label pair brings its own width, as the settings loader would derive it.
+    void noteDerivedChanges(const char* key, const QVariant& value, QVariantHash& changes) const override;
+
+private:
+    QWidget* buildDisplay();
+
+    History<NetworkSample> history_;
+};

@@ -1,0 +1,20 @@
+// Labels that the drop-down panels are built of: titles, figures and colour swatches.
+#pragma once
+
+#include <QColor>
+#include <QPixmap>
+#include <Qt>
+
+class QLabel;
+class QWidget;
+
+namespace PanelLabels {
+
+// A row title, localised from key, in the muted colour of secondary text.
+QLabel* title(QWidget* parent, const char* key);
+// Figures in fixed-width digits, so they do not jitter as they change.
+QLabel* figure(QWidget* parent, Qt::Alignment alignment);
+// A 10 by 10 square of the colour.
+QPixmap swatch(const QColor& color);
+
+} // namespace PanelLabels

@@ -1,0 +1,91 @@
+// The frame of a module tab that sets up a status-item picture: its elements and their order,
+// sliders, pop-ups, switches, menu items, and the live preview they all redraw.
+#pragma once
+
+#include "preferences/preference_tab.h"
+
+#include <QList>
+#include <QVariantHash>
+
+#include <utility>
+#include <vector>
+
+class ElementOrderList;
+class PicturePreview;
+class QCheckBox;
+class QComboBox;
+class QFormLayout;
+class QLabel;
+class QSlider;
+
+class PictureSettingsTab : public PreferenceTab {
+    Q_OBJECT
+public:
+    // One element of the picture as the list shows it.
+    struct Element {
+        qint64 code;      // its number in the module's order array
+        const char* key;  // its display switch
+        const char* text; // its name, a localisation key
+    };
+    enum class SliderKind {
+        GraphWidth, // counts tens of points, stored as points
+        Interval,   // seconds between samples
+        Limen,      // KB/s below which traffic is ignored
+    };
+
+    // The stored order with unknown and repeated numbers left out and missing elements appended,
+    // so every element can be switched and dragged whatever an older version stored.
+    static QList<qint64> shownOrder(const QList<qint64>& stored, const QList<Element>& elements);
+    // Where a slider of that kind stands for a stored value, within its range.
+    static int sliderPosition(SliderKind kind, qint64 stored, int minimum, int maximum);
+
+protected:
+    PictureSettingsTab(ModuleId id, QList<Element> elements, const char* orderKey, SettingsStore& store,
+                       PrefNotificationCenter& center, QWidget* parent = nullptr);
+
+    // The preview box on top; the rest is the derived tab's to lay out below it.
+    QWidget* buildPreview(const char* objectName);
+    QWidget* buildElements();
+    // The three tool switches; they change menu items, so the menu is rebuilt.
+    QWidget* buildMenuItems(const char* amonKey, const char* cnslKey, const char* tmnlKey);
+    QCheckBox* addSwitch(QFormLayout* form, const char* key, const char* text, const QVariantMap& userInfo = {});
+    // The module's label switch, stored with the General settings as well.
+    QCheckBox* addLabelSwitch(QFormLayout* form, const char* key, const char* text);
+    QSlider* addSlider(QFormLayout* form, const char* key, SliderKind kind, int minimum, int maximum);
+    // Entry i stands for the stored value i + 1.
+    QComboBox* addPopup(QFormLayout* form, const char* key, const char* text, const QStringList& entries);
+
+    // Fills every control made above from the settings; derived tabs call it from loadViews().
+    void loadControls();
+    // The module's settings with this tab's unsaved-yet-unreturned changes laid over them, so
+    // the preview follows at once instead of after the round trip through the application.
+    ModuleDefaults previewDefaults() const;
+    // Remembers a stored value until the application hands the reloaded settings back.
+    void noteChange(const char* key, const QVariant& value);
+    // A change that is not stored but follows from one that is (a derived label, say).
+    virtual void noteDerivedChanges(const char* key, const QVariant& value, QVariantHash& changes) const;
+    virtual void redrawPreview() = 0;
+    void showPreview(const QImage& image);
+
+private:
+    struct SliderControl {
+        const char* key;
+        SliderKind kind;
+        QSlider* slider;
+        QLabel* label;
+    };
+    void switchChanged(const char* key, bool on, const QVariantMap& userInfo, bool alsoGeneral);
+    void elementSwitched(qint64 code, bool on);
+    void orderChanged(const QList<qint64>& order);
+    void sliderChanged(const SliderControl& control, int position);
+    void popupChanged(const char* key, int index);
+
+    QList<Element> elements_;
+    const char* orderKey_;
+    ElementOrderList* elementList_ = nullptr;
+    PicturePreview* preview_ = nullptr;
+    std::vector<std::pair<const char*, QCheckBox*>> switches_;
+    std::vector<std::pair<const char*, QComboBox*>> popups_;
+    std::vector<SliderControl> sliders_;
+    QVariantHash changes_;
+};
