@@ -3,6 +3,7 @@
 
 #include "collect/load_system_information.h"
 
+#include <algorithm>
 #include <cstddef>
 
 namespace SamplingCycle {
@@ -47,8 +48,10 @@ CycleOutput runBody(LoadSystemInformation& loadInfo, CycleInput input)
     if (!loadInfo.checkInterfaceStatusChange())
         loadInfo.setNetworkBaseDict(loadInfo.retNetworkBase());
     static const VolumeBaseDict noVolumes;
+    const bool memoryMenuOpen = input.menuOpened[static_cast<std::size_t>(
+        std::find(kSampledModules.begin(), kSampledModules.end(), ModuleId::Memory) - kSampledModules.begin())];
     InfoDict info = loadCycleSysInfo(loadInfo, std::move(input.info), input.general,
-                                     input.volumeBase ? *input.volumeBase : noVolumes);
+                                     input.volumeBase ? *input.volumeBase : noVolumes, memoryMenuOpen);
     return {std::move(input.general), std::move(info), loadInfo.terminationRequested()};
 }
 
@@ -61,7 +64,7 @@ bool wasSampled(const ModuleDefaults& general, ModuleId id)
 } // namespace SamplingCycle
 
 InfoDict loadCycleSysInfo(LoadSystemInformation& loadInfo, InfoDict info, const ModuleDefaults& general,
-                          const VolumeBaseDict& volumeBase)
+                          const VolumeBaseDict& volumeBase, bool pagingWanted)
 {
     if (general.boolValue(moduleKeys(ModuleId::Cpu).loadFlagKey)) {
         CpuSample sample = loadInfo.loadCpuData();
@@ -69,7 +72,7 @@ InfoDict loadCycleSysInfo(LoadSystemInformation& loadInfo, InfoDict info, const 
             info.cpu = info.cpu.appended(std::move(sample));
     }
     if (general.boolValue(moduleKeys(ModuleId::Memory).loadFlagKey)) {
-        if (auto sample = loadInfo.loadMemoryData())
+        if (auto sample = loadInfo.loadMemoryData(pagingWanted))
             info.memory = info.memory.appended(*sample);
     }
     if (general.boolValue(moduleKeys(ModuleId::Network).loadFlagKey)) {

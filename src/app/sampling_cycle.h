@@ -50,5 +50,6 @@ bool wasSampled(const ModuleDefaults& general, ModuleId id);
 } // namespace SamplingCycle
 
 // Collects the due modules into a new set of histories.
+// Paging counts are read only when wanted (the Memory menu is open).
 InfoDict loadCycleSysInfo(LoadSystemInformation& loadInfo, InfoDict info, const ModuleDefaults& general,
-                          const VolumeBaseDict& volumeBase);
+                          const VolumeBaseDict& volumeBase, bool pagingWanted = true);

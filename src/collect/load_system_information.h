@@ -61,7 +61,9 @@ public:
 
     // The memory page counts (see memory_mapping.h for what each figure is); empty when the
     // counters cannot be read. Each call reads the counter files once.
-    std::optional<MemorySample> loadMemoryData();
+    // Without paging the page-in and page-out figures are -1: only the Memory menu shows them,
+    // and their counters are the dearest part of the read.
+    std::optional<MemorySample> loadMemoryData(bool withPaging = true);
     // What the memory figures add up to, as of the newest sample (read afresh before the first).
     std::optional<MemoryTotals> memoryTotals();
     // The size in bytes of the pages the memory figures count.

@@ -6,12 +6,12 @@
 #include <algorithm>
 #include <limits>
 
-std::optional<MemorySample> LoadSystemInformation::loadMemoryData()
+std::optional<MemorySample> LoadSystemInformation::loadMemoryData(bool withPaging)
 {
     MemorySource* memory = sources_.memory.get();
     if (!memory)
         return std::nullopt;
-    const auto counters = memory->memoryCounters();
+    const auto counters = memory->memoryCounters(withPaging);
     if (!counters)
         return std::nullopt;
     const std::size_t pageSize = memory->pageSize();
@@ -36,7 +36,7 @@ std::optional<MemoryTotals> LoadSystemInformation::memoryTotals()
             return lastMemoryTotals;
     }
     MemorySource* memory = sources_.memory.get();
-    const auto counters = memory ? memory->memoryCounters() : std::nullopt;
+    const auto counters = memory ? memory->memoryCounters(false) : std::nullopt;
     return counters ? memoryTotalsFrom(*counters, memory->pageSize()) : std::nullopt;
 }
 

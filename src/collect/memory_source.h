@@ -38,8 +38,8 @@ public:
     virtual std::optional<NamedCounters> vmStatistics() = 0;
     // The sample's figures from one read of each counter file, without building the tables
     // above; empty when the memory figures cannot be read (the paging counts may still be
-    // missing).
-    virtual std::optional<MemoryCounters> memoryCounters() = 0;
+    // missing). The paging counts are read only withPaging: their file is long to generate.
+    virtual std::optional<MemoryCounters> memoryCounters(bool withPaging = true) = 0;
     virtual std::optional<std::vector<SwapArea>> swapAreas() = 0;
     virtual std::size_t pageSize() = 0;
     // Whether the compressed swap cache is switched on; empty when the system has none.

@@ -2,11 +2,18 @@
 #include "toolkit/menu_font.h"
 
 #include <QFontDatabase>
+#include <QHash>
+#include <QPair>
 #include <QStringList>
+
+#include <mutex>
 
 namespace TvlClasses {
 
 namespace {
+
+// More than any session uses: a theme has one font, measured at a size or two.
+constexpr qsizetype kRememberedFonts = 16;
 
 // PostScript names drop the spaces of family and style names ("Bold Oblique" -> "BoldOblique").
 bool sameIgnoringSpaces(const QString& candidate, const QString& wanted)
@@ -53,12 +60,8 @@ void applyStyle(QFont& font, const QString& family, const QString& style)
         font.setStyle(QFont::StyleOblique);
 }
 
-} // namespace
-
-QFont menuFont(const QString& fontName, double fontSize)
+QFont lookUpMenuFont(const QString& fontName, double fontSize)
 {
-    // Looked up afresh each time: this runs when settings are reloaded, not on every redraw,
-    // and keeping no cache keeps the toolkit free of shared state.
     QFont font = QFontDatabase::systemFont(QFontDatabase::FixedFont);
     const QString name = fontName.trimmed();
     if (!name.isEmpty()) {
@@ -78,6 +81,25 @@ QFont menuFont(const QString& fontName, double fontSize)
     }
     if (fontSize > 0)
         font.setPointSizeF(fontSize);
+    return font;
+}
+
+} // namespace
+
+QFont menuFont(const QString& fontName, double fontSize)
+{
+    // Every picture asks on every redraw, and a lookup walks the font database: remember the
+    // few fonts that themes name. Pictures may be drawn on any thread, hence the lock.
+    static std::mutex lock;
+    static QHash<QPair<QString, double>, QFont> known;
+    const QPair<QString, double> key(fontName, fontSize);
+    const std::lock_guard guard(lock);
+    if (const auto it = known.constFind(key); it != known.cend())
+        return it.value();
+    if (known.size() >= kRememberedFonts)
+        known.clear();
+    const QFont font = lookUpMenuFont(fontName, fontSize);
+    known.insert(key, font);
     return font;
 }
 

@@ -27,13 +27,15 @@ std::optional<NamedCounters> LinuxMemorySource::vmStatistics()
     return text ? parseVmstat(*text) : std::nullopt;
 }
 
-std::optional<MemoryCounters> LinuxMemorySource::memoryCounters()
+std::optional<MemoryCounters> LinuxMemorySource::memoryCounters(bool withPaging)
 {
     const std::lock_guard guard(lock_);
     MemoryCounters counters;
     const auto meminfo = meminfo_.read();
     if (!meminfo || !scanMeminfo(*meminfo, counters))
         return std::nullopt;
+    if (!withPaging)
+        return counters;
     if (const auto vmstat = vmstat_.read())
         scanVmstat(*vmstat, counters);
     return counters;

@@ -13,7 +13,7 @@ public:
 
     std::optional<NamedCounters> memoryInfo() override;
     std::optional<NamedCounters> vmStatistics() override;
-    std::optional<MemoryCounters> memoryCounters() override;
+    std::optional<MemoryCounters> memoryCounters(bool withPaging = true) override;
     std::optional<std::vector<SwapArea>> swapAreas() override;
     std::size_t pageSize() override;
     std::optional<bool> zswapEnabled() override;
