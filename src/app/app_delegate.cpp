@@ -254,8 +254,10 @@ void AppDelegate::loadSysInfoTimer()
     }
     executor_->runInBackground([this, input = std::move(input)]() mutable {
         CycleOutput output = SamplingCycle::runBody(*loadInfo_, std::move(input));
-        executor_->postToMain([this, output = std::move(output)]() mutable {
-            redrawStep(std::move(output.general), std::move(output.info));
+        executor_->postToMain([this, output = std::move(output)] {
+            // Copied, not moved: the pool thread may be the one that destroys this task, and
+            // copies leave its members untouched (the histories' counts are atomic).
+            redrawStep(output.general, output.info);
             if (output.quitRequested)
                 quitApplication();
         });
