@@ -71,3 +71,22 @@ void MenuModule::showImage(const QImage& image)
     if (statusItem)
         statusItem->setImage(image, menuOpened());
 }
+
+ModuleDefaults MenuModule::withMenuLayout() const
+{
+    ModuleDefaults defaults = myDefaults;
+    for (auto it = mnDefaults.values().cbegin(); it != mnDefaults.values().cend(); ++it)
+        defaults.set(it.key(), it.value());
+    return defaults;
+}
+
+void MenuModule::menuAutoClose()
+{
+    if (!menuOpened())
+        return;
+    if (statusMenu)
+        statusMenu->close();
+    // A front end that shows the menu its own way may not report the close.
+    if (menuOpened())
+        menuDidClose();
+}

@@ -62,6 +62,9 @@ public:
     const QImage& shownImage() const { return shownImage_; }
     StatusItem* item() const { return statusItem.get(); }
 
+    // Closes an open menu whose rows no longer match what they describe (disks, volumes).
+    void menuAutoClose();
+
     // Drives the open state as the menu would; the front ends' menus call these through signals.
     void menuWillOpen();
     void menuDidClose();
@@ -78,12 +81,17 @@ protected:
     qreal pictureScale() const;
     // Shows the picture in the status item and keeps it for previews.
     void showImage(const QImage& image);
+    // The user's settings with the menu graph's fixed layout (mnDefaults) laid over them.
+    ModuleDefaults withMenuLayout() const;
 
     MenuModuleDelegate* myDelegate;
     ModuleDefaults myDefaults;
     QPointer<QMenu> statusMenu;
     std::unique_ptr<StatusItem> statusItem;
     bool menuItemRefresh = false;
+    // The in-menu graph's own layout, and the settings it was drawn with when the menu opened.
+    ModuleDefaults mnDefaults;
+    ModuleDefaults mnDefaultsTmp;
 
 private:
     int preferenceTab_;

@@ -86,14 +86,6 @@ void CPU_MenuModule::prepareMenuOpening()
     }
 }
 
-ModuleDefaults CPU_MenuModule::withMenuLayout() const
-{
-    ModuleDefaults defaults = myDefaults;
-    for (auto it = mnDefaults.values().cbegin(); it != mnDefaults.values().cend(); ++it)
-        defaults.set(it.key(), it.value());
-    return defaults;
-}
-
 QImage CPU_MenuModule::drawMenuGraph(const ModuleDefaults& defaults)
 {
     imageCpuMenu.redrawWithSize(QSizeF(static_cast<double>(mnDefaults.intValue(Cpu_GraphWidth)), kMenuGraphHeight),

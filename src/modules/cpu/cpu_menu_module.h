@@ -32,12 +32,8 @@ protected:
 private:
     static constexpr double kMenuGraphHeight = 20;
 
-    // The user's settings with the menu graph's fixed layout laid over them.
-    ModuleDefaults withMenuLayout() const;
     QImage drawMenuGraph(const ModuleDefaults& defaults);
 
-    ModuleDefaults mnDefaults;
-    ModuleDefaults mnDefaultsTmp;
     ImageCpuBar imageCpuBar;
     ImageCpuBar imageCpuMenu;
     QLabel* menuGraph_ = nullptr; // owned by the menu through its widget action

@@ -104,17 +104,6 @@ void Disk_MenuModule::refreshBar()
     statusItem->setText(diskBarText(sets, diskBaseDict_, resumeArray));
 }
 
-void Disk_MenuModule::menuAutoClose()
-{
-    if (!menuOpened())
-        return;
-    if (statusMenu)
-        statusMenu->close();
-    // A front end that shows the menu its own way may not report the close.
-    if (menuOpened())
-        menuDidClose();
-}
-
 void Disk_MenuModule::resetAndRefreshBar()
 {
     refreshBar();
@@ -123,14 +112,6 @@ void Disk_MenuModule::resetAndRefreshBar()
 void Disk_MenuModule::prepareMenuOpening()
 {
     mnDefaultsTmp = withMenuLayout();
-}
-
-ModuleDefaults Disk_MenuModule::withMenuLayout() const
-{
-    ModuleDefaults defaults = myDefaults;
-    for (auto it = mnDefaults.values().cbegin(); it != mnDefaults.values().cend(); ++it)
-        defaults.set(it.key(), it.value());
-    return defaults;
 }
 
 QImage Disk_MenuModule::drawMenuGraph(const ModuleDefaults& defaults)

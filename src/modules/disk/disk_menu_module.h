@@ -23,8 +23,6 @@ public:
     const DiskBaseDict& diskBaseDict() const { return diskBaseDict_; }
     void refreshBar() override;
 
-    // Closes an open menu, whose blocks no longer match the disks.
-    void menuAutoClose();
     bool checkcMenuOpened() const { return menuOpened(); }
     // Draws again from the disks now described (after a mount or an unmount).
     void resetAndRefreshBar();
@@ -43,12 +41,8 @@ protected:
 private:
     static constexpr double kMenuGraphHeight = 20;
 
-    // The user's settings with the menu graph's fixed layout laid over them.
-    ModuleDefaults withMenuLayout() const;
     QImage drawMenuGraph(const ModuleDefaults& defaults);
 
-    ModuleDefaults mnDefaults;
-    ModuleDefaults mnDefaultsTmp;
     ImageDiskBar imageDiskBar;
     ImageDiskBar imageDiskMenu;
     QLabel* menuGraph_ = nullptr;                      // owned by the menu through its widget action

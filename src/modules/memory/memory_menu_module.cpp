@@ -121,14 +121,6 @@ void Memory_MenuModule::prepareMenuOpening()
         memoryMenuController->reloadProcDict();
 }
 
-ModuleDefaults Memory_MenuModule::withMenuLayout() const
-{
-    ModuleDefaults defaults = myDefaults;
-    for (auto it = mnDefaults.values().cbegin(); it != mnDefaults.values().cend(); ++it)
-        defaults.set(it.key(), it.value());
-    return defaults;
-}
-
 QImage Memory_MenuModule::drawMenuGraph(const ModuleDefaults& defaults)
 {
     imageMemoryMenu.setMemorySize(memoryPageSize_, memoryTotalPages_);

@@ -46,11 +46,8 @@ private:
     void takeMemorySize();
     // Measures text only when the font, the labels, the unit or the memory size changed.
     const MemoryTextWidths& textWidths();
-    ModuleDefaults withMenuLayout() const;
     QImage drawMenuGraph(const ModuleDefaults& defaults);
 
-    ModuleDefaults mnDefaults;
-    ModuleDefaults mnDefaultsTmp;
     ImageMemoryBar imageMemoryBar;
     ImageMemoryBar imageMemoryMenu;
     QLabel* menuGraph_ = nullptr; // owned by the menu through its widget action

@@ -146,14 +146,6 @@ void Network_MenuModule::prepareMenuOpening()
     lookUpNames();
 }
 
-ModuleDefaults Network_MenuModule::withMenuLayout() const
-{
-    ModuleDefaults defaults = myDefaults;
-    for (auto it = mnDefaults.values().cbegin(); it != mnDefaults.values().cend(); ++it)
-        defaults.set(it.key(), it.value());
-    return defaults;
-}
-
 QImage Network_MenuModule::drawMenuGraph(const ModuleDefaults& defaults)
 {
     imageNetworkMenu.redrawWithSize(

@@ -60,14 +60,11 @@ private:
 
     // Seconds the newest sample covers.
     double retNowInterval() const;
-    ModuleDefaults withMenuLayout() const;
     QImage drawMenuGraph(const ModuleDefaults& defaults);
     void removeNicMenus();
     void addtionalNicMenus();
     void lookUpNames();
 
-    ModuleDefaults mnDefaults;
-    ModuleDefaults mnDefaultsTmp;
     ImageNetworkBar imageNetworkBar;
     ImageNetworkBar imageNetworkMenu;
     QLabel* menuGraph_ = nullptr;              // owned by the menu through its widget action

@@ -149,17 +149,6 @@ void Volume_MenuModule::refreshBar()
         volumeBarText(sets, *volumeBaseDict_, resumeArray, volumePercentKind(myDefaults.intValue(Vlms_Percent_Mode))));
 }
 
-void Volume_MenuModule::menuAutoClose()
-{
-    if (!menuOpened())
-        return;
-    if (statusMenu)
-        statusMenu->close();
-    // A front end that shows the menu its own way may not report the close.
-    if (menuOpened())
-        menuDidClose();
-}
-
 void Volume_MenuModule::resetAndRefreshBar()
 {
     refreshBar();
@@ -168,14 +157,6 @@ void Volume_MenuModule::resetAndRefreshBar()
 void Volume_MenuModule::prepareMenuOpening()
 {
     mnDefaultsTmp = withMenuLayout();
-}
-
-ModuleDefaults Volume_MenuModule::withMenuLayout() const
-{
-    ModuleDefaults defaults = myDefaults;
-    for (auto it = mnDefaults.values().cbegin(); it != mnDefaults.values().cend(); ++it)
-        defaults.set(it.key(), it.value());
-    return defaults;
 }
 
 QImage Volume_MenuModule::drawMenuGraph(const ModuleDefaults& defaults)

@@ -26,8 +26,6 @@ public:
     const VolumeBaseDict& volumeBaseDict() const { return *volumeBaseDict_; }
     void refreshBar() override;
 
-    // Closes an open menu, whose blocks no longer match the volumes.
-    void menuAutoClose();
     bool checkcMenuOpened() const { return menuOpened(); }
     // Draws again from the volumes now described (after a mount or an unmount).
     void resetAndRefreshBar();
@@ -49,12 +47,8 @@ private:
 
     void addVolumeItems();
     void ejectFinished(const QString& path, bool ejected, const QString& message);
-    // The user's settings with the menu graph's fixed layout laid over them.
-    ModuleDefaults withMenuLayout() const;
     QImage drawMenuGraph(const ModuleDefaults& defaults);
 
-    ModuleDefaults mnDefaults;
-    ModuleDefaults mnDefaultsTmp;
     ImageVolumeBar imageVolumeBar;
     ImageVolumeBar imageVolumeMenu;
     QLabel* menuGraph_ = nullptr;                          // owned by the menu through its widget action
