@@ -44,8 +44,8 @@ void measure(const char* label, const std::filesystem::path& root, int cycles)
     }
     const auto elapsed = std::chrono::duration<double, std::micro>(std::chrono::steady_clock::now() - start);
     const double allocs = static_cast<double>(AllocationCounter::count() - allocBefore) / cycles;
-    std::printf("%-10s %8.1f us/cycle %8.1f allocations/cycle  (%d cycles, root %s)\n", label,
-                elapsed.count() / cycles, allocs, cycles, root.c_str());
+    std::printf("%-10s %8.1f us/cycle %8.1f allocations/cycle  (%d cycles, root %s)\n", label, elapsed.count() / cycles,
+                allocs, cycles, root.c_str());
 }
 
 } // namespace

@@ -60,9 +60,7 @@ void measure(const char* label, const ModuleDefaults& defaults, const History<Cp
                 pictures);
 }
 
-
-template <class Draw>
-void time(const char* label, QSizeF size, int pictures, Draw draw)
+template <class Draw> void time(const char* label, QSizeF size, int pictures, Draw draw)
 {
     QImage last = draw(); // warm-up: fonts and glyph caches
     const auto start = std::chrono::steady_clock::now();
@@ -159,9 +157,9 @@ int main(int argc, char** argv)
     std::printf("\nOne Memory picture, 16 GiB, %zu samples of history:\n", memoryData.size());
     measureMemory("first-run elements", memory, memoryData, pictures);
     ModuleDefaults allMemory = memory;
-    for (const char* key : {PrefKey::Memory_Display_Graph, PrefKey::Memory_Display_LevelBar,
-                            PrefKey::Memory_Display_CircleMeter, PrefKey::Memory_Display_Text,
-                            PrefKey::Memory_Display_DetailText})
+    for (const char* key :
+         {PrefKey::Memory_Display_Graph, PrefKey::Memory_Display_LevelBar, PrefKey::Memory_Display_CircleMeter,
+          PrefKey::Memory_Display_Text, PrefKey::Memory_Display_DetailText})
         allMemory.set(key, true);
     measureMemory("all five elements, pressure graph", allMemory, memoryData, pictures);
     allMemory.set(PrefKey::Memory_TradMemoryInfo, true);

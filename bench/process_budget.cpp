@@ -104,8 +104,8 @@ int main(int argc, char** argv)
     tarvel.terminate();
     tarvel.waitForFinished();
 
-    std::printf("processor   %.3f ms per second over %d s\n",
-                static_cast<double>(end - start) / 1e6 / seconds, seconds);
+    std::printf("processor   %.3f ms per second over %d s\n", static_cast<double>(end - start) / 1e6 / seconds,
+                seconds);
     std::printf("resident    %.1f MiB (%+lld KiB over the second half)\n", static_cast<double>(rss) / 1024,
                 static_cast<long long>(rss - rssMid));
     std::printf("private     %.1f MiB (%+lld KiB over the second half)\n", static_cast<double>(priv) / 1024,

@@ -29,11 +29,13 @@ constexpr int kStartupWindowDelayMs = 1000;
 } // namespace
 
 AppDelegate::AppDelegate(std::unique_ptr<SettingsStore> store, SourceSet sources, QObject* parent)
-    : QObject(parent), userDefaults_(std::move(store)),
-      loadInfo_(std::make_unique<LoadSystemInformation>(std::move(sources))),
-      volumeTracker_(std::make_unique<VolumeTracker>(*loadInfo_, defaults(ModuleId::General))),
-      rebootAction_(&GeneralFunctions::rebootMe), prefCenter_(new PrefNotificationCenter(this)),
-      executor_(std::make_unique<ThreadPoolCycleExecutor>(this))
+    : QObject(parent)
+    , userDefaults_(std::move(store))
+    , loadInfo_(std::make_unique<LoadSystemInformation>(std::move(sources)))
+    , volumeTracker_(std::make_unique<VolumeTracker>(*loadInfo_, defaults(ModuleId::General)))
+    , rebootAction_(&GeneralFunctions::rebootMe)
+    , prefCenter_(new PrefNotificationCenter(this))
+    , executor_(std::make_unique<ThreadPoolCycleExecutor>(this))
 {
     connect(prefCenter_, &PrefNotificationCenter::posted, this, &AppDelegate::notifFromPref);
     connect(volumeTracker_.get(), &VolumeTracker::descriptionsChanged, this, &AppDelegate::storageDescriptionsChanged);
@@ -57,8 +59,8 @@ void AppDelegate::applicationDidFinishLaunching(bool startTimer)
 
     // Shift held at launch makes the machine identification and sensor choice be redone.
     const auto modifiers = qobject_cast<QGuiApplication*>(QCoreApplication::instance()) != nullptr
-        ? QGuiApplication::queryKeyboardModifiers()
-        : Qt::NoModifier;
+                               ? QGuiApplication::queryKeyboardModifiers()
+                               : Qt::NoModifier;
     isDebugMode_ = modifiers != Qt::NoModifier && modifiers.testFlag(Qt::ShiftModifier);
     if (isDebugMode_) {
         for (const char* key : {PrefKey::MacRawName, PrefKey::MacRealName, PrefKey::MacImage, PrefKey::RemovedTempKeys})
@@ -106,7 +108,8 @@ void AppDelegate::applicationDidFinishLaunching(bool startTimer)
     // and its widgets and the font list would only take memory.
     checkDrawMenu();
     volumeTracker_->startWatching();
-    if (statusBar_ != nullptr && preferencesAvailable_ && qobject_cast<QGuiApplication*>(QCoreApplication::instance()) != nullptr) {
+    if (statusBar_ != nullptr && preferencesAvailable_ &&
+        qobject_cast<QGuiApplication*>(QCoreApplication::instance()) != nullptr) {
         appearanceWatcher_ = new AppearanceWatcher(this);
         connect(appearanceWatcher_, &AppearanceWatcher::appearanceChanged, this, &AppDelegate::changeAppearanceMode);
         changeAppearanceMode(appearanceWatcher_->isDark());
@@ -216,7 +219,8 @@ void AppDelegate::checkDrawMenu()
     if (chkGeneBool(PrefKey::DisplayTopWindowAtStartup) && statusBar_ != nullptr &&
         (!startupWindowShown_ || (preferencePanel_ != nullptr && preferencePanel_->isVisible()))) {
         startupWindowShown_ = true;
-        QTimer::singleShot(kStartupWindowDelayMs, this, [this] { openPreferenceTab(static_cast<int>(openedTabNum) - 1); });
+        QTimer::singleShot(kStartupWindowDelayMs, this,
+                           [this] { openPreferenceTab(static_cast<int>(openedTabNum) - 1); });
     }
     loadSysInfoTimerFinishedBool = false;
 }

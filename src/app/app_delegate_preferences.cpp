@@ -96,7 +96,8 @@ QList<QImage> AppDelegate::shownBarImages() const
         if (id && menuModule(*id) != nullptr && !menuModule(*id)->shownImage().isNull())
             images.append(menuModule(*id)->shownImage());
     }
-    if (const MenuModule* general = menuModule(ModuleId::General); general != nullptr && !general->shownImage().isNull())
+    if (const MenuModule* general = menuModule(ModuleId::General);
+        general != nullptr && !general->shownImage().isNull())
         images.append(general->shownImage());
     return images;
 }
@@ -268,12 +269,12 @@ void AppDelegate::writeToColorThemeFile()
 
 void AppDelegate::changeAppearanceMode(bool desktopIsDark)
 {
-    const auto alternative = TvlClasses::retAppearanceSwitchTheme(themeColorDict_, desktopIsDark,
-                                                                  TvlClasses::retThemeList());
+    const auto alternative =
+        TvlClasses::retAppearanceSwitchTheme(themeColorDict_, desktopIsDark, TvlClasses::retThemeList());
     if (!alternative || !TvlClasses::selectThemeFile(*alternative))
         return;
     qCInfo(lcApp, "The desktop's appearance changed; switching to the theme %s.", qPrintable(*alternative));
-    notifFromPref(PrefNotification{QLatin1String(moduleKeys(ModuleId::General).notification),
-                                   {{QLatin1String(NotifKey::ModuleDefaultReload), true},
-                                    {QLatin1String(NotifKey::ModuleThemeChanged), true}}});
+    notifFromPref(PrefNotification{
+        QLatin1String(moduleKeys(ModuleId::General).notification),
+        {{QLatin1String(NotifKey::ModuleDefaultReload), true}, {QLatin1String(NotifKey::ModuleThemeChanged), true}}});
 }

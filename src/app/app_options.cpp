@@ -10,30 +10,29 @@ namespace {
 
 QString usageText()
 {
-    return QStringLiteral(
-        "Usage: tarvel [--root DIR] [--settings FILE] [--bar] [--preferences [MODULE]] | COMMAND\n"
-        "\n"
-        "Without a command, runs the monitor: in the system tray, in a bar window at the top of\n"
-        "the screen where there is no tray (or with --bar), or as live text lines where there is\n"
-        "no display.\n"
-        "\n"
-        "Commands:\n"
-        "  snapshot [--json] [--cycles N]  sample N cycles (default 2) one second apart and print\n"
-        "                                  the newest figures of every module that is switched on\n"
-        "  render --out DIR [--cycles N] [--scale S]\n"
-        "                                  sample N cycles (default 2), then write each module's\n"
-        "                                  picture to DIR/<module>.png at S pixels per point\n"
-        "                                  (default 2), and the CPU menu's graph to CPU-menu.png\n"
-        "\n"
-        "Options:\n"
-        "  --root DIR       read /proc and /sys below DIR instead of / (also TARVEL_ROOT)\n"
-        "  --settings FILE  use FILE as the settings store\n"
-        "  --bar            show the bar window instead of tray icons\n"
-        "  --preferences [MODULE]\n"
-        "                   open the preferences at start, on MODULE's tab (General, CPU,\n"
-        "                   Memory, Network, Disk, Volume, Temp, Fan or VNC)\n"
-        "  -h, --help       show this text\n"
-        "  -v, --version    show the version\n");
+    return QStringLiteral("Usage: tarvel [--root DIR] [--settings FILE] [--bar] [--preferences [MODULE]] | COMMAND\n"
+                          "\n"
+                          "Without a command, runs the monitor: in the system tray, in a bar window at the top of\n"
+                          "the screen where there is no tray (or with --bar), or as live text lines where there is\n"
+                          "no display.\n"
+                          "\n"
+                          "Commands:\n"
+                          "  snapshot [--json] [--cycles N]  sample N cycles (default 2) one second apart and print\n"
+                          "                                  the newest figures of every module that is switched on\n"
+                          "  render --out DIR [--cycles N] [--scale S]\n"
+                          "                                  sample N cycles (default 2), then write each module's\n"
+                          "                                  picture to DIR/<module>.png at S pixels per point\n"
+                          "                                  (default 2), and the CPU menu's graph to CPU-menu.png\n"
+                          "\n"
+                          "Options:\n"
+                          "  --root DIR       read /proc and /sys below DIR instead of / (also TARVEL_ROOT)\n"
+                          "  --settings FILE  use FILE as the settings store\n"
+                          "  --bar            show the bar window instead of tray icons\n"
+                          "  --preferences [MODULE]\n"
+                          "                   open the preferences at start, on MODULE's tab (General, CPU,\n"
+                          "                   Memory, Network, Disk, Volume, Temp, Fan or VNC)\n"
+                          "  -h, --help       show this text\n"
+                          "  -v, --version    show the version\n");
 }
 
 OptionsResult usageError(const QString& why)
@@ -57,7 +56,8 @@ OptionsResult parseAppOptions(const QStringList& arguments, const QString& envir
     const QCommandLineOption scaleOpt(QStringLiteral("scale"), QString(), QStringLiteral("S"));
     const QCommandLineOption helpOpt(QStringList{QStringLiteral("h"), QStringLiteral("help")});
     const QCommandLineOption versionOpt(QStringList{QStringLiteral("v"), QStringLiteral("version")});
-    parser.addOptions({rootOpt, settingsOpt, jsonOpt, cyclesOpt, barOpt, prefsOpt, outOpt, scaleOpt, helpOpt, versionOpt});
+    parser.addOptions(
+        {rootOpt, settingsOpt, jsonOpt, cyclesOpt, barOpt, prefsOpt, outOpt, scaleOpt, helpOpt, versionOpt});
     parser.addPositionalArgument(QStringLiteral("command"), QString());
 
     if (!parser.parse(arguments))

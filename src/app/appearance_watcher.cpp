@@ -28,7 +28,8 @@ uint unwrap(QVariant value)
 
 } // namespace
 
-AppearanceWatcher::AppearanceWatcher(QObject* parent) : QObject(parent)
+AppearanceWatcher::AppearanceWatcher(QObject* parent)
+    : QObject(parent)
 {
     QDBusConnection bus = QDBusConnection::sessionBus();
     if (bus.isConnected()) {

@@ -13,9 +13,9 @@ class LoadSystemInformation;
 
 // What the main thread hands the background body: snapshots it may read and change freely.
 struct CycleInput {
-    ModuleDefaults general;                   // carries the cadence counters and load flags
-    std::array<qint64, 7> intervals{};        // per sampled module, in cycle order
-    std::array<bool, 7> menuOpened{};         // per sampled module, in cycle order
+    ModuleDefaults general;            // carries the cadence counters and load flags
+    std::array<qint64, 7> intervals{}; // per sampled module, in cycle order
+    std::array<bool, 7> menuOpened{};  // per sampled module, in cycle order
     InfoDict info;
     // The volumes to measure; shared and never changed, so a rebuild on the main thread
     // cannot pull it from under the cycle. None measures nothing.

@@ -5,9 +5,9 @@
 #include "app/volume_tracker.h"
 #include "modules/cpu/cpu_usage_text.h"
 #include "modules/disk/disk_menu_rows.h"
-#include "modules/volume/volume_menu_rows.h"
 #include "modules/memory/memory_breakdown.h"
 #include "modules/network/network_rates.h"
+#include "modules/volume/volume_menu_rows.h"
 #include "prefs/pref_keys.h"
 
 #include <QJsonArray>
@@ -68,7 +68,7 @@ QString memoryText(AppDelegate& app)
     const MemoryBreakdown parts = memoryBreakdown(history.back(), totals ? totals->totalPages : 0,
                                                   memory.boolValue(PrefKey::Memory_TradMemoryInfo));
     out += QStringLiteral("  ") +
-        memoryBarText(parts, pageSize, static_cast<int>(memory.intValue(PrefKey::Memory_Unit))) + QLatin1Char('\n');
+           memoryBarText(parts, pageSize, static_cast<int>(memory.intValue(PrefKey::Memory_Unit))) + QLatin1Char('\n');
     out += QStringLiteral("  pages of %1 bytes, %2 in all\n").arg(pageSize).arg(totals ? totals->totalPages : 0);
     for (std::size_t i = 0; i < history.back().size(); ++i)
         out += QStringLiteral("  %1 %2\n").arg(QString::fromLatin1(kMemoryFigures[i]), -11).arg(history.back()[i]);
@@ -84,9 +84,9 @@ QString networkText(const AppDelegate& app)
         return out + QStringLiteral("  no sample yet\n");
     const NetworkSample& newest = history.back();
     out += QStringLiteral("  ") +
-        networkBarText(currentNetworkRates(history, newest.interval),
-                       networkRatesInBits(app.defaults(ModuleId::Network))) +
-        QLatin1Char('\n');
+           networkBarText(currentNetworkRates(history, newest.interval),
+                          networkRatesInBits(app.defaults(ModuleId::Network))) +
+           QLatin1Char('\n');
     out += QStringLiteral("  sent %1 received %2 bytes, over %3 s\n")
                .arg(newest.toUp)
                .arg(newest.toDw)
@@ -124,9 +124,10 @@ QString volumeText(const AppDelegate& app)
     const auto& history = app.infoDict().volume;
     const ModuleDefaults& settings = app.defaults(ModuleId::Volume);
     const std::vector<VolumeBarSet> sets = volumeBarSets(settings, volumes);
-    QString out = QStringLiteral("Volume\n  bar    ")
-        + volumeBarText(sets, volumes, history, volumePercentKind(settings.intValue(PrefKey::Vlms_Percent_Mode)))
-        + QLatin1Char('\n');
+    QString out =
+        QStringLiteral("Volume\n  bar    ") +
+        volumeBarText(sets, volumes, history, volumePercentKind(settings.intValue(PrefKey::Vlms_Percent_Mode))) +
+        QLatin1Char('\n');
     static const VolumeSample noSample;
     const VolumeSample& newest = history.empty() ? noSample : history.back();
     for (const auto& [path, volume] : volumes)

@@ -8,15 +8,15 @@
 
 struct BlockPartition {
     std::string name;
-    std::optional<std::uint64_t> sectors;  // 512-byte sectors
+    std::optional<std::uint64_t> sectors; // 512-byte sectors
 };
 
 struct BlockDevice {
     std::string name;
-    std::optional<std::uint64_t> sectors;  // 512-byte sectors, whatever the device's block size
+    std::optional<std::uint64_t> sectors; // 512-byte sectors, whatever the device's block size
     std::optional<bool> removable;
     std::optional<bool> rotational;
-    std::optional<std::string> backingFile;  // the file behind a loop device, while one is attached
+    std::optional<std::string> backingFile; // the file behind a loop device, while one is attached
     std::vector<BlockPartition> partitions;
 };
 

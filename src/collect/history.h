@@ -8,8 +8,7 @@
 // Samples are held by shared pointer in chunks of kChunkSize, themselves shared: an append copies
 // the short list of chunks and the last, partly filled chunk, never the samples and never the
 // whole history, so keeping 512 samples costs about as much per append as keeping 64.
-template <class Sample>
-class History {
+template <class Sample> class History {
 public:
     static constexpr std::size_t kMaxSamples = 512;
 
@@ -78,9 +77,10 @@ private:
     using Chunk = std::vector<std::shared_ptr<const Sample>>;
     using Chunks = std::vector<std::shared_ptr<const Chunk>>;
     History(std::shared_ptr<const Chunks> chunks, std::size_t start, std::size_t size)
-        : chunks_(std::move(chunks)), start_(start), size_(size)
-    {
-    }
+        : chunks_(std::move(chunks))
+        , start_(start)
+        , size_(size)
+    {}
 
     std::shared_ptr<const Chunks> chunks_;
     std::size_t start_ = 0; // index of the oldest sample in the first chunk

@@ -14,7 +14,7 @@ using NamedCounters = std::map<std::string, std::uint64_t, std::less<>>;
 
 struct SwapArea {
     std::string filename;
-    std::string type;  // "partition" or "file"
+    std::string type; // "partition" or "file"
     std::uint64_t sizeKiB = 0;
     std::uint64_t usedKiB = 0;
 };

@@ -8,18 +8,18 @@
 
 struct MountRecord {
     std::string mountPoint;
-    std::string source;      // the mounted-from name: a device path, a server path, "tmpfs", ...
+    std::string source; // the mounted-from name: a device path, a server path, "tmpfs", ...
     std::string fsType;
-    std::string options;     // per-mount and file-system options together
+    std::string options; // per-mount and file-system options together
     std::uint32_t major = 0;
     std::uint32_t minor = 0;
-    std::string root;        // the directory of the file system that is mounted there
+    std::string root; // the directory of the file system that is mounted there
 };
 
 // The size of a mounted file system.
 struct FileSystemSpace {
     std::uint64_t totalBytes = 0;
-    std::uint64_t availableBytes = 0;  // what an ordinary user may still write
+    std::uint64_t availableBytes = 0; // what an ordinary user may still write
 };
 
 class MountSource {

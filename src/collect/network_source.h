@@ -10,17 +10,17 @@
 // (a link that is down, for example, has no speed).
 struct NetworkInterface {
     std::string name;
-    std::optional<std::string> operState;  // "up", "down", "unknown", ...
+    std::optional<std::string> operState; // "up", "down", "unknown", ...
     std::optional<std::int64_t> speedMbps;
-    std::optional<std::string> address;    // hardware address as the system prints it
-    std::optional<std::int64_t> type;      // ARPHRD_* link type
-    std::optional<std::uint64_t> flags;    // IFF_* flags
+    std::optional<std::string> address; // hardware address as the system prints it
+    std::optional<std::int64_t> type;   // ARPHRD_* link type
+    std::optional<std::uint64_t> flags; // IFF_* flags
     std::optional<bool> carrier;
-    std::optional<std::string> devType;    // the driver's kind of device: "wlan", "bridge", ...
-    bool wireless = false;                 // has a wireless extension or a radio
-    bool bridge = false;                   // is a bridge master
-    bool hasDevice = false;                // backed by a bus device, not purely virtual
-    std::optional<std::string> vendor;     // the device's names in the hardware database
+    std::optional<std::string> devType; // the driver's kind of device: "wlan", "bridge", ...
+    bool wireless = false;              // has a wireless extension or a radio
+    bool bridge = false;                // is a bridge master
+    bool hasDevice = false;             // backed by a bus device, not purely virtual
+    std::optional<std::string> vendor;  // the device's names in the hardware database
     std::optional<std::string> model;
 };
 

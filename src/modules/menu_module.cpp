@@ -5,9 +5,10 @@
 #include <QMenu>
 
 MenuModule::MenuModule(MenuModuleDelegate* delegate, int preferenceTab, QObject* parent)
-    : QObject(parent), myDelegate(delegate), preferenceTab_(preferenceTab)
-{
-}
+    : QObject(parent)
+    , myDelegate(delegate)
+    , preferenceTab_(preferenceTab)
+{}
 
 MenuModule::~MenuModule()
 {

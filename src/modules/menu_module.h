@@ -14,7 +14,6 @@
 
 #include <memory>
 
-
 class LoadSystemInformation;
 class SettingsStore;
 

@@ -41,11 +41,12 @@ QString sliderText(PictureSettingsTab::SliderKind kind, qint64 stored)
 
 } // namespace
 
-PictureSettingsTab::PictureSettingsTab(ModuleId id, QList<Element> elements, const char* orderKey,
-                                       SettingsStore& store, PrefNotificationCenter& center, QWidget* parent)
-    : PreferenceTab(id, store, center, parent), elements_(std::move(elements)), orderKey_(orderKey)
-{
-}
+PictureSettingsTab::PictureSettingsTab(ModuleId id, QList<Element> elements, const char* orderKey, SettingsStore& store,
+                                       PrefNotificationCenter& center, QWidget* parent)
+    : PreferenceTab(id, store, center, parent)
+    , elements_(std::move(elements))
+    , orderKey_(orderKey)
+{}
 
 QList<qint64> PictureSettingsTab::shownOrder(const QList<qint64>& stored, const QList<Element>& elements)
 {
@@ -170,8 +171,8 @@ void PictureSettingsTab::loadControls()
     if (elementList_ != nullptr) {
         QList<ElementOrderList::Entry> entries;
         for (const qint64 code : shownOrder(d.intList(QLatin1String(orderKey_)), elements_)) {
-            const auto element = std::find_if(elements_.begin(), elements_.end(),
-                                              [code](const Element& e) { return e.code == code; });
+            const auto element =
+                std::find_if(elements_.begin(), elements_.end(), [code](const Element& e) { return e.code == code; });
             entries.append({code, localized(element->text), d.boolValue(element->key)});
         }
         elementList_->setEntries(entries);
@@ -212,9 +213,7 @@ void PictureSettingsTab::noteChange(const char* key, const QVariant& value)
     redrawPreview();
 }
 
-void PictureSettingsTab::noteDerivedChanges(const char*, const QVariant&, QVariantHash&) const
-{
-}
+void PictureSettingsTab::noteDerivedChanges(const char*, const QVariant&, QVariantHash&) const {}
 
 void PictureSettingsTab::showPreview(const QImage& image)
 {

@@ -12,7 +12,8 @@ constexpr int kSwatchHeight = 16;
 
 } // namespace
 
-ColorWell::ColorWell(QWidget* parent) : QToolButton(parent)
+ColorWell::ColorWell(QWidget* parent)
+    : QToolButton(parent)
 {
     setIconSize(QSize(kSwatchWidth, kSwatchHeight));
     connect(this, &QToolButton::clicked, this, &ColorWell::openDialog);

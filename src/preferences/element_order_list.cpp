@@ -10,7 +10,8 @@ constexpr int kCodeRole = Qt::UserRole + 1;
 
 } // namespace
 
-ElementOrderList::ElementOrderList(QWidget* parent) : QListWidget(parent)
+ElementOrderList::ElementOrderList(QWidget* parent)
+    : QListWidget(parent)
 {
     setDragDropMode(QAbstractItemView::InternalMove);
     setDefaultDropAction(Qt::MoveAction);

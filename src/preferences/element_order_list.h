@@ -9,7 +9,7 @@ class ElementOrderList : public QListWidget {
     Q_OBJECT
 public:
     struct Entry {
-        qint64 code;   // the entry's number in the stored order
+        qint64 code; // the entry's number in the stored order
         QString text;
         bool on;
     };

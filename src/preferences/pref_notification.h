@@ -6,8 +6,8 @@
 #include <QVariantMap>
 
 struct PrefNotification {
-    QString name;          // the module's notification name, such as "CpuModuleNotif"
-    QVariantMap userInfo;  // NotifKey entries; a missing boolean counts as NO
+    QString name;         // the module's notification name, such as "CpuModuleNotif"
+    QVariantMap userInfo; // NotifKey entries; a missing boolean counts as NO
 };
 Q_DECLARE_METATYPE(PrefNotification)
 
@@ -16,7 +16,10 @@ class PrefNotificationCenter : public QObject {
     Q_OBJECT
 public:
     using QObject::QObject;
-    void post(const QString& name, const QVariantMap& userInfo = {}) { Q_EMIT posted(PrefNotification{name, userInfo}); }
+    void post(const QString& name, const QVariantMap& userInfo = {})
+    {
+        Q_EMIT posted(PrefNotification{name, userInfo});
+    }
 
 Q_SIGNALS:
     void posted(const PrefNotification& notification);

@@ -5,7 +5,10 @@
 #include "prefs/settings_store.h"
 
 PreferenceTab::PreferenceTab(ModuleId id, SettingsStore& store, PrefNotificationCenter& center, QWidget* parent)
-    : QWidget(parent), id_(id), store_(store), center_(center)
+    : QWidget(parent)
+    , id_(id)
+    , store_(store)
+    , center_(center)
 {
     setObjectName(QString::fromLatin1(moduleKeys(id).historyKey));
 }

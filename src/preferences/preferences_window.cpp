@@ -19,7 +19,9 @@ constexpr QSize kDefaultSize(780, 700);
 } // namespace
 
 PreferencesWindow::PreferencesWindow(QWidget* parent)
-    : QWidget(parent, Qt::Window), tabs_(new QTabWidget(this)), failure_(new QLabel(this))
+    : QWidget(parent, Qt::Window)
+    , tabs_(new QTabWidget(this))
+    , failure_(new QLabel(this))
 {
     setObjectName(QStringLiteral("Preferences"));
     setWindowTitle(QStringLiteral("%1 %2").arg(QApplication::applicationName(), localized("Preferences")));
@@ -30,9 +32,8 @@ PreferencesWindow::PreferencesWindow(QWidget* parent)
     failure_->setStyleSheet(QStringLiteral("QLabel { color: #b00020; font-weight: bold; }"));
     failure_->hide();
     layout->addWidget(failure_);
-    auto* version = new QLabel(QStringLiteral("%1 %2").arg(QApplication::applicationName(),
-                                                            QStringLiteral(TARVEL_VERSION)),
-                               this);
+    auto* version =
+        new QLabel(QStringLiteral("%1 %2").arg(QApplication::applicationName(), QStringLiteral(TARVEL_VERSION)), this);
     version->setAlignment(Qt::AlignRight);
     version->setEnabled(false);
     layout->addWidget(version);

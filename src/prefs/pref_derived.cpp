@@ -53,8 +53,10 @@ void addDisk(ModuleDefaults& d, const Measure& m)
     const auto pairs = PlistFunction::retDiskReadWrite();
     addLabelPair(d, m, PlistFunction::labelForSetting(pairs, d.intValue(Disk_Indicator_Label)), Disk_Indicator_LabelAry,
                  DiskInnerIndicatorLabelWidth);
-    addLabelPair(d, m, PlistFunction::labelForSetting(pairs, d.intValue(Disk_Graph_Label)), Disk_Graph_LabelAry, DiskInnerGraphLabelWidth);
-    addLabelPair(d, m, PlistFunction::labelForSetting(pairs, d.intValue(Disk_Text_Label)), Disk_Text_LabelAry, DiskInnerTextLabelWidth);
+    addLabelPair(d, m, PlistFunction::labelForSetting(pairs, d.intValue(Disk_Graph_Label)), Disk_Graph_LabelAry,
+                 DiskInnerGraphLabelWidth);
+    addLabelPair(d, m, PlistFunction::labelForSetting(pairs, d.intValue(Disk_Text_Label)), Disk_Text_LabelAry,
+                 DiskInnerTextLabelWidth);
     d.set(DiskInnerTextValueWidth, m.floorWidth(QStringLiteral("888.8XX/X")));
     // A disk's icon identifies one disk, so it can only stand behind per-disk pictures.
     d.set(DiskInnerIconAbleToBeBol, d.boolValue(Disk_WithDiskIconInBackground) && d.boolValue(Disk_ShowEachDisk));
@@ -63,8 +65,9 @@ void addDisk(ModuleDefaults& d, const Measure& m)
 void addVolume(ModuleDefaults& d, const Measure& m)
 {
     // The stored label value indexes the list from 0 (the plain hyphen pair), unlike the others.
-    addLabelPair(d, m, PlistFunction::labelForSetting(PlistFunction::retVolumeUsedFree(), d.intValue(Vlms_Text_Label) + 1), Vlms_Text_LabelAry,
-                 VlmsInnerTextLabelWidth);
+    addLabelPair(d, m,
+                 PlistFunction::labelForSetting(PlistFunction::retVolumeUsedFree(), d.intValue(Vlms_Text_Label) + 1),
+                 Vlms_Text_LabelAry, VlmsInnerTextLabelWidth);
     d.set(VlmsInnerPercentWidth, m.floorWidth(QStringLiteral("188%")));
     d.set(VlmsInnerTextValueWidth, m.floorWidth(QStringLiteral("888.8XX")));
     d.set(VlmsInnerIconAbleToBeBol, d.boolValue(Vlms_WithDiskIconInBackground) && d.boolValue(Vlms_ShowEachDisk));
@@ -81,8 +84,8 @@ void addTemp(ModuleDefaults& d, SettingsStore& s, const Measure& m)
     const QString unit = PlistFunction::labelForSetting(GeneralFunctions::retTempUnit(), d.intValue(Temp_Unit_Mode));
     d.set(Temp_Unit_ModeStr, unit);
     const QString sample = QStringLiteral("88") + unit;
-    const bool pileUp = d.boolValue(Temp_Display_Text) && d.boolValue(Temp_Display_Graph)
-        && d.boolValue(Temp_PileUp_TextGraph);
+    const bool pileUp =
+        d.boolValue(Temp_Display_Text) && d.boolValue(Temp_Display_Graph) && d.boolValue(Temp_PileUp_TextGraph);
     double piledSize = -1.0;
     if (pileUp && m.width(sample) > static_cast<double>(d.intValue(Temp_GraphWidth)))
         piledSize = PrefFunctions::calcPiledFontSize(QStringLiteral("88"), m.size, m.font,
@@ -96,8 +99,8 @@ void addTemp(ModuleDefaults& d, SettingsStore& s, const Measure& m)
 
 void addFan(ModuleDefaults& d, SettingsStore& s, const Measure& m)
 {
-    const bool pileUp = d.boolValue(Fan_Display_Text) && d.boolValue(Fan_Display_Graph)
-        && d.boolValue(Fan_PileUp_TextGraph);
+    const bool pileUp =
+        d.boolValue(Fan_Display_Text) && d.boolValue(Fan_Display_Graph) && d.boolValue(Fan_PileUp_TextGraph);
     const double graphWidth = static_cast<double>(d.intValue(Fan_GraphWidth));
     double piledSize = -1.0;
     if (pileUp && m.width(QStringLiteral("8888rpm")) > graphWidth)
@@ -133,7 +136,8 @@ void addDerivedKeys(ModuleId id, ModuleDefaults& d, SettingsStore& store, const 
         d.set(MemoryInnerDetailRHeaderWidth, m.floorWidth(QStringLiteral("XXXXXXXX:")));
         break;
     case ModuleId::Network: {
-        const QStringList labels = PlistFunction::labelForSetting(PlistFunction::retNetworkUdLabel(), d.intValue(Network_UdLabel_Mode));
+        const QStringList labels =
+            PlistFunction::labelForSetting(PlistFunction::retNetworkUdLabel(), d.intValue(Network_UdLabel_Mode));
         d.set(Network_UdLabel_ModeAry, labels);
         d.set(NetworkInnerUdLabelWidth, m.widest(labels));
         d.set(NetworkInnerTextWidth, m.floorWidth(QStringLiteral("888.8XXX")));

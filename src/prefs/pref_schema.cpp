@@ -35,12 +35,9 @@ std::vector<PrefField> withToolItems(std::vector<PrefField> fields, const char* 
 
 std::vector<ThemePictureUse> sharedPictures(const char* label, std::initializer_list<ThemePictureUse> more)
 {
-    std::vector<ThemePictureUse> out{{label, PictureSize::Half},
-                                     {"O01", PictureSize::Icon18},
-                                     {"O02", PictureSize::Icon18},
-                                     {"O11", PictureSize::Icon18},
-                                     {"O12", PictureSize::Icon18},
-                                     {"O13", PictureSize::Icon18}};
+    std::vector<ThemePictureUse> out{{label, PictureSize::Half},   {"O01", PictureSize::Icon18},
+                                     {"O02", PictureSize::Icon18}, {"O11", PictureSize::Icon18},
+                                     {"O12", PictureSize::Icon18}, {"O13", PictureSize::Icon18}};
     out.insert(out.end(), more);
     return out;
 }
@@ -94,8 +91,7 @@ ModuleSchema cpu()
                            {CPU_LineAsBold, T::Bool, kNo},
                            {Cpu_ShowMyLabel, T::Bool, kNone}},
                           CPU_EnaMenu_Amon, CPU_EnaMenu_Cnsl, CPU_EnaMenu_Tmnl),
-            colors({"A01", "A02", "A03", "A04", "A05", "A06", "A07"}),
-            sharedPictures("L01", {})};
+            colors({"A01", "A02", "A03", "A04", "A05", "A06", "A07"}), sharedPictures("L01", {})};
 }
 
 ModuleSchema memory()
@@ -114,8 +110,7 @@ ModuleSchema memory()
                            {Memory_TradMemoryInfo, T::Bool, kNo},
                            {Memory_ShowMyLabel, T::Bool, kNone}},
                           Memory_EnaMenu_Amon, Memory_EnaMenu_Cnsl, Memory_EnaMenu_Tmnl),
-            colors({"B01", "B02", "B03", "B04", "B05", "B06", "B07", "B08", "B09", "B10"}),
-            sharedPictures("L02", {})};
+            colors({"B01", "B02", "B03", "B04", "B05", "B06", "B07", "B08", "B09", "B10"}), sharedPictures("L02", {})};
 }
 
 ModuleSchema network()
@@ -216,8 +211,7 @@ ModuleSchema temp()
                            {Temp_MaxTemp, T::Integer, kNone},
                            {Temp_ShowMyLabel, T::Bool, kNone}},
                           Temp_EnaMenu_Amon, Temp_EnaMenu_Cnsl, Temp_EnaMenu_Tmnl),
-            colors({"F01", "F02", "F03", "F04"}),
-            sharedPictures("L06", {})};
+            colors({"F01", "F02", "F03", "F04"}), sharedPictures("L06", {})};
 }
 
 ModuleSchema fan()
@@ -233,22 +227,20 @@ ModuleSchema fan()
                            {Fax_MaxRpm, T::Integer, kNone},
                            {Fan_ShowMyLabel, T::Bool, kNone}},
                           Fan_EnaMenu_Amon, Fan_EnaMenu_Cnsl, Fan_EnaMenu_Tmnl),
-            colors({"G01", "G02", "G03", "G04"}),
-            sharedPictures("L07", {})};
+            colors({"G01", "G02", "G03", "G04"}), sharedPictures("L07", {})};
 }
 
 ModuleSchema vnc()
 {
-    return {withToolItems({{Vnc_ShowMenu, T::Bool, kNo},
-                           {Vnc_AddMenuOpenAll, T::Bool, kNo},
-                           {Vnc_ClientSortArray, T::Array, kNone}},
-                          Vnc_EnaMenu_Amon, Vnc_EnaMenu_Cnsl, Vnc_EnaMenu_Tmnl),
-            colors({}),
-            [] {
-                auto pictures = sharedPictures("L08", {{"O41", PictureSize::Icon18}, {"O42", PictureSize::Icon18}});
-                pictures.insert(pictures.begin(), {"N03", PictureSize::Half});
-                return pictures;
-            }()};
+    return {
+        withToolItems(
+            {{Vnc_ShowMenu, T::Bool, kNo}, {Vnc_AddMenuOpenAll, T::Bool, kNo}, {Vnc_ClientSortArray, T::Array, kNone}},
+            Vnc_EnaMenu_Amon, Vnc_EnaMenu_Cnsl, Vnc_EnaMenu_Tmnl),
+        colors({}), [] {
+            auto pictures = sharedPictures("L08", {{"O41", PictureSize::Icon18}, {"O42", PictureSize::Icon18}});
+            pictures.insert(pictures.begin(), {"N03", PictureSize::Half});
+            return pictures;
+        }()};
 }
 
 } // namespace

@@ -26,8 +26,7 @@ bool sameIgnoringSpaces(const QString& candidate, const QString& wanted)
 QString findFamily(const QStringList& families, const QString& wanted, bool ignoreSpaces)
 {
     for (const QString& family : families) {
-        if (ignoreSpaces ? sameIgnoringSpaces(family, wanted)
-                         : family.compare(wanted, Qt::CaseInsensitive) == 0)
+        if (ignoreSpaces ? sameIgnoringSpaces(family, wanted) : family.compare(wanted, Qt::CaseInsensitive) == 0)
             return family;
     }
     return QString();

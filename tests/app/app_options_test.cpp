@@ -22,8 +22,8 @@ TEST(AppOptions, CommandsAndOptions)
     EXPECT_EQ(plain.options->command, AppOptions::Command::Run);
     EXPECT_EQ(plain.options->root, QStringLiteral("/"));
 
-    const OptionsResult snap = parse({"--settings", "/tmp/x.plist", "snapshot", "--json", "--cycles", "3",
-                                      "--root", root.path()});
+    const OptionsResult snap =
+        parse({"--settings", "/tmp/x.plist", "snapshot", "--json", "--cycles", "3", "--root", root.path()});
     ASSERT_TRUE(snap.options);
     EXPECT_EQ(snap.options->command, AppOptions::Command::Snapshot);
     EXPECT_TRUE(snap.options->json);

@@ -117,15 +117,15 @@ TEST_F(PreferencesTest, MovingAModuleReordersTheBar)
 {
     // First-run order: CPU, Memory, Network, ... with General at the right end.
     ASSERT_GE(bar.shown.size(), 4);
-    ASSERT_EQ(bar.shown.mid(0, 3), (QStringList{QStringLiteral("CPU"), QStringLiteral("Memory"),
-                                                QStringLiteral("Network")}));
+    ASSERT_EQ(bar.shown.mid(0, 3),
+              (QStringList{QStringLiteral("CPU"), QStringLiteral("Memory"), QStringLiteral("Network")}));
     top().moduleList()->moveEntry(0, 2);
     QTest::qWait(kSettleMs);
     const QVariantList order = t.store().arrayForKey(TopItemSortArray);
     ASSERT_EQ(order.size(), 8);
     EXPECT_EQ(order.at(2).toLongLong(), 1);
-    EXPECT_EQ(bar.shown.mid(0, 3), (QStringList{QStringLiteral("Memory"), QStringLiteral("Network"),
-                                                QStringLiteral("CPU")}));
+    EXPECT_EQ(bar.shown.mid(0, 3),
+              (QStringList{QStringLiteral("Memory"), QStringLiteral("Network"), QStringLiteral("CPU")}));
     EXPECT_EQ(bar.shown.last(), QStringLiteral("General"));
 }
 

@@ -14,7 +14,12 @@ class RecordingStatusBar final : public StatusBar {
 public:
     class Item final : public StatusItem {
     public:
-        Item(RecordingStatusBar& bar, QString key) : bar_(bar), key_(std::move(key)) { bar_.shown.prepend(key_); }
+        Item(RecordingStatusBar& bar, QString key)
+            : bar_(bar)
+            , key_(std::move(key))
+        {
+            bar_.shown.prepend(key_);
+        }
         ~Item() override { bar_.shown.removeOne(key_); }
         void setImage(const QImage& image, bool templated) override
         {

@@ -23,8 +23,8 @@ std::vector<int> sampledCycles(ModuleDefaults& general, qint64 interval, int cyc
         general.set(Cpu_UpdateInterval, interval);
         general.set(CpuInnerLoadData, false);
         const bool open = c - 1 < static_cast<int>(menuOpen.size()) && menuOpen[static_cast<std::size_t>(c - 1)];
-        SamplingCycle::loadCounterUp(general, LaunchCpus, CpuInnerLoadCounterInt, Cpu_UpdateInterval,
-                                     CpuInnerLoadData, open);
+        SamplingCycle::loadCounterUp(general, LaunchCpus, CpuInnerLoadCounterInt, Cpu_UpdateInterval, CpuInnerLoadData,
+                                     open);
         if (general.boolValue(CpuInnerLoadData))
             sampled.push_back(c);
     }

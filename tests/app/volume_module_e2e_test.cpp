@@ -49,8 +49,9 @@ TEST(VolumeModuleEndToEnd, LoopMountShowsWithinTwoCyclesAndGoesAfterTheUnmount)
     const QString image = t.dir.filePath(QStringLiteral("volume.img"));
     const QString mountPoint = t.dir.filePath(name);
     ASSERT_TRUE(QDir().mkpath(mountPoint));
-    if (!run(QStringLiteral("truncate"), {QStringLiteral("-s"), QStringLiteral("8M"), image})
-        || !run(QStringLiteral("mkfs.ext4"), {QStringLiteral("-q"), QStringLiteral("-F"), QStringLiteral("-L"), name, image}))
+    if (!run(QStringLiteral("truncate"), {QStringLiteral("-s"), QStringLiteral("8M"), image}) ||
+        !run(QStringLiteral("mkfs.ext4"),
+             {QStringLiteral("-q"), QStringLiteral("-F"), QStringLiteral("-L"), name, image}))
         GTEST_SKIP() << "cannot make an ext4 image";
 
     {
@@ -73,7 +74,9 @@ TEST(VolumeModuleEndToEnd, LoopMountShowsWithinTwoCyclesAndGoesAfterTheUnmount)
     auto* volume = dynamic_cast<Volume_MenuModule*>(app.menuModule(ModuleId::Volume));
     ASSERT_NE(volume, nullptr);
     const auto shows = [&] { return bar.texts.value(QStringLiteral("Volume")).contains(name + QLatin1Char(' ')); };
-    const auto measured = [&] { return bar.texts.value(QStringLiteral("Volume")).contains(name + QStringLiteral(" --")); };
+    const auto measured = [&] {
+        return bar.texts.value(QStringLiteral("Volume")).contains(name + QStringLiteral(" --"));
+    };
     const auto runCycles = [&](const std::function<bool()>& until) {
         for (int cycle = 0; cycle < 2 && !until(); ++cycle) {
             app.loadSysInfoTimer();
@@ -92,7 +95,8 @@ TEST(VolumeModuleEndToEnd, LoopMountShowsWithinTwoCyclesAndGoesAfterTheUnmount)
     ASSERT_TRUE(waitUntil(rebuilt, [&] { return volume->volumeBaseDict().contains(mountPoint); }));
     EXPECT_FALSE(volume->menuOpened()) << "the open menu no longer matched the volumes";
     EXPECT_TRUE(shows()) << "the item takes the new volume at once";
-    EXPECT_TRUE(runCycles([&] { return shows() && !measured(); })) << bar.texts.value(QStringLiteral("Volume")).toStdString();
+    EXPECT_TRUE(runCycles([&] { return shows() && !measured(); }))
+        << bar.texts.value(QStringLiteral("Volume")).toStdString();
     EXPECT_GT(bar.images.value(QStringLiteral("Volume")).width(), widthBefore);
 
     unmount.dismiss();

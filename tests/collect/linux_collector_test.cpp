@@ -16,7 +16,7 @@ void copyInPlace(const std::filesystem::path& from, const std::filesystem::path&
     std::ofstream out(to, std::ios::binary | std::ios::trunc);
     out << in.rdbuf();
 }
-}
+} // namespace
 
 TEST(LinuxCollector, SecondSampleGivesPerProcessorDifferencesAndTheirAverage)
 {
@@ -50,7 +50,7 @@ TEST(LinuxCollector, OptionLinesFromTheCapturedTree)
     ASSERT_EQ(lines.size(), 5);
     EXPECT_EQ(lines[2], "497 threads, 7 processes");
     EXPECT_EQ(lines[3], "1min: 0.02, 5min: 0.04, 15min: 0.05");
-    EXPECT_EQ(lines[4], "");  // the tree has no host name
+    EXPECT_EQ(lines[4], ""); // the tree has no host name
 }
 
 // The captured machine: 15666184 kB of memory, no MemAvailable (an older kernel), a zswap pool
@@ -67,9 +67,9 @@ TEST(LinuxCollector, MemoryFiguresOfTheCapturedTree)
 
     const auto sample = info.loadMemoryData();
     ASSERT_TRUE(sample);
-    EXPECT_EQ(*sample, (MemorySample{pages(69140 + 1616 + 5288), pages(267256 + 6494020), pages(268 + 6532440),
-                                     pages(440324), -1, -1, -1, pages(22414), pages(266216 + 1308),
-                                     pages(12007640 - 1308 + 1020128)}));
+    EXPECT_EQ(*sample,
+              (MemorySample{pages(69140 + 1616 + 5288), pages(267256 + 6494020), pages(268 + 6532440), pages(440324),
+                            -1, -1, -1, pages(22414), pages(266216 + 1308), pages(12007640 - 1308 + 1020128)}));
     // Available is estimated: free, buffers, droppable cache and reclaimable slab.
     EXPECT_EQ(info.memoryTotals(), (MemoryTotals{pages(15666184), pages(440324 + 1020128 + 12006332 + 1738124)}));
     EXPECT_EQ(info.loadSwapUsage(), (SwapUsage{131068 * 1024, (131068 - 176) * 1024, 176 * 1024}));

@@ -80,8 +80,7 @@ inline ModuleDefaults networkPictureDefaults(unsigned shown, bool label = false)
     return d;
 }
 
-template <class Sample>
-History<Sample> historyOf(std::vector<Sample> samples)
+template <class Sample> History<Sample> historyOf(std::vector<Sample> samples)
 {
     return History<Sample>::fromSamples(std::move(samples));
 }

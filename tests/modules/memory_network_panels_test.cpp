@@ -15,15 +15,14 @@ QStringList rowTexts(const std::vector<MemoryPanelRow>& rows)
     QStringList texts;
     for (const MemoryPanelRow& row : rows)
         texts << (row.swatch ? QStringLiteral("■ ") : QString()) + QLatin1String(memoryPartName(row.part)) +
-                QLatin1Char(' ') + row.size;
+                     QLatin1Char(' ') + row.size;
     return texts;
 }
 
 NetworkBase exampleBase()
 {
     NetworkBase base;
-    base["eth0"] = {InterfaceIdentity{"Intel I219-V", "Ethernet"},
-                    InterfaceAddresses{"192.168.1.5", "fe80::1"},
+    base["eth0"] = {InterfaceIdentity{"Intel I219-V", "Ethernet"}, InterfaceAddresses{"192.168.1.5", "fe80::1"},
                     NicFacts{"Active", 1000000000, std::nullopt, std::nullopt, "A0:B1:C2:D3:E4:F5"}};
     base["wlan0"] = {InterfaceIdentity{"wlan0", "Wi-Fi"}, std::nullopt, NicFacts{"Inactive", {}, {}, {}, {}}};
     base["lo"] = {InterfaceIdentity{"lo", "Loopback"}, InterfaceAddresses{"127.0.0.1", std::nullopt},
@@ -61,8 +60,8 @@ TEST(MemoryPanel, PagingRatesAndSwap)
 
     const std::vector<SwapArea> areas{{"/swapfile", "file", 2 * 1024 * 1024, 512 * 1024},
                                       {"/dev/sda3", "partition", 1024, 0}};
-    EXPECT_EQ(swapAreaTexts(areas, 1), QStringList({"/swapfile (file): 512.0MB of 2.00GB",
-                                                    "/dev/sda3 (partition): 0.0MB of 1.0MB"}));
+    EXPECT_EQ(swapAreaTexts(areas, 1),
+              QStringList({"/swapfile (file): 512.0MB of 2.00GB", "/dev/sda3 (partition): 0.0MB of 1.0MB"}));
     EXPECT_EQ(swapUsedText({}, 1), QStringLiteral("---"));
 }
 

@@ -19,18 +19,24 @@ using namespace PrefKey;
 
 namespace {
 
-template <class Tab>
-struct TabFixture {
+template <class Tab> struct TabFixture {
     template <class Make>
-    TabFixture(ModuleId id, const ModuleDefaults& defaults, Make make) : tab(make(store, center))
+    TabFixture(ModuleId id, const ModuleDefaults& defaults, Make make)
+        : tab(make(store, center))
     {
         QObject::connect(&center, &PrefNotificationCenter::posted,
                          [this](const PrefNotification& n) { posts.push_back(n); });
         all[static_cast<std::size_t>(id)] = defaults;
         tab->setMyDefaults(all);
     }
-    template <class Widget> Widget* find(const char* key) { return tab->template findChild<Widget*>(QLatin1String(key)); }
-    double previewWidth(const char* name) { return find<PicturePreview>(name)->image().deviceIndependentSize().width(); }
+    template <class Widget> Widget* find(const char* key)
+    {
+        return tab->template findChild<Widget*>(QLatin1String(key));
+    }
+    double previewWidth(const char* name)
+    {
+        return find<PicturePreview>(name)->image().deviceIndependentSize().width();
+    }
 
     MemorySettingsStore store;
     PrefNotificationCenter center;
@@ -71,10 +77,9 @@ TEST(MemoryTab, EachControlStoresItsKeyAndPostsTheMemoryNotification)
 {
     ModuleDefaults defaults = memoryPictureDefaults(4 | 8);
     defaults.set(Memory_UpdateInterval, qint64{5});
-    TabFixture<MemoryTabViewController> f(ModuleId::Memory, defaults,
-                                          [](SettingsStore& s, PrefNotificationCenter& c) {
-                                              return new MemoryTabViewController(nullptr, s, c);
-                                          });
+    TabFixture<MemoryTabViewController> f(ModuleId::Memory, defaults, [](SettingsStore& s, PrefNotificationCenter& c) {
+        return new MemoryTabViewController(nullptr, s, c);
+    });
     ASSERT_TRUE(f.posts.empty()) << "showing the settings is no change";
     ASSERT_TRUE(f.store.values.isEmpty());
 
@@ -111,10 +116,9 @@ TEST(MemoryTab, PreviewFollowsChangesAtOnce)
 {
     const double height = TvlClasses::retRootMenuHeight();
     ModuleDefaults settings = memoryPictureDefaults(4 | 8);
-    TabFixture<MemoryTabViewController> f(ModuleId::Memory, settings,
-                                          [](SettingsStore& s, PrefNotificationCenter& c) {
-                                              return new MemoryTabViewController(nullptr, s, c);
-                                          });
+    TabFixture<MemoryTabViewController> f(ModuleId::Memory, settings, [](SettingsStore& s, PrefNotificationCenter& c) {
+        return new MemoryTabViewController(nullptr, s, c);
+    });
     EXPECT_DOUBLE_EQ(f.previewWidth("MemoryPreview"), memoryBarWidth(settings, memoryTextWidths(settings, 0), height));
 
     InfoDict info;
@@ -127,10 +131,9 @@ TEST(MemoryTab, PreviewFollowsChangesAtOnce)
 
 TEST(NetworkTab, EachControlStoresItsKeyAndPostsTheNetworkNotification)
 {
-    TabFixture<NetworkTabViewController> f(ModuleId::Network, networkPictureDefaults(4 | 8),
-                                           [](SettingsStore& s, PrefNotificationCenter& c) {
-                                               return new NetworkTabViewController(s, c);
-                                           });
+    TabFixture<NetworkTabViewController> f(
+        ModuleId::Network, networkPictureDefaults(4 | 8),
+        [](SettingsStore& s, PrefNotificationCenter& c) { return new NetworkTabViewController(s, c); });
     ASSERT_TRUE(f.posts.empty());
 
     f.find<QSlider>(Network_Limen_Base)->setValue(25);
@@ -160,10 +163,9 @@ TEST(NetworkTab, EachControlStoresItsKeyAndPostsTheNetworkNotification)
 
 TEST(NetworkTab, PreviewTakesTheNewLabelsWidthBeforeTheSettingsComeBack)
 {
-    TabFixture<NetworkTabViewController> f(ModuleId::Network, networkPictureDefaults(1 | 8),
-                                           [](SettingsStore& s, PrefNotificationCenter& c) {
-                                               return new NetworkTabViewController(s, c);
-                                           });
+    TabFixture<NetworkTabViewController> f(
+        ModuleId::Network, networkPictureDefaults(1 | 8),
+        [](SettingsStore& s, PrefNotificationCenter& c) { return new NetworkTabViewController(s, c); });
     const double shortLabels = f.previewWidth("NetworkPreview");
     EXPECT_DOUBLE_EQ(shortLabels, networkBarWidth(networkPictureDefaults(1 | 8)));
     f.find<QComboBox>(Network_UdLabel_Mode)->setCurrentIndex(3); // "Send" / "Receive"

@@ -134,8 +134,8 @@ TEST(ImageMemoryBar, TextsShowTheChosenViewInTheChosenUnit)
     d.set(Memory_Unit, qint64{2});
     d.set(Memory_TradMemoryInfo, true);
     EXPECT_EQ(textsOf(drawPicture(d, historyOf<MemorySample>({kSample}))),
-              QStringList({"U:", "750.0MB", "F:", "250.0MB", "W:", "100.0MB", "A:", "300.0MB", "I:", "200.0MB", "F:",
-                           "250.0MB"}));
+              QStringList({"U:", "750.0MB", "F:", "250.0MB", "W:", "100.0MB", "A:", "300.0MB", "I:", "200.0MB",
+                           "F:", "250.0MB"}));
 
     d.set(Memory_TradMemoryInfo, false);
     d.set(Memory_Unit, qint64{3});

@@ -53,7 +53,8 @@ double topOf(const DrawCall& call)
 
 TEST(NetworkBarWidth, EqualsThePictureForEveryCombinationOfElements)
 {
-    const History<NetworkSample> history = networkHistory(std::vector(40, std::pair<std::int64_t, std::int64_t>{5000, 9000}));
+    const History<NetworkSample> history =
+        networkHistory(std::vector(40, std::pair<std::int64_t, std::int64_t>{5000, 9000}));
     for (unsigned mask = 1; mask < 16; ++mask) {
         for (const bool label : {false, true}) {
             SCOPED_TRACE(testing::Message() << "elements " << mask << " label " << label);

@@ -44,8 +44,8 @@ QSize pixelSizeOf(const QString& key)
 
 TEST(ThemeReference, HoldsExactlyTheThemeKeys)
 {
-    QStringList expected = TvlClasses::themeStringKeys() + TvlClasses::themeNumberKeys()
-                           + TvlClasses::themeColorKeys() + TvlClasses::themePictureKeys();
+    QStringList expected = TvlClasses::themeStringKeys() + TvlClasses::themeNumberKeys() +
+                           TvlClasses::themeColorKeys() + TvlClasses::themePictureKeys();
     expected << QStringLiteral("_ForDarkAppearance");
     expected.sort();
     for (const Reference& reference : kReferences) {

@@ -11,7 +11,7 @@ public:
     std::optional<std::vector<InterfaceCounters>> rows = std::vector<InterfaceCounters>{};
     std::vector<InterfaceAddress> addressList;
     std::map<std::string, InterfaceRecheck> secondLook; // unlisted names: gone
-    bool announced = true;                               // the system says links may have changed
+    bool announced = true;                              // the system says links may have changed
 
     std::optional<std::vector<NetworkInterface>> interfaces() override { return listed; }
     std::optional<std::vector<InterfaceCounters>> counters() override { return rows; }

@@ -129,14 +129,14 @@ void addVolumePictures(QVariantMap& theme, const PictureInks& inks)
 {
     using Picture = void (*)(QPainter&, const PictureInks&);
     const std::pair<const char*, Picture> kinds[] = {
-        {"M01", drawInternal}, {"M02", drawExternal}, {"M03", drawRemovable},
-        {"M04", drawNetworkVolume}, {"M05", drawOptical}, {"M06", drawDiskImage},
+        {"M01", drawInternal},      {"M02", drawExternal}, {"M03", drawRemovable},
+        {"M04", drawNetworkVolume}, {"M05", drawOptical},  {"M06", drawDiskImage},
     };
     for (const auto& [key, picture] : kinds)
         theme.insert(QLatin1String(key), drawPicture(kKindSize, [&](QPainter& p) {
-            p.scale(kKindSize.width() / kKindGrid, kKindSize.height() / kKindGrid);
-            picture(p, inks);
-        }));
+                         p.scale(kKindSize.width() / kKindGrid, kKindSize.height() / kKindGrid);
+                         picture(p, inks);
+                     }));
     theme.insert(QStringLiteral("M11"), drawPicture(kMenuSize, [&](QPainter& p) { drawEject(p, inks); }));
     theme.insert(QStringLiteral("M12"), drawPicture(kMenuSize, [&](QPainter& p) { drawOpenFolder(p, inks); }));
 }

@@ -5,7 +5,8 @@
 
 #include <string>
 
-HardwareDatabase::HardwareDatabase() : udev_(udev_new())
+HardwareDatabase::HardwareDatabase()
+    : udev_(udev_new())
 {
     if (udev_)
         hwdb_ = udev_hwdb_new(udev_);

@@ -1,8 +1,8 @@
 // Describes the block devices from sysfs and reads their counters from /proc/diskstats.
 #include "collect/linux/linux_block_device_source.h"
 
-#include "collect/linux/diskstats_parser.h"
 #include "collect/linux/directory_names.h"
+#include "collect/linux/diskstats_parser.h"
 #include "collect/linux/sysfs_attribute.h"
 
 namespace {
@@ -27,12 +27,12 @@ std::vector<BlockPartition> readPartitions(const std::filesystem::path& device)
             partitions.push_back({name, readAttributeUnsigned(device / name / "size")});
     return partitions;
 }
-}
+} // namespace
 
 LinuxBlockDeviceSource::LinuxBlockDeviceSource(const SysRoot& root)
-    : root_(root), diskstats_(root.join("proc/diskstats"))
-{
-}
+    : root_(root)
+    , diskstats_(root.join("proc/diskstats"))
+{}
 
 std::optional<std::vector<BlockDevice>> LinuxBlockDeviceSource::devices()
 {

@@ -8,10 +8,12 @@
 #include <unistd.h>
 
 LinuxMemorySource::LinuxMemorySource(const SysRoot& root)
-    : root_(root), meminfo_(root.join("proc/meminfo")), vmstat_(root.join("proc/vmstat")),
-      swaps_(root.join("proc/swaps")), zswapSwitch_(root.join("sys/module/zswap/parameters/enabled"))
-{
-}
+    : root_(root)
+    , meminfo_(root.join("proc/meminfo"))
+    , vmstat_(root.join("proc/vmstat"))
+    , swaps_(root.join("proc/swaps"))
+    , zswapSwitch_(root.join("sys/module/zswap/parameters/enabled"))
+{}
 
 std::optional<NamedCounters> LinuxMemorySource::memoryInfo()
 {

@@ -21,10 +21,12 @@ int skipBadLine(libmnt_table*, const char*, int)
 {
     return 1;
 }
-}
+} // namespace
 
 LinuxMountSource::LinuxMountSource(const SysRoot& root, std::string_view table)
-    : root_(root), path_(root.join(table)), watch_(path_)
+    : root_(root)
+    , path_(root.join(table))
+    , watch_(path_)
 {
     // Opened now, so that a change between construction and the first check is not missed.
     watch_.descriptor();

@@ -45,7 +45,8 @@ bool plainName(std::string_view name)
 } // namespace
 
 LinuxNetworkSource::LinuxNetworkSource(const SysRoot& root)
-    : root_(root), netDev_(root.join("proc/net/dev"))
+    : root_(root)
+    , netDev_(root.join("proc/net/dev"))
 {
     if (root_.root() == "/")
         watch_ = std::make_unique<NetlinkWatch>();

@@ -3,7 +3,6 @@
 
 #include "collect/linux/text_fields.h"
 
-
 namespace {
 
 using Field = std::optional<std::uint64_t> MemoryCounters::*;

@@ -14,7 +14,7 @@ constexpr std::size_t kReceivePackets = 1;
 constexpr std::size_t kSendBytes = 8;
 constexpr std::size_t kSendPackets = 9;
 constexpr std::size_t kNeeded = 10;
-}
+} // namespace
 
 std::optional<std::vector<InterfaceCounters>> parseNetDev(std::string_view text)
 {
@@ -39,8 +39,8 @@ std::optional<std::vector<InterfaceCounters>> parseNetDev(std::string_view text)
         }
         if (!complete)
             continue;
-        rows.push_back({std::string(name), value[kReceiveBytes], value[kReceivePackets],
-                        value[kSendBytes], value[kSendPackets]});
+        rows.push_back(
+            {std::string(name), value[kReceiveBytes], value[kReceivePackets], value[kSendBytes], value[kSendPackets]});
     }
     if (rows.empty())
         return std::nullopt;

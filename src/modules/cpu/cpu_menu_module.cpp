@@ -14,7 +14,8 @@
 
 using namespace PrefKey;
 
-CPU_MenuModule::CPU_MenuModule(MenuModuleDelegate* delegate, QObject* parent) : MenuModule(delegate, 1, parent)
+CPU_MenuModule::CPU_MenuModule(MenuModuleDelegate* delegate, QObject* parent)
+    : MenuModule(delegate, 1, parent)
 {
     setObjectName(QStringLiteral("CPU"));
     // The menu always shows one averaged graph, 400 points wide, in the user's colours.

@@ -36,7 +36,7 @@ private:
 
     ImageCpuBar imageCpuBar;
     ImageCpuBar imageCpuMenu;
-    QLabel* menuGraph_ = nullptr; // owned by the menu through its widget action
+    QLabel* menuGraph_ = nullptr;                    // owned by the menu through its widget action
     CPU_MenuController* cpuMenuController = nullptr; // likewise
     History<CpuSample> resumeArray;
     QImage barImage_;

@@ -2,6 +2,7 @@
 #include "modules/cpu/image_cpu_bar.h"
 
 #include "modules/cpu/cpu_theme_keys.h"
+#include "modules/picture_label.h"
 #include "prefs/pref_keys.h"
 #include "toolkit/circle_meter.h"
 #include "toolkit/cpu_graph.h"
@@ -22,7 +23,6 @@ namespace {
 enum ElementCode : qint64 { Graph = 1, LevelBar = 2, CycleMeter = 3, Text = 4 };
 
 constexpr double kLevelBarWidth = 7;
-constexpr double kLabelWidth = 12;
 
 std::array<double, 4> fractionsOf(const CpuRecord& record)
 {
@@ -64,12 +64,7 @@ double ImageCpuBar::drawRect(QPainter& painter) const
     const auto coreNum = static_cast<qsizetype>(newest.size()) - 1;
     double x = 0;
 
-    if (myDefaults.boolValue(Cpu_ShowMyLabel)) {
-        const ThemePicture label = myDefaults.picture(CpuThemeKey::L01);
-        const QSizeF size = label.size.isEmpty() ? label.image.deviceIndependentSize() : label.size;
-        drawImageUpright(painter, label.image, QRectF(QPointF(0, 0), size));
-        x += kLabelWidth;
-    }
+    x += drawModuleLabel(painter, myDefaults, Cpu_ShowMyLabel, CpuThemeKey::L01);
 
     const bool average = myDefaults.boolValue(Cpu_AverageMultiProcessors);
     const qsizetype first = average ? coreNum : 0;

@@ -3,6 +3,7 @@
 
 #include "modules/disk/disk_graph.h"
 #include "modules/disk/disk_theme_keys.h"
+#include "modules/picture_label.h"
 #include "modules/volume/storage_pictures.h"
 #include "prefs/pref_keys.h"
 #include "toolkit/circle_meter.h"
@@ -21,7 +22,6 @@ namespace {
 
 enum ElementCode : qint64 { Indicator = 1, Graph = 2, Text = 3 };
 
-constexpr double kLabelWidth = 12;
 constexpr double kLampSpacer = 1;
 
 } // namespace
@@ -52,15 +52,8 @@ double ImageDiskBar::drawRect(QPainter& painter) const
     if (myDefaults.isEmpty())
         return 0;
     double x = 0;
-    if (myDefaults.boolValue(Disk_ShowMyLabel)) {
-        const ThemePicture label = myDefaults.picture(DiskThemeKey::L04);
-        const QSizeF size = label.size.isEmpty() ? label.image.deviceIndependentSize() : label.size;
-        drawImageUpright(painter, label.image, QRectF(QPointF(0, 0), size));
-        x += kLabelWidth;
-    }
-    TextAttributes attributes;
-    attributes.shadow = retNormalTextShadow(myDefaults.color(DiskThemeKey::Z01));
-    attributes.font = menuFont(myDefaults.stringValue(_FontPostScriptName), 9 + myDefaults.doubleValue(_FontSizeDiff));
+    x += drawModuleLabel(painter, myDefaults, Disk_ShowMyLabel, DiskThemeKey::L04);
+    TextAttributes attributes = menuTextAttributes(myDefaults);
     for (const DiskBarSet& set : sets_)
         moduleForeach(painter, set, attributes, x);
     return x;

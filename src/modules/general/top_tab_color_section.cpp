@@ -7,8 +7,8 @@
 #include "toolkit/localization.h"
 
 #include <QFormLayout>
-#include <QGroupBox>
 #include <QGridLayout>
+#include <QGroupBox>
 #include <QLabel>
 
 namespace {
@@ -17,7 +17,8 @@ constexpr int kColumns = 2;
 
 } // namespace
 
-TopTabColorSection::TopTabColorSection(QWidget* parent) : QWidget(parent)
+TopTabColorSection::TopTabColorSection(QWidget* parent)
+    : QWidget(parent)
 {
     auto* layout = new QGridLayout(this);
     int slot = 0;
@@ -36,8 +37,8 @@ TopTabColorSection::TopTabColorSection(QWidget* parent) : QWidget(parent)
             wells_.insert(key, colorWell);
             owners_.insert(key, id);
             connect(colorWell, &ColorWell::colorChanged, this, [this, key](const QColor& color) {
-                Q_EMIT changeRequested({{QLatin1String(NotifKey::ChangeColorKey), key},
-                                        {QLatin1String(NotifKey::ChangeColorVal), color}});
+                Q_EMIT changeRequested(
+                    {{QLatin1String(NotifKey::ChangeColorKey), key}, {QLatin1String(NotifKey::ChangeColorVal), color}});
             });
         }
         layout->addWidget(group, slot / kColumns, slot % kColumns, Qt::AlignTop);
@@ -50,7 +51,8 @@ void TopTabColorSection::showColors(const AllModuleDefaults& all)
     for (auto it = wells_.cbegin(); it != wells_.cend(); ++it) {
         // Shared colours are resolved into every module's dictionary; the CPU one always exists.
         const ModuleId owner = owners_.value(it.key());
-        const ModuleDefaults& source = all[static_cast<std::size_t>(owner == ModuleId::General ? ModuleId::Cpu : owner)];
+        const ModuleDefaults& source =
+            all[static_cast<std::size_t>(owner == ModuleId::General ? ModuleId::Cpu : owner)];
         it.value()->setColor(source.color(it.key()));
     }
 }

@@ -40,9 +40,14 @@ QVariantMap fontChange()
 } // namespace
 
 TopTabThemeSection::TopTabThemeSection(QWidget* parent)
-    : QWidget(parent), themes_(new QComboBox(this)), detail_(new QLabel(this)),
-      save_(new QPushButton(localized("Save Theme..."), this)), families_(new QComboBox(this)),
-      styles_(new QComboBox(this)), adjust_(new QSpinBox(this)), sizeDiff_(new QSpinBox(this))
+    : QWidget(parent)
+    , themes_(new QComboBox(this))
+    , detail_(new QLabel(this))
+    , save_(new QPushButton(localized("Save Theme..."), this))
+    , families_(new QComboBox(this))
+    , styles_(new QComboBox(this))
+    , adjust_(new QSpinBox(this))
+    , sizeDiff_(new QSpinBox(this))
 {
     auto* form = new QFormLayout(this);
     auto* themeRow = new QHBoxLayout();
@@ -159,8 +164,8 @@ void TopTabThemeSection::saveTheme(const QVariantMap& theme)
 {
     const QString name = theme.value(QLatin1String(PrefKey::_Name)).toString();
     const QString proposed = TvlClasses::retThemeFilePath(QStringLiteral("%1 copy.plist").arg(name));
-    const QString path = QFileDialog::getSaveFileName(this, localized("Save Theme..."), proposed,
-                                                      QStringLiteral("*.plist"));
+    const QString path =
+        QFileDialog::getSaveFileName(this, localized("Save Theme..."), proposed, QStringLiteral("*.plist"));
     if (path.isEmpty())
         return;
     if (!TvlClasses::saveThemeFile(path, theme))

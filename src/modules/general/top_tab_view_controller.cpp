@@ -45,8 +45,11 @@ QGroupBox* group(const QString& title, QWidget* content, QWidget* parent)
 
 TopTabViewController::TopTabViewController(MenuModuleDelegate* delegate, SettingsStore& store,
                                            PrefNotificationCenter& center, QWidget* parent)
-    : PreferenceTab(ModuleId::General, store, center, parent), delegate_(delegate), modules_(new ElementOrderList()),
-      theme_(new TopTabThemeSection()), colors_(new TopTabColorSection())
+    : PreferenceTab(ModuleId::General, store, center, parent)
+    , delegate_(delegate)
+    , modules_(new ElementOrderList())
+    , theme_(new TopTabThemeSection())
+    , colors_(new TopTabColorSection())
 {
     auto* content = new QWidget();
     auto* layout = new QVBoxLayout(content);
@@ -166,10 +169,9 @@ void TopTabViewController::loadModuleEnabled()
         const auto id = moduleForSortCode(code.toLongLong());
         if (id)
             entries.append({code.toLongLong(),
-                            moduleHasStatusItem(*id)
-                                ? localized(moduleKeys(*id).prefName)
-                                : localized(moduleKeys(*id).prefName) + QStringLiteral("  ") +
-                                      localized("(not available on this system yet)"),
+                            moduleHasStatusItem(*id) ? localized(moduleKeys(*id).prefName)
+                                                     : localized(moduleKeys(*id).prefName) + QStringLiteral("  ") +
+                                                           localized("(not available on this system yet)"),
                             PrefFunctions::isModuleSwitchedOn(store(), *id)});
     }
     modules_->setEntries(entries);

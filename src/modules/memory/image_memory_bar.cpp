@@ -3,6 +3,7 @@
 
 #include "modules/memory/memory_graph.h"
 #include "modules/memory/memory_theme_keys.h"
+#include "modules/picture_label.h"
 #include "prefs/pref_keys.h"
 #include "toolkit/circle_meter.h"
 #include "toolkit/graph_color.h"
@@ -21,7 +22,6 @@ namespace {
 enum ElementCode : qint64 { Graph = 1, LevelBar = 2, CycleMeter = 3, Text = 4, DetailText = 5 };
 
 constexpr double kLevelBarWidth = 7;
-constexpr double kLabelWidth = 12;
 
 const char* headerOf(MemoryPart part, bool longLabel)
 {
@@ -57,9 +57,9 @@ const MemoryShare& shareOf(const MemoryBreakdown& parts, MemoryPart part)
 } // namespace
 
 ImageMemoryBar::ImageMemoryBar(std::size_t pageSize, std::int64_t totalPages)
-    : pageSize_(pageSize), totalPages_(totalPages)
-{
-}
+    : pageSize_(pageSize)
+    , totalPages_(totalPages)
+{}
 
 void ImageMemoryBar::setMemorySize(std::size_t pageSize, std::int64_t totalPages)
 {
@@ -93,12 +93,7 @@ double ImageMemoryBar::drawRect(QPainter& painter) const
     if (myDefaults.isEmpty() || resumeArray.empty())
         return 0;
     double x = 0;
-    if (myDefaults.boolValue(Memory_ShowMyLabel)) {
-        const ThemePicture label = myDefaults.picture(MemoryThemeKey::L02);
-        const QSizeF size = label.size.isEmpty() ? label.image.deviceIndependentSize() : label.size;
-        drawImageUpright(painter, label.image, QRectF(QPointF(0, 0), size));
-        x += kLabelWidth;
-    }
+    x += drawModuleLabel(painter, myDefaults, Memory_ShowMyLabel, MemoryThemeKey::L02);
 
     const MemoryBreakdown parts =
         memoryBreakdown(resumeArray.back(), totalPages_, myDefaults.boolValue(Memory_TradMemoryInfo));
@@ -107,9 +102,7 @@ double ImageMemoryBar::drawRect(QPainter& painter) const
         shares.push_back({memoryPartColor(myDefaults, parts.shares[s].part), parts.fraction(s)});
     const ColorShare frameColor{myDefaults.color(MemoryThemeKey::B06), {}};
 
-    TextAttributes attributes;
-    attributes.shadow = retNormalTextShadow(myDefaults.color(MemoryThemeKey::Z01));
-    attributes.font = menuFont(myDefaults.stringValue(_FontPostScriptName), 9 + myDefaults.doubleValue(_FontSizeDiff));
+    TextAttributes attributes = menuTextAttributes(myDefaults);
 
     const double innerHeight = mySize.height() - insets.top - insets.bottom;
     for (const qint64 code : myDefaults.intList(MemoryItemSortArray)) {
@@ -189,10 +182,9 @@ void ImageMemoryBar::drawText(QPainter& painter, TextAttributes& attributes, con
     const bool longLabel = myDefaults.boolValue(Memory_Text_WithLongLabel);
     const QRectF column(x, 0, widths_.text(), mySize.height());
     // The figure in use is headed in the colour of the memory pressure, as the graph shows it.
-    const QColor pressure = retGraphColor(memoryPressure(resumeArray.back(), totalPages_),
-                                          myDefaults.color(MemoryThemeKey::B08),
-                                          myDefaults.color(MemoryThemeKey::B09),
-                                          myDefaults.color(MemoryThemeKey::B10), true);
+    const QColor pressure =
+        retGraphColor(memoryPressure(resumeArray.back(), totalPages_), myDefaults.color(MemoryThemeKey::B08),
+                      myDefaults.color(MemoryThemeKey::B09), myDefaults.color(MemoryThemeKey::B10), true);
     drawLine(painter, attributes, column, 0, localized(longLabel ? "Used:" : "U:"), pressure, parts.inUse());
     drawLine(painter, attributes, column, 2, localized(longLabel ? "Free:" : "F:"),
              myDefaults.color(MemoryThemeKey::B07), shareOf(parts, MemoryPart::Free).pages);
@@ -203,12 +195,13 @@ void ImageMemoryBar::drawDetailText(QPainter& painter, TextAttributes& attribute
                                     double& x) const
 {
     const bool longLabel = myDefaults.boolValue(Memory_DetailText_WithLongLabel);
-    const std::array<MemoryPart, 4> shown = parts.traditional
-        ? std::array{MemoryPart::Wired, MemoryPart::Active, MemoryPart::Inactive, MemoryPart::Free}
-        : std::array{MemoryPart::Application, MemoryPart::Wired, MemoryPart::Cached, MemoryPart::Free};
-    const QRectF columns[] = {QRectF(x, 0, widths_.detailLeft, mySize.height()),
-                              QRectF(x + widths_.detailLeft + MemoryTextWidths::kColumnGap, 0, widths_.detailRight,
-                                     mySize.height())};
+    const std::array<MemoryPart, 4> shown =
+        parts.traditional
+            ? std::array{MemoryPart::Wired, MemoryPart::Active, MemoryPart::Inactive, MemoryPart::Free}
+            : std::array{MemoryPart::Application, MemoryPart::Wired, MemoryPart::Cached, MemoryPart::Free};
+    const QRectF columns[] = {
+        QRectF(x, 0, widths_.detailLeft, mySize.height()),
+        QRectF(x + widths_.detailLeft + MemoryTextWidths::kColumnGap, 0, widths_.detailRight, mySize.height())};
     for (std::size_t i = 0; i < shown.size(); ++i) {
         const MemoryPart part = shown[i];
         // Free's own colour is kept faint; its header is drawn like the figures.

@@ -29,9 +29,9 @@ MemoryTextWidths memoryTextWidths(const ModuleDefaults& d, std::int64_t totalByt
         samples << TvlClasses::calcMemorySize(kLargestMegabyteText, unit);
     double value = 0;
     for (const QString& sample : samples)
-        value = std::max(value,
-                         TvlClasses::calcMenuLabelSize(TvlClasses::retEightNumber(sample).value_or(QString()), size, font)
-                             .width());
+        value = std::max(
+            value,
+            TvlClasses::calcMenuLabelSize(TvlClasses::retEightNumber(sample).value_or(QString()), size, font).width());
 
     // One point between a header and its figure, so that the two never touch.
     const double shortHeader = d.doubleValue(MemoryInnerDetailLHeaderWidth) + 1;

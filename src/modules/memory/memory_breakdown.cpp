@@ -121,6 +121,6 @@ const char* memoryPartName(MemoryPart part)
 QString memoryBarText(const MemoryBreakdown& breakdown, std::size_t pageSize, int unit)
 {
     const auto bytes = [pageSize](std::int64_t pages) { return pages * static_cast<std::int64_t>(pageSize); };
-    return QStringLiteral("used ") + TvlClasses::calcMemorySize(bytes(breakdown.inUse()), unit)
-        + QStringLiteral("  free ") + TvlClasses::calcMemorySize(bytes(breakdown.shares.back().pages), unit);
+    return QStringLiteral("used ") + TvlClasses::calcMemorySize(bytes(breakdown.inUse()), unit) +
+           QStringLiteral("  free ") + TvlClasses::calcMemorySize(bytes(breakdown.shares.back().pages), unit);
 }

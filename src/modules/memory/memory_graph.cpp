@@ -22,7 +22,8 @@ double tvlDrawMemoryGraph(QPainter& painter, const History<MemorySample>& histor
                 const double h = std::min(parts.fraction(s) * height, height - filled);
                 if (h <= 0)
                     continue;
-                painter.fillRect(QRectF(x, frame.y() + filled, 1, h), TvlClasses::drawingColor(style.partColors[s], drawInWhite));
+                painter.fillRect(QRectF(x, frame.y() + filled, 1, h),
+                                 TvlClasses::drawingColor(style.partColors[s], drawInWhite));
                 filled += h;
             }
         } else if (parts.total > 0) {

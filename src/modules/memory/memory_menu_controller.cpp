@@ -15,7 +15,8 @@
 using namespace PrefKey;
 
 Memory_MenuController::Memory_MenuController(LoadSystemInformation& loadInfo, QWidget* parent)
-    : QWidget(parent), loadInfo_(loadInfo)
+    : QWidget(parent)
+    , loadInfo_(loadInfo)
 {
     pool_.setMaxThreadCount(1);
     auto* grid = new QGridLayout(this);
@@ -84,7 +85,8 @@ void Memory_MenuController::replaceData(double seconds, const ModuleDefaults& my
                                           myDefaults.boolValue(Memory_TradMemoryInfo), unit);
         for (std::size_t r = 0; r < rows.size() && r < kPartRows; ++r) {
             const MemoryPanelRow& line = rows[r];
-            swatches_[r]->setPixmap(line.swatch ? PanelLabels::swatch(memoryPartColor(myDefaults, line.part)) : QPixmap());
+            swatches_[r]->setPixmap(line.swatch ? PanelLabels::swatch(memoryPartColor(myDefaults, line.part))
+                                                : QPixmap());
             names_[r]->setText(localized(memoryPartName(line.part)));
             sizes_[r]->setText(line.size);
         }
@@ -107,7 +109,8 @@ void Memory_MenuController::replaceData(double seconds, const ModuleDefaults& my
     pool_.start([this, names = procDict_, unit] {
         const QStringList processes =
             loadInfo_.psGetProccessAsKv(QStringLiteral("rss"), names, kProcessRows, unit).value_or(QStringList());
-        QMetaObject::invokeMethod(this, [this, processes] { applyDetails(processes); }, Qt::QueuedConnection);
+        QMetaObject::invokeMethod(
+            this, [this, processes] { applyDetails(processes); }, Qt::QueuedConnection);
     });
 }
 

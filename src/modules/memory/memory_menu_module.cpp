@@ -12,7 +12,8 @@
 
 using namespace PrefKey;
 
-Memory_MenuModule::Memory_MenuModule(MenuModuleDelegate* delegate, QObject* parent) : MenuModule(delegate, 2, parent)
+Memory_MenuModule::Memory_MenuModule(MenuModuleDelegate* delegate, QObject* parent)
+    : MenuModule(delegate, 2, parent)
 {
     setObjectName(QStringLiteral("Memory"));
     // The menu always shows one graph, 400 points wide, in the user's view and colours.
@@ -141,7 +142,8 @@ void Memory_MenuModule::redrawStatusItem()
         menuGraph_->setPixmap(QPixmap::fromImage(drawMenuGraph(mnDefaultsTmp)));
     // The swap and process scans behind the panel run only while someone looks at it.
     if (memoryMenuController != nullptr && menuOpened()) {
-        const double seconds = arrivals_.secondsBetweenNewest(static_cast<double>(myDefaults.intValue(Memory_UpdateInterval)));
+        const double seconds =
+            arrivals_.secondsBetweenNewest(static_cast<double>(myDefaults.intValue(Memory_UpdateInterval)));
         memoryMenuController->replaceData(seconds, myDefaults, resumeArray, memoryPageSize_, memoryTotalPages_);
     }
 }

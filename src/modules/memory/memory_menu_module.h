@@ -50,7 +50,7 @@ private:
 
     ImageMemoryBar imageMemoryBar;
     ImageMemoryBar imageMemoryMenu;
-    QLabel* menuGraph_ = nullptr; // owned by the menu through its widget action
+    QLabel* menuGraph_ = nullptr;                          // owned by the menu through its widget action
     Memory_MenuController* memoryMenuController = nullptr; // likewise
     History<MemorySample> resumeArray;
     SampleArrivals arrivals_;

@@ -12,7 +12,8 @@ namespace {
 
 std::int64_t kiBToBytes(std::uint64_t kiB)
 {
-    return static_cast<std::int64_t>(std::min<std::uint64_t>(kiB, std::numeric_limits<std::int64_t>::max() / 1024)) * 1024;
+    return static_cast<std::int64_t>(std::min<std::uint64_t>(kiB, std::numeric_limits<std::int64_t>::max() / 1024)) *
+           1024;
 }
 
 } // namespace
@@ -37,9 +38,9 @@ std::vector<MemoryPanelRow> memoryPanelRows(const MemorySample& sample, std::int
     };
 
     std::vector<MemoryPanelRow> rows;
-    for (const MemoryPart part : {MemoryPart::Wired, MemoryPart::Active, MemoryPart::Inactive, MemoryPart::Free,
-                                  MemoryPart::Application, MemoryPart::Cached, MemoryPart::Compressed,
-                                  MemoryPart::Other}) {
+    for (const MemoryPart part :
+         {MemoryPart::Wired, MemoryPart::Active, MemoryPart::Inactive, MemoryPart::Free, MemoryPart::Application,
+          MemoryPart::Cached, MemoryPart::Compressed, MemoryPart::Other}) {
         const bool unknown = part == MemoryPart::Compressed && sample[MemoryCompressor] < 0;
         const std::int64_t bytes = unknown ? -1 : pagesOf(part) * static_cast<std::int64_t>(pageSize);
         rows.push_back({part, isShare(part), TvlClasses::calcMemorySize(bytes, unit)});
@@ -63,8 +64,8 @@ QString swapUsedText(const SwapUsage& usage, int unit)
 {
     if (usage.total <= 0)
         return QStringLiteral("---");
-    return localized("%1 of %2").arg(TvlClasses::calcMemorySize(usage.used, unit),
-                                     TvlClasses::calcMemorySize(usage.total, unit));
+    return localized("%1 of %2")
+        .arg(TvlClasses::calcMemorySize(usage.used, unit), TvlClasses::calcMemorySize(usage.total, unit));
 }
 
 QStringList swapAreaTexts(const std::vector<SwapArea>& areas, int unit)

@@ -27,8 +27,8 @@ MemoryTabViewController::MemoryTabViewController(MenuModuleDelegate* delegate, S
                           {3, Memory_Display_CircleMeter, "Cycle meter"},
                           {4, Memory_Display_Text, "Text"},
                           {5, Memory_Display_DetailText, "Detail text"}},
-                         MemoryItemSortArray, store, center, parent),
-      delegate_(delegate)
+                         MemoryItemSortArray, store, center, parent)
+    , delegate_(delegate)
 {
     auto* columns = new QHBoxLayout();
     columns->addWidget(buildElements());

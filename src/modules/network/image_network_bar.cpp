@@ -3,6 +3,7 @@
 
 #include "modules/network/network_graph.h"
 #include "modules/network/network_theme_keys.h"
+#include "modules/picture_label.h"
 #include "prefs/pref_keys.h"
 #include "toolkit/circle_meter.h"
 #include "toolkit/level_bar.h"
@@ -17,7 +18,6 @@ namespace {
 
 enum ElementCode : qint64 { UdLabel = 1, UdCircle = 2, Graph = 3, Text = 4 };
 
-constexpr double kLabelWidth = 12;
 // Between the middle of the bar and each lamp.
 constexpr double kLampSpacer = 1;
 
@@ -49,16 +49,9 @@ double ImageNetworkBar::drawRect(QPainter& painter) const
     if (myDefaults.isEmpty() || resumeArray.empty())
         return 0;
     double x = 0;
-    if (myDefaults.boolValue(Network_ShowMyLabel)) {
-        const ThemePicture label = myDefaults.picture(NetworkThemeKey::L03);
-        const QSizeF size = label.size.isEmpty() ? label.image.deviceIndependentSize() : label.size;
-        drawImageUpright(painter, label.image, QRectF(QPointF(0, 0), size));
-        x += kLabelWidth;
-    }
+    x += drawModuleLabel(painter, myDefaults, Network_ShowMyLabel, NetworkThemeKey::L03);
 
-    TextAttributes attributes;
-    attributes.shadow = retNormalTextShadow(myDefaults.color(NetworkThemeKey::Z01));
-    attributes.font = menuFont(myDefaults.stringValue(_FontPostScriptName), 9 + myDefaults.doubleValue(_FontSizeDiff));
+    TextAttributes attributes = menuTextAttributes(myDefaults);
     for (const qint64 code : myDefaults.intList(NetworkItemSortArray)) {
         switch (code) {
         case UdLabel:
@@ -128,8 +121,8 @@ void ImageNetworkBar::drawText(QPainter& painter, TextAttributes& attributes, do
     const QRectF frame(x, 0, width, mySize.height());
     const auto ajustPointY = static_cast<int>(myDefaults.intValue(_FontAdjust));
     const bool bits = networkRatesInBits(myDefaults);
-    tvlDrawString(painter, networkRateText(current_.up, bits), 0, 2, myDefaults.color(NetworkThemeKey::C01),
-                  attributes, frame, ajustPointY, drawInWhite);
+    tvlDrawString(painter, networkRateText(current_.up, bits), 0, 2, myDefaults.color(NetworkThemeKey::C01), attributes,
+                  frame, ajustPointY, drawInWhite);
     tvlDrawString(painter, networkRateText(current_.down, bits), 2, 2, myDefaults.color(NetworkThemeKey::C02),
                   attributes, frame, ajustPointY, drawInWhite);
     x += width + insets.spacing;

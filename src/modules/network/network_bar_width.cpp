@@ -10,8 +10,8 @@ using namespace PrefKey;
 int networkShownElementCount(const ModuleDefaults& d)
 {
     int shown = 0;
-    for (const char* key : {Network_Display_UdLabel, Network_Display_UdCircle, Network_Display_Graph,
-                            Network_Display_Text})
+    for (const char* key :
+         {Network_Display_UdLabel, Network_Display_UdCircle, Network_Display_Graph, Network_Display_Text})
         shown += d.boolValue(key) ? 1 : 0;
     return shown;
 }

@@ -8,7 +8,8 @@
 #include <QGridLayout>
 #include <QLabel>
 
-Network_Current::Network_Current(QWidget* parent) : QWidget(parent)
+Network_Current::Network_Current(QWidget* parent)
+    : QWidget(parent)
 {
     auto* grid = new QGridLayout(this);
     grid->setContentsMargins(14, 6, 14, 8);
@@ -49,7 +50,8 @@ void Network_Current::replaceData(double seconds, const ModuleDefaults& myDefaul
             QLabel* cell = cells_[row][column];
             cell->setText(*texts[row][column]);
             // The newest figures in the picture's colours, the rest as plain text.
-            if (row == 0 && colors[column].alpha() > 0 && cell->palette().color(QPalette::WindowText) != colors[column]) {
+            if (row == 0 && colors[column].alpha() > 0 &&
+                cell->palette().color(QPalette::WindowText) != colors[column]) {
                 QPalette palette = cell->palette();
                 palette.setColor(QPalette::WindowText, colors[column]);
                 cell->setPalette(palette);

@@ -47,7 +47,8 @@ std::optional<SettingsProgram> networkSettingsProgram()
 
 } // namespace
 
-Network_MenuModule::Network_MenuModule(MenuModuleDelegate* delegate, QObject* parent) : MenuModule(delegate, 3, parent)
+Network_MenuModule::Network_MenuModule(MenuModuleDelegate* delegate, QObject* parent)
+    : MenuModule(delegate, 3, parent)
 {
     setObjectName(QStringLiteral("Network"));
     pool_.setMaxThreadCount(1);
@@ -130,8 +131,8 @@ void Network_MenuModule::refreshBar()
     const double height = TvlClasses::retRootMenuHeight();
     const NetworkRates now = retNowUpDwBytes();
     imageNetworkBar.redrawWithSize(QSizeF(networkBarWidth(myDefaults), height),
-                                   TvlClasses::retStatusMenuInsets(networkShownElementCount(myDefaults)),
-                                   menuOpened(), true, myDefaults, resumeArray, now);
+                                   TvlClasses::retStatusMenuInsets(networkShownElementCount(myDefaults)), menuOpened(),
+                                   true, myDefaults, resumeArray, now);
     barImage_ = imageNetworkBar.image(pictureScale());
     showImage(barImage_);
     if (!resumeArray.empty())

@@ -23,14 +23,10 @@ NetworkPanelFigures networkPanelFigures(const History<NetworkSample>& history, d
     const auto perSecond = [](std::int64_t bytes, double over) {
         return over > 0 ? static_cast<double>(bytes) / over : 0.0;
     };
-    return {rate(perSecond(detail->nowUp, seconds), bits),
-            rate(perSecond(detail->nowDw, seconds), bits),
-            rate(static_cast<double>(detail->avgUp), bits),
-            rate(static_cast<double>(detail->avgDw), bits),
-            rate(perSecond(detail->maxUp, interval), bits),
-            rate(perSecond(detail->maxDw, interval), bits),
-            TvlClasses::calcMemorySize(detail->lstUp, 1),
-            TvlClasses::calcMemorySize(detail->lstDw, 1)};
+    return {rate(perSecond(detail->nowUp, seconds), bits),  rate(perSecond(detail->nowDw, seconds), bits),
+            rate(static_cast<double>(detail->avgUp), bits), rate(static_cast<double>(detail->avgDw), bits),
+            rate(perSecond(detail->maxUp, interval), bits), rate(perSecond(detail->maxDw, interval), bits),
+            TvlClasses::calcMemorySize(detail->lstUp, 1),   TvlClasses::calcMemorySize(detail->lstDw, 1)};
 }
 
 QString linkSpeedText(std::int64_t bitsPerSecond)
@@ -62,8 +58,8 @@ std::vector<NicRow> networkInterfaceRows(const NetworkBase& base, bool showAll,
             row.lines.append({localized("Type"), localized(entry.itf->type.toUtf8().constData())});
         if (entry.ip && entry.ip->ipv4) {
             const QString host = hostNames.value(*entry.ip->ipv4);
-            row.lines.append({localized("IPv4"), host.isEmpty() ? *entry.ip->ipv4
-                                                                : QStringLiteral("%1 (%2)").arg(*entry.ip->ipv4, host)});
+            row.lines.append({localized("IPv4"),
+                              host.isEmpty() ? *entry.ip->ipv4 : QStringLiteral("%1 (%2)").arg(*entry.ip->ipv4, host)});
         }
         if (entry.ip && entry.ip->ipv6)
             row.lines.append({localized("IPv6"), *entry.ip->ipv6});

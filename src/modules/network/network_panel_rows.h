@@ -29,7 +29,7 @@ NetworkPanelFigures networkPanelFigures(const History<NetworkSample>& history, d
 
 struct NicRow {
     std::string bsdName;
-    QString title;                         // "Intel I219-V (eth0)", or the bare name
+    QString title;                        // "Intel I219-V (eth0)", or the bare name
     QList<QPair<QString, QString>> lines; // localised title, value
 };
 

@@ -51,6 +51,6 @@ QString networkRateText(double bytesPerSecond, bool bits)
 
 QString networkBarText(const NetworkRates& rates, bool bits)
 {
-    return QStringLiteral("up ") + networkRateText(rates.up, bits) + QStringLiteral("  down ")
-        + networkRateText(rates.down, bits);
+    return QStringLiteral("up ") + networkRateText(rates.up, bits) + QStringLiteral("  down ") +
+           networkRateText(rates.down, bits);
 }

@@ -76,7 +76,7 @@ void NetworkTabViewController::noteDerivedChanges(const char* key, const QVarian
     double widest = 0;
     for (const QString& label : labels)
         widest = std::max(widest, TvlClasses::calcMenuLabelSize(label, 9 + d.doubleValue(_FontSizeDiff),
-                                                                 d.stringValue(_FontPostScriptName))
+                                                                d.stringValue(_FontPostScriptName))
                                       .width());
     changes.insert(QLatin1String(Network_UdLabel_ModeAry), labels);
     changes.insert(QLatin1String(NetworkInnerUdLabelWidth), static_cast<qint64>(std::floor(widest)));

@@ -1,6 +1,7 @@
 // Composing the Volume picture from bars, meters, graphs, sizes and percentages.
 #include "modules/volume/image_volume_bar.h"
 
+#include "modules/picture_label.h"
 #include "modules/volume/storage_pictures.h"
 #include "modules/volume/volume_theme_keys.h"
 #include "modules/volume/volume_usage.h"
@@ -20,8 +21,6 @@ using namespace TvlClasses;
 namespace {
 
 enum ElementCode : qint64 { BarChart = 1, CycleChart = 2, Graph = 3, Text = 4, Percent = 5 };
-
-constexpr double kLabelWidth = 12;
 
 } // namespace
 
@@ -54,15 +53,8 @@ double ImageVolumeBar::drawRect(QPainter& painter) const
     if (myDefaults.isEmpty())
         return 0;
     double x = 0;
-    if (myDefaults.boolValue(Vlms_ShowMyLabel)) {
-        const ThemePicture label = myDefaults.picture(VolumeThemeKey::L05);
-        const QSizeF size = label.size.isEmpty() ? label.image.deviceIndependentSize() : label.size;
-        drawImageUpright(painter, label.image, QRectF(QPointF(0, 0), size));
-        x += kLabelWidth;
-    }
-    TextAttributes attributes;
-    attributes.shadow = retNormalTextShadow(myDefaults.color(VolumeThemeKey::Z01));
-    attributes.font = menuFont(myDefaults.stringValue(_FontPostScriptName), 9 + myDefaults.doubleValue(_FontSizeDiff));
+    x += drawModuleLabel(painter, myDefaults, Vlms_ShowMyLabel, VolumeThemeKey::L05);
+    TextAttributes attributes = menuTextAttributes(myDefaults);
     // Before the first sample every volume reads empty.
     static const VolumeSample noSample;
     const VolumeSample& newest = resumeArray.empty() ? noSample : resumeArray.back();
