@@ -4,6 +4,7 @@
 #include "preferences/element_order_list.h"
 #include "preferences/picture_preview.h"
 #include "preferences/pref_slider_handlers.h"
+#include "prefs/pref_derived.h"
 #include "prefs/pref_keys.h"
 #include "prefs/settings_store.h"
 #include "toolkit/localization.h"
@@ -12,6 +13,7 @@
 #include <QComboBox>
 #include <QFormLayout>
 #include <QGroupBox>
+#include <QHBoxLayout>
 #include <QLabel>
 #include <QSlider>
 #include <QVBoxLayout>
@@ -153,15 +155,28 @@ QSlider* PictureSettingsTab::addSlider(QFormLayout* form, const char* key, Slide
 }
 
 QComboBox* PictureSettingsTab::addPopup(QFormLayout* form, const char* key, const char* text,
-                                        const QStringList& entries)
+                                        const QStringList& entries, qint64 firstValue)
 {
     auto* popup = new QComboBox();
     popup->setObjectName(QLatin1String(key));
     popup->addItems(entries);
     form->addRow(localized(text), popup);
-    popups_.emplace_back(key, popup);
-    connect(popup, &QComboBox::currentIndexChanged, this, [this, key](int index) { popupChanged(key, index); });
+    const PopupControl control{key, popup, firstValue};
+    popups_.push_back(control);
+    connect(popup, &QComboBox::currentIndexChanged, this, [this, control](int index) { popupChanged(control, index); });
     return popup;
+}
+
+void PictureSettingsTab::buildFrame(const char* previewName, QWidget* display, QWidget* menuItems)
+{
+    auto* columns = new QHBoxLayout();
+    columns->addWidget(buildElements());
+    columns->addWidget(display, 1);
+    auto* layout = new QVBoxLayout(this);
+    layout->addWidget(buildPreview(previewName));
+    layout->addLayout(columns);
+    layout->addWidget(menuItems);
+    layout->addStretch(1);
 }
 
 void PictureSettingsTab::loadControls()
@@ -192,28 +207,33 @@ void PictureSettingsTab::loadControls()
     }
     for (const auto& [key, box] : switches_)
         box->setChecked(d.boolValue(QLatin1String(key)));
-    for (const auto& [key, popup] : popups_) {
-        const qint64 stored = d.intValue(QLatin1String(key));
-        popup->setCurrentIndex(stored >= 1 && stored <= popup->count() ? static_cast<int>(stored - 1) : 0);
+    for (const PopupControl& control : popups_) {
+        const qint64 index = d.intValue(QLatin1String(control.key)) - control.firstValue;
+        control.popup->setCurrentIndex(index >= 0 && index < control.popup->count() ? static_cast<int>(index) : 0);
     }
 }
 
-ModuleDefaults PictureSettingsTab::previewDefaults() const
+ModuleDefaults PictureSettingsTab::previewDefaults()
 {
     ModuleDefaults defaults = myDefaults();
+    if (changes_.isEmpty())
+        return defaults;
     for (auto it = changes_.cbegin(); it != changes_.cend(); ++it)
         defaults.set(it.key(), it.value());
+    // The label lists and widths follow the changed choices; the theme's font is in the settings
+    // already, and the derived values read nothing else from the theme.
+    const QVariantMap font{
+        {QLatin1String(PrefKey::_FontPostScriptName), defaults.value(QLatin1String(PrefKey::_FontPostScriptName))},
+        {QLatin1String(PrefKey::_FontSizeDiff), defaults.value(QLatin1String(PrefKey::_FontSizeDiff))}};
+    addDerivedKeys(moduleId(), defaults, store(), font);
     return defaults;
 }
 
 void PictureSettingsTab::noteChange(const char* key, const QVariant& value)
 {
     changes_.insert(QLatin1String(key), value);
-    noteDerivedChanges(key, value, changes_);
     redrawPreview();
 }
-
-void PictureSettingsTab::noteDerivedChanges(const char*, const QVariant&, QVariantHash&) const {}
 
 void PictureSettingsTab::showPreview(const QImage& image)
 {
@@ -274,11 +294,12 @@ void PictureSettingsTab::sliderChanged(const SliderControl& control, int positio
     commit();
 }
 
-void PictureSettingsTab::popupChanged(const char* key, int index)
+void PictureSettingsTab::popupChanged(const PopupControl& control, int index)
 {
     if (loading() || index < 0)
         return;
-    store().setInteger(QLatin1String(key), index + 1);
-    noteChange(key, qint64{index} + 1);
+    const qint64 value = control.firstValue + index;
+    store().setInteger(QLatin1String(control.key), value);
+    noteChange(control.key, value);
     commit();
 }

@@ -21,6 +21,13 @@ class QSlider;
 class PictureSettingsTab : public PreferenceTab {
     Q_OBJECT
 public:
+    // The graph slider counts tens of points: 1 to 10 is a graph of 10 to 100 points.
+    static constexpr int kGraphSliderMin = 1;
+    static constexpr int kGraphSliderMax = 10;
+    // Seconds between two samples.
+    static constexpr int kIntervalSliderMin = 1;
+    static constexpr int kIntervalSliderMax = 60;
+
     // One element of the picture as the list shows it.
     struct Element {
         qint64 code;      // its number in the module's order array
@@ -52,22 +59,30 @@ protected:
     // The module's label switch, stored with the General settings as well.
     QCheckBox* addLabelSwitch(QFormLayout* form, const char* key, const char* text);
     QSlider* addSlider(QFormLayout* form, const char* key, SliderKind kind, int minimum, int maximum);
-    // Entry i stands for the stored value i + 1.
-    QComboBox* addPopup(QFormLayout* form, const char* key, const char* text, const QStringList& entries);
+    // Entry i stands for the stored value firstValue + i (most settings count from 1).
+    QComboBox* addPopup(QFormLayout* form, const char* key, const char* text, const QStringList& entries,
+                        qint64 firstValue = 1);
+    // The standard layout: the preview on top, the elements beside the display settings, the
+    // menu items below. Call once from the derived tab's constructor.
+    void buildFrame(const char* previewName, QWidget* display, QWidget* menuItems);
 
     // Fills every control made above from the settings; derived tabs call it from loadViews().
     void loadControls();
-    // The module's settings with this tab's unsaved-yet-unreturned changes laid over them, so
-    // the preview follows at once instead of after the round trip through the application.
-    ModuleDefaults previewDefaults() const;
+    // The module's settings with this tab's unsaved-yet-unreturned changes laid over them and
+    // the derived layout values (label lists and widths) worked out again, so the preview
+    // follows at once instead of after the round trip through the application.
+    ModuleDefaults previewDefaults();
     // Remembers a stored value until the application hands the reloaded settings back.
     void noteChange(const char* key, const QVariant& value);
-    // A change that is not stored but follows from one that is (a derived label, say).
-    virtual void noteDerivedChanges(const char* key, const QVariant& value, QVariantHash& changes) const;
     virtual void redrawPreview() = 0;
     void showPreview(const QImage& image);
 
 private:
+    struct PopupControl {
+        const char* key;
+        QComboBox* popup;
+        qint64 firstValue;
+    };
     struct SliderControl {
         const char* key;
         SliderKind kind;
@@ -78,14 +93,14 @@ private:
     void elementSwitched(qint64 code, bool on);
     void orderChanged(const QList<qint64>& order);
     void sliderChanged(const SliderControl& control, int position);
-    void popupChanged(const char* key, int index);
+    void popupChanged(const PopupControl& control, int index);
 
     QList<Element> elements_;
     const char* orderKey_;
     ElementOrderList* elementList_ = nullptr;
     PicturePreview* preview_ = nullptr;
     std::vector<std::pair<const char*, QCheckBox*>> switches_;
-    std::vector<std::pair<const char*, QComboBox*>> popups_;
+    std::vector<PopupControl> popups_;
     std::vector<SliderControl> sliders_;
     QVariantHash changes_;
 };

@@ -19,28 +19,17 @@ using namespace PrefKey;
 namespace {
 
 // The label pairs as "R: / W:", the hyphen pair as "None".
-StorageTab::Choices labelChoices()
+QStringList labelChoices()
 {
-    StorageTab::Choices choices;
-    qint64 value = 1;
-    for (const QStringList& pair : PlistFunction::retDiskReadWrite()) {
-        const bool none = pair.value(0) == QLatin1String("-");
-        choices.append({none ? localized("None") : pair.join(QStringLiteral(" / ")), value++});
-    }
-    return choices;
-}
-
-StorageTab::Choices listChoices(const QStringList& texts)
-{
-    StorageTab::Choices choices;
-    for (qsizetype i = 0; i < texts.size(); ++i)
-        choices.append({texts.at(i), i + 1});
+    QStringList choices;
+    for (const QStringList& pair : PlistFunction::retDiskReadWrite())
+        choices.append(pair.value(0) == QLatin1String("-") ? localized("None") : pair.join(QStringLiteral(" / ")));
     return choices;
 }
 
 } // namespace
 
-const QList<StorageTab::Element>& DiskTabViewController::elements()
+const QList<PictureSettingsTab::Element>& DiskTabViewController::elements()
 {
     static const QList<Element> list{{1, Disk_Display_Indicator, "Read/write lamps"},
                                      {2, Disk_Display_Graph, "Graph"},
@@ -49,10 +38,9 @@ const QList<StorageTab::Element>& DiskTabViewController::elements()
 }
 
 DiskTabViewController::DiskTabViewController(SettingsStore& store, PrefNotificationCenter& center, QWidget* parent)
-    : StorageTab(ModuleId::Disk, store, center, parent)
+    : PictureSettingsTab(ModuleId::Disk, elements(), DiskItemSortArray, store, center, parent)
 {
-    buildFrame(elements(), DiskItemSortArray, buildDisplay(),
-               buildMenuItems(Disk_EnaMenu_Amon, Disk_EnaMenu_Cnsl, Disk_EnaMenu_Tmnl));
+    buildFrame("DiskPreview", buildDisplay(), buildMenuItems(Disk_EnaMenu_Amon, Disk_EnaMenu_Cnsl, Disk_EnaMenu_Tmnl));
     redrawPreview();
 }
 
@@ -60,20 +48,20 @@ QWidget* DiskTabViewController::buildDisplay()
 {
     auto* box = new QGroupBox(localized("Display"), this);
     auto* form = new QFormLayout(box);
-    addGraphSlider(form, Disk_GraphWidth);
-    addIntervalSlider(form, Disk_UpdateInterval);
-    addChoice(form, Disk_Indicator_Label, "Lamp labels", labelChoices());
-    addChoice(form, Disk_Graph_Label, "Graph labels", labelChoices());
-    addChoice(form, Disk_Text_Label, "Text labels", labelChoices());
-    addChoice(form, Disk_Graph_Mode, "Graph style", listChoices(PlistFunction::retGeneralGraphKind()));
-    addChoice(form, Disk_Percent_Mode, "Graph scale",
-              {{localized("Relative to the busiest moment shown"), 1}, {localized("Logarithmic"), 2}});
+    addSlider(form, Disk_GraphWidth, SliderKind::GraphWidth, kGraphSliderMin, kGraphSliderMax);
+    addSlider(form, Disk_UpdateInterval, SliderKind::Interval, kIntervalSliderMin, kIntervalSliderMax);
+    addPopup(form, Disk_Indicator_Label, "Lamp labels", labelChoices());
+    addPopup(form, Disk_Graph_Label, "Graph labels", labelChoices());
+    addPopup(form, Disk_Text_Label, "Text labels", labelChoices());
+    addPopup(form, Disk_Graph_Mode, "Graph style", PlistFunction::retGeneralGraphKind());
+    addPopup(form, Disk_Percent_Mode, "Graph scale",
+             {localized("Relative to the busiest moment shown"), localized("Logarithmic")});
     QCheckBox* each = addSwitch(form, Disk_ShowEachDisk, "Show each disk");
     QCheckBox* icons = addSwitch(form, Disk_WithDiskIconInBackground, "Disk pictures behind each disk");
     // A picture stands for one disk, so it goes only behind per-disk sets.
     connect(each, &QCheckBox::toggled, icons, &QWidget::setEnabled);
     icons->setEnabled(each->isChecked());
-    addSwitch(form, Disk_ShowMyLabel, "Show the Disk label");
+    addLabelSwitch(form, Disk_ShowMyLabel, "Show the Disk label");
     return box;
 }
 
@@ -91,10 +79,14 @@ void DiskTabViewController::setDiskBaseDict(const DiskBaseDict& diskBaseDict)
     redrawPreview();
 }
 
+void DiskTabViewController::loadViews()
+{
+    loadControls();
+    redrawPreview();
+}
+
 void DiskTabViewController::redrawPreview()
 {
-    if (preview() == nullptr)
-        return;
     const ModuleDefaults defaults = previewDefaults();
     const std::vector<DiskBarSet> sets = diskBarSets(defaults, diskBaseDict_);
     const double height = TvlClasses::retRootMenuHeight();
@@ -102,5 +94,5 @@ void DiskTabViewController::redrawPreview()
     bar.redrawWithSize(QSizeF(diskBarWidth(defaults, sets.size()), height),
                        TvlClasses::retStatusMenuInsets(diskShownElementCount(defaults)), false, true, defaults,
                        history_, sets);
-    preview()->setImage(bar.image(devicePixelRatioF() * PicturePreview::zoom()));
+    showPreview(bar.image(devicePixelRatioF() * PicturePreview::zoom()));
 }

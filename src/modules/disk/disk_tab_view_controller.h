@@ -5,9 +5,9 @@
 #include "collect/disk_sample.h"
 #include "collect/history.h"
 #include "collect/storage_descriptions.h"
-#include "modules/disk/storage_tab.h"
+#include "modules/picture_settings_tab.h"
 
-class DiskTabViewController : public StorageTab {
+class DiskTabViewController : public PictureSettingsTab {
     Q_OBJECT
 public:
     DiskTabViewController(SettingsStore& store, PrefNotificationCenter& center, QWidget* parent = nullptr);
@@ -20,6 +20,7 @@ public:
     void setDiskBaseDict(const DiskBaseDict& diskBaseDict);
 
 protected:
+    void loadViews() override;
     void redrawPreview() override;
 
 private:

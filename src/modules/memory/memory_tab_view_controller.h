@@ -11,12 +11,6 @@ class MenuModuleDelegate;
 class MemoryTabViewController : public PictureSettingsTab {
     Q_OBJECT
 public:
-    // The graph slider counts tens of points.
-    static constexpr int kGraphSliderMin = 1;
-    static constexpr int kGraphSliderMax = 10;
-    static constexpr int kIntervalSliderMin = 1;
-    static constexpr int kIntervalSliderMax = 60;
-
     // The delegate lends the collector's page size and memory total for the preview; without
     // one the preview's parts add up to what the sample counts.
     MemoryTabViewController(MenuModuleDelegate* delegate, SettingsStore& store, PrefNotificationCenter& center,

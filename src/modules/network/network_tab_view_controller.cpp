@@ -67,21 +67,6 @@ void NetworkTabViewController::loadViews()
     redrawPreview();
 }
 
-void NetworkTabViewController::noteDerivedChanges(const char* key, const QVariant& value, QVariantHash& changes) const
-{
-    if (qstrcmp(key, Network_UdLabel_Mode) != 0)
-        return;
-    const QStringList labels = PlistFunction::labelForSetting(PlistFunction::retNetworkUdLabel(), value.toLongLong());
-    const ModuleDefaults& d = myDefaults();
-    double widest = 0;
-    for (const QString& label : labels)
-        widest = std::max(widest, TvlClasses::calcMenuLabelSize(label, 9 + d.doubleValue(_FontSizeDiff),
-                                                                d.stringValue(_FontPostScriptName))
-                                      .width());
-    changes.insert(QLatin1String(Network_UdLabel_ModeAry), labels);
-    changes.insert(QLatin1String(NetworkInnerUdLabelWidth), static_cast<qint64>(std::floor(widest)));
-}
-
 void NetworkTabViewController::setLiveHistory(const InfoDict& info)
 {
     if (!info.network.exists() || info.network.empty())

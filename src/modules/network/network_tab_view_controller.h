@@ -9,11 +9,6 @@
 class NetworkTabViewController : public PictureSettingsTab {
     Q_OBJECT
 public:
-    // The graph slider counts tens of points.
-    static constexpr int kGraphSliderMin = 1;
-    static constexpr int kGraphSliderMax = 10;
-    static constexpr int kIntervalSliderMin = 1;
-    static constexpr int kIntervalSliderMax = 60;
     // KB/s; 0 counts any traffic.
     static constexpr int kLimenSliderMin = 0;
     static constexpr int kLimenSliderMax = 100;
@@ -26,7 +21,6 @@ protected:
     void loadViews() override;
     void redrawPreview() override;
     // A new label pair brings its own width, as the settings loader would derive it.
-    void noteDerivedChanges(const char* key, const QVariant& value, QVariantHash& changes) const override;
 
 private:
     QWidget* buildDisplay();

@@ -18,30 +18,18 @@ using namespace PrefKey;
 
 namespace {
 
-// The label pairs as "U: / F:", the hyphen pair as "None". This setting counts from 0.
-StorageTab::Choices labelChoices()
+// The label pairs as "U: / F:", the hyphen pair as "None".
+QStringList labelChoices()
 {
-    StorageTab::Choices choices;
-    qint64 value = 0;
-    for (const QStringList& pair : PlistFunction::retVolumeUsedFree()) {
-        const bool none = pair.value(0) == QLatin1String("-");
-        choices.append({none ? localized("None") : pair.join(QStringLiteral(" / ")), value++});
-    }
-    return choices;
-}
-
-StorageTab::Choices percentChoices()
-{
-    StorageTab::Choices choices;
-    const QStringList kinds = PlistFunction::retVolumePercentKind();
-    for (qsizetype i = 0; i < kinds.size(); ++i)
-        choices.append({kinds.at(i), i + 1});
+    QStringList choices;
+    for (const QStringList& pair : PlistFunction::retVolumeUsedFree())
+        choices.append(pair.value(0) == QLatin1String("-") ? localized("None") : pair.join(QStringLiteral(" / ")));
     return choices;
 }
 
 } // namespace
 
-const QList<StorageTab::Element>& VolumeTabViewController::elements()
+const QList<PictureSettingsTab::Element>& VolumeTabViewController::elements()
 {
     static const QList<Element> list{{1, Vlms_Display_BarChart, "Bar chart"},
                                      {2, Vlms_Display_CycleChart, "Cycle chart"},
@@ -52,10 +40,10 @@ const QList<StorageTab::Element>& VolumeTabViewController::elements()
 }
 
 VolumeTabViewController::VolumeTabViewController(SettingsStore& store, PrefNotificationCenter& center, QWidget* parent)
-    : StorageTab(ModuleId::Volume, store, center, parent)
+    : PictureSettingsTab(ModuleId::Volume, elements(), VlmsItemSortArray, store, center, parent)
     , volumeBaseDict_(std::make_shared<const VolumeBaseDict>())
 {
-    buildFrame(elements(), VlmsItemSortArray, buildDisplay(),
+    buildFrame("VolumePreview", buildDisplay(),
                buildMenuItems(Volume_EnaMenu_Amon, Volume_EnaMenu_Cnsl, Volume_EnaMenu_Tmnl));
     redrawPreview();
 }
@@ -64,10 +52,11 @@ QWidget* VolumeTabViewController::buildDisplay()
 {
     auto* box = new QGroupBox(localized("Display"), this);
     auto* form = new QFormLayout(box);
-    addGraphSlider(form, Vlms_GraphWidth);
-    addIntervalSlider(form, Vlms_UpdateInterval);
-    addChoice(form, Vlms_Text_Label, "Text labels", labelChoices());
-    addChoice(form, Vlms_Percent_Mode, "Percentage", percentChoices());
+    addSlider(form, Vlms_GraphWidth, SliderKind::GraphWidth, kGraphSliderMin, kGraphSliderMax);
+    addSlider(form, Vlms_UpdateInterval, SliderKind::Interval, kIntervalSliderMin, kIntervalSliderMax);
+    // Unlike the other label settings, this one counts from 0.
+    addPopup(form, Vlms_Text_Label, "Text labels", labelChoices(), 0);
+    addPopup(form, Vlms_Percent_Mode, "Percentage", PlistFunction::retVolumePercentKind());
     QCheckBox* line = addSwitch(form, Vlms_GraphAsLine, "Draw the graph as a line");
     QCheckBox* bold = addSwitch(form, Vlms_LineAsBold, "Heavy line");
     connect(line, &QCheckBox::toggled, bold, &QWidget::setEnabled);
@@ -79,7 +68,7 @@ QWidget* VolumeTabViewController::buildDisplay()
     // A picture stands for one volume, so it goes only behind per-volume sets.
     connect(each, &QCheckBox::toggled, icons, &QWidget::setEnabled);
     icons->setEnabled(each->isChecked());
-    addSwitch(form, Vlms_ShowMyLabel, "Show the Volume label");
+    addLabelSwitch(form, Vlms_ShowMyLabel, "Show the Volume label");
     return box;
 }
 
@@ -98,10 +87,14 @@ void VolumeTabViewController::setVolumeBaseDict(std::shared_ptr<const VolumeBase
     redrawPreview();
 }
 
+void VolumeTabViewController::loadViews()
+{
+    loadControls();
+    redrawPreview();
+}
+
 void VolumeTabViewController::redrawPreview()
 {
-    if (preview() == nullptr)
-        return;
     const ModuleDefaults defaults = previewDefaults();
     const std::vector<VolumeBarSet> sets = volumeBarSets(defaults, *volumeBaseDict_);
     const double height = TvlClasses::retRootMenuHeight();
@@ -109,5 +102,5 @@ void VolumeTabViewController::redrawPreview()
     bar.redrawWithSize(QSizeF(volumeBarWidth(defaults, sets.size(), height), height),
                        TvlClasses::retStatusMenuInsets(volumeShownElementCount(defaults)), false, true, defaults,
                        history_, sets);
-    preview()->setImage(bar.image(devicePixelRatioF() * PicturePreview::zoom()));
+    showPreview(bar.image(devicePixelRatioF() * PicturePreview::zoom()));
 }

@@ -5,11 +5,11 @@
 #include "collect/disk_sample.h"
 #include "collect/history.h"
 #include "collect/storage_descriptions.h"
-#include "modules/disk/storage_tab.h"
+#include "modules/picture_settings_tab.h"
 
 #include <memory>
 
-class VolumeTabViewController : public StorageTab {
+class VolumeTabViewController : public PictureSettingsTab {
     Q_OBJECT
 public:
     VolumeTabViewController(SettingsStore& store, PrefNotificationCenter& center, QWidget* parent = nullptr);
@@ -22,6 +22,7 @@ public:
     void setVolumeBaseDict(std::shared_ptr<const VolumeBaseDict> volumeBaseDict);
 
 protected:
+    void loadViews() override;
     void redrawPreview() override;
 
 private:

@@ -48,7 +48,7 @@ template <class Tab> struct TabFixture {
 
 } // namespace
 
-TEST(StorageTabs, DiskControlsStoreTheirKeysAndPostTheDiskNotification)
+TEST(DiskVolumeTabs, DiskControlsStoreTheirKeysAndPostTheDiskNotification)
 {
     TabFixture<DiskTabViewController> f(ModuleId::Disk, diskPictureDefaults(true, true, false));
     ASSERT_TRUE(f.posts.empty()) << "showing the settings is no change";
@@ -86,7 +86,7 @@ TEST(StorageTabs, DiskControlsStoreTheirKeysAndPostTheDiskNotification)
     EXPECT_EQ(f.store.arrayForKey(DiskItemSortArray), (QVariantList{3, 1, 2}));
 }
 
-TEST(StorageTabs, VolumeLabelsCountFromZeroAndThePreviewFollowsAtOnce)
+TEST(DiskVolumeTabs, VolumeLabelsCountFromZeroAndThePreviewFollowsAtOnce)
 {
     const double height = TvlClasses::retRootMenuHeight();
     ModuleDefaults settings = volumePictureDefaults(8 | 16); // text and percentage
