@@ -57,6 +57,8 @@ void AppDelegate::drawModuleTabViewControllers()
         const QString label = id == ModuleId::General ? localized("Hello!") : localized(moduleKeys(id).prefName);
         preferencePanel_->addTab(tab, label);
     }
+    // The Disk and Volume previews draw one set per disk or volume, as the items do.
+    handOutStorageDescriptions();
     connect(preferencePanel_, &PreferencesWindow::tabSelected, this, [this](int index) {
         openedTabNum = index + 1;
         PreferenceTab* top = preferencePanel_->tab(0);
