@@ -40,20 +40,7 @@ std::array<double, 4> fractionsOf(const CpuRecord& record)
 void ImageCpuBar::redrawWithSize(QSizeF size, Insets newInsets, bool highLighted, bool emptyLine,
                                  const ModuleDefaults& defaults, const History<CpuSample>& history)
 {
-    mySize = size;
-    insets = newInsets;
-    isHighLighted = highLighted;
-    drawEmptyLine = emptyLine;
-    myDefaults = defaults;
-    resumeArray = history;
-}
-
-QImage ImageCpuBar::image(qreal devicePixelRatio) const
-{
-    PointCanvas canvas(mySize, devicePixelRatio);
-    if (canvas.isActive())
-        drawRect(canvas.painter());
-    return canvas.takeImage();
+    setFrame(size, newInsets, highLighted, emptyLine, defaults, history);
 }
 
 double ImageCpuBar::drawRect(QPainter& painter) const

@@ -30,21 +30,8 @@ void ImageDiskBar::redrawWithSize(QSizeF size, Insets newInsets, bool highLighte
                                   const ModuleDefaults& defaults, const History<DiskSample>& history,
                                   const std::vector<DiskBarSet>& sets)
 {
-    mySize = size;
-    insets = newInsets;
-    isHighLighted = highLighted;
-    drawEmptyLine = emptyLine;
-    myDefaults = defaults;
-    resumeArray = history;
+    setFrame(size, newInsets, highLighted, emptyLine, defaults, history);
     sets_ = sets;
-}
-
-QImage ImageDiskBar::image(qreal devicePixelRatio) const
-{
-    PointCanvas canvas(mySize, devicePixelRatio);
-    if (canvas.isActive())
-        drawRect(canvas.painter());
-    return canvas.takeImage();
 }
 
 double ImageDiskBar::drawRect(QPainter& painter) const

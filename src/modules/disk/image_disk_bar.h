@@ -1,6 +1,8 @@
 // The Disk status item's picture: the label, then per disk or combined the elements the user chose.
 #pragma once
 
+#include "modules/image_bar.h"
+
 #include "collect/disk_sample.h"
 #include "collect/history.h"
 #include "modules/disk/disk_bar_width.h"
@@ -15,7 +17,7 @@
 
 #include <vector>
 
-class ImageDiskBar {
+class ImageDiskBar : public ImageBar<DiskSample> {
 public:
     // Keeps its own copies of settings, history and sets, so the module may replace its own at
     // any time, and a picture can be drawn on another thread from what was last handed over.
@@ -23,14 +25,7 @@ public:
                         const ModuleDefaults& myDefaults, const History<DiskSample>& resumeArray,
                         const std::vector<DiskBarSet>& sets);
 
-    // Draws on a painter in points with y up (a TvlClasses::PointCanvas). Returns where the
-    // next element would start: the width rule must give this less the spacing plus 4.
-    double drawRect(QPainter& painter) const;
-
-    // The picture at devicePixelRatio pixels per point; a null image when the size is empty.
-    QImage image(qreal devicePixelRatio) const;
-
-    QSizeF size() const { return mySize; }
+    double drawRect(QPainter& painter) const override;
 
 private:
     void moduleForeach(QPainter& painter, const DiskBarSet& set, TvlClasses::TextAttributes& attributes,
@@ -44,13 +39,7 @@ private:
                       const char* widthKey, double x) const;
     void drawBackgroundIcon(QPainter& painter, const DiskBarSet& set, double x) const;
 
-    ModuleDefaults myDefaults;
-    History<DiskSample> resumeArray;
     std::vector<DiskBarSet> sets_;
-    bool isHighLighted = false;
-    bool drawEmptyLine = false;
-    QSizeF mySize;
-    TvlClasses::Insets insets;
     // Linux panels highlight an open item themselves, so the picture never turns white.
     static constexpr bool drawInWhite = false;
 };

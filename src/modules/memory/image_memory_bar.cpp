@@ -71,21 +71,8 @@ void ImageMemoryBar::redrawWithSize(QSizeF size, Insets newInsets, bool highLigh
                                     const ModuleDefaults& defaults, const History<MemorySample>& history,
                                     const MemoryTextWidths& widths)
 {
-    mySize = size;
-    insets = newInsets;
-    isHighLighted = highLighted;
-    drawEmptyLine = emptyLine;
-    myDefaults = defaults;
-    resumeArray = history;
+    setFrame(size, newInsets, highLighted, emptyLine, defaults, history);
     widths_ = widths;
-}
-
-QImage ImageMemoryBar::image(qreal devicePixelRatio) const
-{
-    PointCanvas canvas(mySize, devicePixelRatio);
-    if (canvas.isActive())
-        drawRect(canvas.painter());
-    return canvas.takeImage();
 }
 
 double ImageMemoryBar::drawRect(QPainter& painter) const

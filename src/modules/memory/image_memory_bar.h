@@ -1,6 +1,8 @@
 // The Memory status item's picture: the label, then the elements the user chose, in order.
 #pragma once
 
+#include "modules/image_bar.h"
+
 #include "collect/history.h"
 #include "collect/memory_sample.h"
 #include "modules/memory/memory_bar_width.h"
@@ -18,24 +20,17 @@
 
 // Element codes of MemoryItemSortArray: 1 graph, 2 level bar, 3 cycle meter, 4 text (in use
 // and free), 5 detail text (two columns of two parts of the chosen view).
-class ImageMemoryBar {
+class ImageMemoryBar : public ImageBar<MemorySample> {
 public:
     // pageSize turns the sample's pages into bytes; totalPages is the machine's memory.
     explicit ImageMemoryBar(std::size_t pageSize = 4096, std::int64_t totalPages = 0);
     void setMemorySize(std::size_t pageSize, std::int64_t totalPages);
 
-    // Keeps its own copies of settings and history, so the module may replace its own at any
-    // time, and a picture can be drawn on another thread from what was last handed over.
     void redrawWithSize(QSizeF size, TvlClasses::Insets insets, bool isHighLighted, bool drawEmptyLine,
                         const ModuleDefaults& myDefaults, const History<MemorySample>& resumeArray,
                         const MemoryTextWidths& widths);
 
-    // Draws on a painter in points with y up (a TvlClasses::PointCanvas). Returns where the
-    // next element would start: the width rule must give this less the spacing plus 4.
-    double drawRect(QPainter& painter) const;
-
-    // The picture at devicePixelRatio pixels per point; a null image when the size is empty.
-    QImage image(qreal devicePixelRatio) const;
+    double drawRect(QPainter& painter) const override;
 
 private:
     void drawGraph(QPainter& painter, double& x) const;
@@ -49,13 +44,7 @@ private:
 
     std::size_t pageSize_;
     std::int64_t totalPages_;
-    ModuleDefaults myDefaults;
-    History<MemorySample> resumeArray;
     MemoryTextWidths widths_;
-    bool isHighLighted = false;
-    bool drawEmptyLine = false;
-    QSizeF mySize;
-    TvlClasses::Insets insets;
     // Linux panels highlight an open item themselves; the picture keeps its colours.
     static constexpr bool drawInWhite = false;
 };

@@ -27,21 +27,8 @@ void ImageNetworkBar::redrawWithSize(QSizeF size, Insets newInsets, bool highLig
                                      const ModuleDefaults& defaults, const History<NetworkSample>& history,
                                      const NetworkRates& current)
 {
-    mySize = size;
-    insets = newInsets;
-    isHighLighted = highLighted;
-    drawEmptyLine = emptyLine;
-    myDefaults = defaults;
-    resumeArray = history;
+    setFrame(size, newInsets, highLighted, emptyLine, defaults, history);
     current_ = current;
-}
-
-QImage ImageNetworkBar::image(qreal devicePixelRatio) const
-{
-    PointCanvas canvas(mySize, devicePixelRatio);
-    if (canvas.isActive())
-        drawRect(canvas.painter());
-    return canvas.takeImage();
 }
 
 double ImageNetworkBar::drawRect(QPainter& painter) const

@@ -28,24 +28,11 @@ void ImageVolumeBar::redrawWithSize(QSizeF size, Insets newInsets, bool highLigh
                                     const ModuleDefaults& defaults, const History<VolumeSample>& history,
                                     const std::vector<VolumeBarSet>& sets)
 {
-    mySize = size;
-    insets = newInsets;
-    isHighLighted = highLighted;
-    drawEmptyLine = emptyLine;
-    myDefaults = defaults;
-    resumeArray = history;
+    setFrame(size, newInsets, highLighted, emptyLine, defaults, history);
     sets_ = sets;
     style_ = VolumeGraphStyle{defaults.boolValue(Vlms_GraphAsLine),   defaults.boolValue(Vlms_LineAsBold),
                               defaults.boolValue(Vlms_GradientColor), defaults.color(VolumeThemeKey::E01),
                               defaults.color(VolumeThemeKey::E02),    defaults.color(VolumeThemeKey::E03)};
-}
-
-QImage ImageVolumeBar::image(qreal devicePixelRatio) const
-{
-    PointCanvas canvas(mySize, devicePixelRatio);
-    if (canvas.isActive())
-        drawRect(canvas.painter());
-    return canvas.takeImage();
 }
 
 double ImageVolumeBar::drawRect(QPainter& painter) const

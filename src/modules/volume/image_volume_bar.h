@@ -1,6 +1,8 @@
 // The Volume status item's picture: the label, then per volume or combined the elements the user chose.
 #pragma once
 
+#include "modules/image_bar.h"
+
 #include "collect/disk_sample.h"
 #include "collect/history.h"
 #include "modules/volume/volume_bar_width.h"
@@ -15,7 +17,7 @@
 
 #include <vector>
 
-class ImageVolumeBar {
+class ImageVolumeBar : public ImageBar<VolumeSample> {
 public:
     // Keeps its own copies of settings, history and sets, so the module may replace its own at
     // any time, and a picture can be drawn on another thread from what was last handed over.
@@ -23,14 +25,7 @@ public:
                         const ModuleDefaults& myDefaults, const History<VolumeSample>& resumeArray,
                         const std::vector<VolumeBarSet>& sets);
 
-    // Draws on a painter in points with y up (a TvlClasses::PointCanvas). Returns where the
-    // next element would start: the width rule must give this less the spacing plus 4.
-    double drawRect(QPainter& painter) const;
-
-    // The picture at devicePixelRatio pixels per point; a null image when the size is empty.
-    QImage image(qreal devicePixelRatio) const;
-
-    QSizeF size() const { return mySize; }
+    double drawRect(QPainter& painter) const override;
 
 private:
     void moduleForeach(QPainter& painter, const VolumeBarSet& set, const VolumeUsage& usage,
@@ -41,14 +36,8 @@ private:
     void drawText(QPainter& painter, TvlClasses::TextAttributes& attributes, const VolumeUsage& usage, double& x) const;
     void drawBackgroundIcon(QPainter& painter, const VolumeBarSet& set, double x) const;
 
-    ModuleDefaults myDefaults;
-    History<VolumeSample> resumeArray;
     std::vector<VolumeBarSet> sets_;
     TvlClasses::VolumeGraphStyle style_;
-    bool isHighLighted = false;
-    bool drawEmptyLine = false;
-    QSizeF mySize;
-    TvlClasses::Insets insets;
     // Linux panels highlight an open item themselves, so the picture never turns white.
     static constexpr bool drawInWhite = false;
 };
