@@ -2,6 +2,7 @@
 // cycles, and leaves it after the unmount.
 #include "app/volume_tracker.h"
 #include "modules/volume/volume_menu_module.h"
+#include "mount_test_support.h"
 #include "prefs/pref_keys.h"
 #include "recording_status_bar.h"
 #include "test_app.h"
@@ -18,28 +19,6 @@
 
 using namespace PrefKey;
 
-namespace {
-
-bool run(const QString& program, const QStringList& arguments)
-{
-    QProcess process;
-    process.start(program, arguments);
-    return process.waitForFinished(30000) && process.exitStatus() == QProcess::NormalExit && process.exitCode() == 0;
-}
-
-// Waits for rebuilds until the condition holds; other mounts on the machine may come first.
-bool waitUntil(QSignalSpy& rebuilt, const std::function<bool()>& condition)
-{
-    QDeadlineTimer deadline(10000);
-    while (!condition()) {
-        if (deadline.hasExpired() || !rebuilt.wait(static_cast<int>(deadline.remainingTime())))
-            return condition();
-    }
-    return true;
-}
-
-} // namespace
-
 TEST(VolumeModuleEndToEnd, LoopMountShowsWithinTwoCyclesAndGoesAfterTheUnmount)
 {
     if (::geteuid() != 0)
@@ -49,9 +28,9 @@ TEST(VolumeModuleEndToEnd, LoopMountShowsWithinTwoCyclesAndGoesAfterTheUnmount)
     const QString image = t.dir.filePath(QStringLiteral("volume.img"));
     const QString mountPoint = t.dir.filePath(name);
     ASSERT_TRUE(QDir().mkpath(mountPoint));
-    if (!run(QStringLiteral("truncate"), {QStringLiteral("-s"), QStringLiteral("8M"), image}) ||
-        !run(QStringLiteral("mkfs.ext4"),
-             {QStringLiteral("-q"), QStringLiteral("-F"), QStringLiteral("-L"), name, image}))
+    if (!runTool(QStringLiteral("truncate"), {QStringLiteral("-s"), QStringLiteral("8M"), image}) ||
+        !runTool(QStringLiteral("mkfs.ext4"),
+                 {QStringLiteral("-q"), QStringLiteral("-F"), QStringLiteral("-L"), name, image}))
         GTEST_SKIP() << "cannot make an ext4 image";
 
     {
@@ -89,10 +68,10 @@ TEST(VolumeModuleEndToEnd, LoopMountShowsWithinTwoCyclesAndGoesAfterTheUnmount)
     QSignalSpy rebuilt(&app.volumeTracker(), &VolumeTracker::descriptionsChanged);
     volume->menuWillOpen();
 
-    if (!run(QStringLiteral("mount"), {QStringLiteral("-o"), QStringLiteral("loop"), image, mountPoint}))
+    if (!runTool(QStringLiteral("mount"), {QStringLiteral("-o"), QStringLiteral("loop"), image, mountPoint}))
         GTEST_SKIP() << "no loop device to mount the image on";
-    auto unmount = qScopeGuard([&] { run(QStringLiteral("umount"), {mountPoint}); });
-    ASSERT_TRUE(waitUntil(rebuilt, [&] { return volume->volumeBaseDict().contains(mountPoint); }));
+    auto unmount = qScopeGuard([&] { runTool(QStringLiteral("umount"), {mountPoint}); });
+    ASSERT_TRUE(waitForRebuilds(rebuilt, [&] { return volume->volumeBaseDict().contains(mountPoint); }));
     EXPECT_FALSE(volume->menuOpened()) << "the open menu no longer matched the volumes";
     EXPECT_TRUE(shows()) << "the item takes the new volume at once";
     EXPECT_TRUE(runCycles([&] { return shows() && !measured(); }))
@@ -100,8 +79,8 @@ TEST(VolumeModuleEndToEnd, LoopMountShowsWithinTwoCyclesAndGoesAfterTheUnmount)
     EXPECT_GT(bar.images.value(QStringLiteral("Volume")).width(), widthBefore);
 
     unmount.dismiss();
-    ASSERT_TRUE(run(QStringLiteral("umount"), {mountPoint}));
-    ASSERT_TRUE(waitUntil(rebuilt, [&] { return !volume->volumeBaseDict().contains(mountPoint); }));
+    ASSERT_TRUE(runTool(QStringLiteral("umount"), {mountPoint}));
+    ASSERT_TRUE(waitForRebuilds(rebuilt, [&] { return !volume->volumeBaseDict().contains(mountPoint); }));
     EXPECT_TRUE(runCycles([&] { return !shows(); })) << bar.texts.value(QStringLiteral("Volume")).toStdString();
     EXPECT_EQ(bar.images.value(QStringLiteral("Volume")).width(), widthBefore);
 }

@@ -1,6 +1,7 @@
 // The descriptions follow a real mount and unmount through the watch on the mount table.
 #include "app/volume_tracker.h"
 #include "collect/load_system_information.h"
+#include "mount_test_support.h"
 #include "prefs/pref_keys.h"
 
 #include <QDeadlineTimer>
@@ -14,28 +15,6 @@
 #include <gtest/gtest.h>
 #include <unistd.h>
 
-namespace {
-
-bool run(const QString& program, const QStringList& arguments)
-{
-    QProcess process;
-    process.start(program, arguments);
-    return process.waitForFinished(30000) && process.exitStatus() == QProcess::NormalExit && process.exitCode() == 0;
-}
-
-// Waits for rebuilds until the condition holds; other mounts on the machine may come first.
-bool waitUntil(QSignalSpy& rebuilt, const std::function<bool()>& condition)
-{
-    QDeadlineTimer deadline(10000);
-    while (!condition()) {
-        if (deadline.hasExpired() || !rebuilt.wait(static_cast<int>(deadline.remainingTime())))
-            return condition();
-    }
-    return true;
-}
-
-} // namespace
-
 TEST(VolumeTracker, LoopMountIsAddedAndRemovedAsTheTableChanges)
 {
     if (::geteuid() != 0)
@@ -45,8 +24,8 @@ TEST(VolumeTracker, LoopMountIsAddedAndRemovedAsTheTableChanges)
     const QString image = dir.filePath(QStringLiteral("volume.img"));
     const QString mountPoint = dir.filePath(QStringLiteral("mnt"));
     ASSERT_TRUE(QDir().mkpath(mountPoint));
-    if (!run(QStringLiteral("truncate"), {QStringLiteral("-s"), QStringLiteral("8M"), image}) ||
-        !run(QStringLiteral("mkfs.ext4"), {QStringLiteral("-q"), QStringLiteral("-F"), image}))
+    if (!runTool(QStringLiteral("truncate"), {QStringLiteral("-s"), QStringLiteral("8M"), image}) ||
+        !runTool(QStringLiteral("mkfs.ext4"), {QStringLiteral("-q"), QStringLiteral("-F"), image}))
         GTEST_SKIP() << "cannot make an ext4 image";
 
     LoadSystemInformation loadInfo(makeSourceSet("/"));
@@ -59,11 +38,11 @@ TEST(VolumeTracker, LoopMountIsAddedAndRemovedAsTheTableChanges)
     ASSERT_FALSE(tracker.volumeBaseDict().contains(mountPoint));
     QSignalSpy rebuilt(&tracker, &VolumeTracker::descriptionsChanged);
 
-    if (!run(QStringLiteral("mount"), {QStringLiteral("-o"), QStringLiteral("loop"), image, mountPoint}))
+    if (!runTool(QStringLiteral("mount"), {QStringLiteral("-o"), QStringLiteral("loop"), image, mountPoint}))
         GTEST_SKIP() << "no loop device to mount the image on";
-    auto unmount = qScopeGuard([&] { run(QStringLiteral("umount"), {mountPoint}); });
+    auto unmount = qScopeGuard([&] { runTool(QStringLiteral("umount"), {mountPoint}); });
 
-    ASSERT_TRUE(waitUntil(rebuilt, [&] { return tracker.volumeBaseDict().contains(mountPoint); }));
+    ASSERT_TRUE(waitForRebuilds(rebuilt, [&] { return tracker.volumeBaseDict().contains(mountPoint); }));
     const VolumeBaseEntry& volume = tracker.volumeBaseDict().at(mountPoint);
     EXPECT_EQ(volume.fileType, "ext4");
     EXPECT_TRUE(volume.bsdPath.startsWith("/dev/loop"));
@@ -73,6 +52,6 @@ TEST(VolumeTracker, LoopMountIsAddedAndRemovedAsTheTableChanges)
     EXPECT_GT(sample.volumes.at(mountPoint).free, 0);
 
     unmount.dismiss();
-    ASSERT_TRUE(run(QStringLiteral("umount"), {mountPoint}));
-    EXPECT_TRUE(waitUntil(rebuilt, [&] { return !tracker.volumeBaseDict().contains(mountPoint); }));
+    ASSERT_TRUE(runTool(QStringLiteral("umount"), {mountPoint}));
+    EXPECT_TRUE(waitForRebuilds(rebuilt, [&] { return !tracker.volumeBaseDict().contains(mountPoint); }));
 }
