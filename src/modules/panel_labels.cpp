@@ -4,6 +4,7 @@
 #include "toolkit/localization.h"
 
 #include <QFontDatabase>
+#include <QGridLayout>
 #include <QLabel>
 
 namespace PanelLabels {
@@ -30,6 +31,22 @@ QPixmap swatch(const QColor& color)
     QPixmap pixmap(10, 10);
     pixmap.fill(color);
     return pixmap;
+}
+
+QGridLayout* panelGrid(QWidget* panel, int horizontalSpacing)
+{
+    auto* grid = new QGridLayout(panel);
+    grid->setContentsMargins(14, 6, 14, 8);
+    grid->setHorizontalSpacing(horizontalSpacing);
+    return grid;
+}
+
+void clearGrid(QGridLayout* grid)
+{
+    while (QLayoutItem* item = grid->takeAt(0)) {
+        delete item->widget();
+        delete item;
+    }
 }
 
 } // namespace PanelLabels

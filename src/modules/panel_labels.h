@@ -5,6 +5,7 @@
 #include <QPixmap>
 #include <Qt>
 
+class QGridLayout;
 class QLabel;
 class QWidget;
 
@@ -16,5 +17,9 @@ QLabel* title(QWidget* parent, const char* key);
 QLabel* figure(QWidget* parent, Qt::Alignment alignment);
 // A 10 by 10 square of the colour.
 QPixmap swatch(const QColor& color);
+// The grid a panel lays its rows out on, with the margins every panel keeps inside the menu.
+QGridLayout* panelGrid(QWidget* panel, int horizontalSpacing);
+// Removes and deletes every row of the grid, for panels that are laid out again.
+void clearGrid(QGridLayout* grid);
 
 } // namespace PanelLabels

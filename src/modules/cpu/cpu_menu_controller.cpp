@@ -4,6 +4,7 @@
 #include "collect/load_system_information.h"
 #include "modules/cpu/cpu_panel_facts.h"
 #include "modules/cpu/cpu_panel_values.h"
+#include "modules/panel_labels.h"
 #include "prefs/pref_keys.h"
 #include "prefs/settings_store.h"
 #include "toolkit/localization.h"
@@ -63,12 +64,12 @@ QPixmap swatch(const QColor& color)
 } // namespace
 
 CPU_MenuController::CPU_MenuController(LoadSystemInformation& loadInfo, SettingsStore& defaults, QWidget* parent)
-    : QWidget(parent), loadInfo_(loadInfo), defaults_(defaults)
+    : QWidget(parent)
+    , loadInfo_(loadInfo)
+    , defaults_(defaults)
 {
     pool_.setMaxThreadCount(1);
-    auto* grid = new QGridLayout(this);
-    grid->setContentsMargins(14, 6, 14, 8);
-    grid->setHorizontalSpacing(8);
+    auto* grid = PanelLabels::panelGrid(this, 8);
     int row = 0;
     for (std::size_t s = 0; s < 4; ++s) {
         swatches_[s] = new QLabel(this);
@@ -130,8 +131,10 @@ void CPU_MenuController::loadBaseData(const ModuleDefaults& myDefaults)
     // No vendor picture service here: the theme's processor picture stands for the machine.
     const ThemePicture picture = myDefaults.picture(QStringLiteral("L01"));
     if (!picture.image.isNull())
-        machinImage->setPixmap(QPixmap::fromImage(picture.image).scaledToHeight(
-            static_cast<int>(picture.size.height()) * machinImage->devicePixelRatioF(), Qt::SmoothTransformation));
+        machinImage->setPixmap(
+            QPixmap::fromImage(picture.image)
+                .scaledToHeight(static_cast<int>(picture.size.height()) * machinImage->devicePixelRatioF(),
+                                Qt::SmoothTransformation));
 
     cpuKindLabel->setText(cpuKindText(loadInfo_));
     const QStringList gpus = gpuRowTexts(loadInfo_);
@@ -166,8 +169,8 @@ void CPU_MenuController::replaceData(qint64, const ModuleDefaults& myDefaults, c
         const QStringList options = loadInfo_.cpuGetOptionData();
         const QStringList processes =
             loadInfo_.psGetProccessAsKv(QStringLiteral("%cpu"), names, 10, -1).value_or(QStringList());
-        QMetaObject::invokeMethod(this, [this, options, processes] { applyDetails(options, processes); },
-                                  Qt::QueuedConnection);
+        QMetaObject::invokeMethod(
+            this, [this, options, processes] { applyDetails(options, processes); }, Qt::QueuedConnection);
     });
 }
 

@@ -2,10 +2,10 @@
 #include "modules/disk/disk_menu_controller.h"
 
 #include "modules/disk/disk_menu_rows.h"
+#include "modules/panel_labels.h"
 #include "modules/volume/storage_pictures.h"
 #include "toolkit/localization.h"
 
-#include <QFontDatabase>
 #include <QGridLayout>
 #include <QLabel>
 #include <QPixmap>
@@ -26,34 +26,19 @@ QLabel* pictureLabel(QWidget* parent, const ThemePicture& picture)
     return label;
 }
 
-// Figures in fixed-width digits, so they do not jitter as they change.
-QLabel* figureLabel(QWidget* parent)
-{
-    auto* label = new QLabel(parent);
-    QFont font = QFontDatabase::systemFont(QFontDatabase::FixedFont);
-    font.setPointSizeF(parent->font().pointSizeF());
-    label->setFont(font);
-    return label;
-}
-
 } // namespace
 
 Disk_MenuController::Disk_MenuController(QWidget* parent)
     : QWidget(parent)
 {
-    grid_ = new QGridLayout(this);
-    grid_->setContentsMargins(14, 6, 14, 8);
-    grid_->setHorizontalSpacing(8);
+    grid_ = PanelLabels::panelGrid(this, 8);
     grid_->setVerticalSpacing(2);
     grid_->setColumnStretch(1, 1);
 }
 
 void Disk_MenuController::loadBaseData(const ModuleDefaults& myDefaults, const DiskBaseDict& diskBaseDict)
 {
-    while (QLayoutItem* item = grid_->takeAt(0)) {
-        delete item->widget();
-        delete item;
-    }
+    PanelLabels::clearGrid(grid_);
     rows_.clear();
     int line = 0;
     if (diskBaseDict.empty()) {
@@ -70,8 +55,8 @@ void Disk_MenuController::loadBaseData(const ModuleDefaults& myDefaults, const D
         row.title->setFont(bold);
         row.facts = new QLabel(diskFactsText(disk), this);
         row.facts->setForegroundRole(QPalette::PlaceholderText);
-        row.rates = figureLabel(this);
-        row.totals = figureLabel(this);
+        row.rates = PanelLabels::figure(this, Qt::AlignLeft);
+        row.totals = PanelLabels::figure(this, Qt::AlignLeft);
         row.totals->setForegroundRole(QPalette::PlaceholderText);
         for (QLabel* label : {row.title, row.facts, row.rates, row.totals})
             grid_->addWidget(label, line++, 1);

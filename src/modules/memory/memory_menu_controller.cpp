@@ -19,9 +19,7 @@ Memory_MenuController::Memory_MenuController(LoadSystemInformation& loadInfo, QW
     , loadInfo_(loadInfo)
 {
     pool_.setMaxThreadCount(1);
-    auto* grid = new QGridLayout(this);
-    grid->setContentsMargins(14, 6, 14, 8);
-    grid->setHorizontalSpacing(8);
+    auto* grid = PanelLabels::panelGrid(this, 8);
     int row = 0;
     for (std::size_t r = 0; r < kPartRows; ++r) {
         swatches_[r] = new QLabel(this);

@@ -11,9 +11,7 @@
 Network_Current::Network_Current(QWidget* parent)
     : QWidget(parent)
 {
-    auto* grid = new QGridLayout(this);
-    grid->setContentsMargins(14, 6, 14, 8);
-    grid->setHorizontalSpacing(12);
+    auto* grid = PanelLabels::panelGrid(this, 12);
     grid->addWidget(PanelLabels::title(this, "Upload"), 0, 1, Qt::AlignRight);
     grid->addWidget(PanelLabels::title(this, "Download"), 0, 2, Qt::AlignRight);
     const char* titles[] = {"Now", "Average", "Peak", "Since Boot"};

@@ -1,6 +1,7 @@
 // Lays out the Volume panel; the descriptions are fixed per menu, the space follows each tick.
 #include "modules/volume/volume_menu_controller.h"
 
+#include "modules/panel_labels.h"
 #include "modules/volume/storage_pictures.h"
 #include "modules/volume/volume_menu_rows.h"
 #include "toolkit/localization.h"
@@ -36,19 +37,14 @@ QLabel* pictureLabel(QWidget* parent, const ThemePicture& picture)
 Volume_MenuController::Volume_MenuController(QWidget* parent)
     : QWidget(parent)
 {
-    grid_ = new QGridLayout(this);
-    grid_->setContentsMargins(14, 6, 14, 8);
-    grid_->setHorizontalSpacing(8);
+    grid_ = PanelLabels::panelGrid(this, 8);
     grid_->setVerticalSpacing(2);
     grid_->setColumnStretch(1, 1);
 }
 
 void Volume_MenuController::loadBaseData(const ModuleDefaults& myDefaults, const VolumeBaseDict& volumeBaseDict)
 {
-    while (QLayoutItem* item = grid_->takeAt(0)) {
-        delete item->widget();
-        delete item;
-    }
+    PanelLabels::clearGrid(grid_);
     rows_.clear();
     int line = 0;
     if (volumeBaseDict.empty()) {
