@@ -61,6 +61,9 @@ public:
     const QImage& shownImage() const { return shownImage_; }
     StatusItem* item() const { return statusItem.get(); }
 
+    // The graph the open menu shows, drawn now; a null image for a module whose menu has none.
+    QImage menuGraphImage() { return drawMenuGraph(withMenuLayout()); }
+
     // Closes an open menu whose rows no longer match what they describe (disks, volumes).
     void menuAutoClose();
 
@@ -75,6 +78,12 @@ protected:
     virtual void redrawStatusItem() {}
     // Extra work when the menu opens, before its contents are redrawn.
     virtual void prepareMenuOpening() {}
+    // The in-menu graph with the given settings.
+    virtual QImage drawMenuGraph(const ModuleDefaults& defaults)
+    {
+        Q_UNUSED(defaults)
+        return {};
+    }
 
     void openTab();
     qreal pictureScale() const;

@@ -72,14 +72,12 @@ void CPU_MenuModule::refreshBar()
     const double width = cpuBarWidth(myDefaults, cores, height);
     imageCpuBar.redrawWithSize(QSizeF(width, height), TvlClasses::retStatusMenuInsets(cpuShownElementCount(myDefaults)),
                                menuOpened(), true, myDefaults, resumeArray);
-    barImage_ = imageCpuBar.image(pictureScale());
-    showImage(barImage_);
+    showImage(imageCpuBar.image(pictureScale()));
     statusItem->setText(cpuUsageText(resumeArray.back().back()));
 }
 
 void CPU_MenuModule::prepareMenuOpening()
 {
-    mnDefaultsTmp = withMenuLayout();
     // Machine facts and application names are only looked up for a menu that is shown.
     if (cpuMenuController != nullptr) {
         cpuMenuController->loadBaseData(myDefaults);
@@ -92,11 +90,6 @@ QImage CPU_MenuModule::drawMenuGraph(const ModuleDefaults& defaults)
     imageCpuMenu.redrawWithSize(QSizeF(static_cast<double>(mnDefaults.intValue(Cpu_GraphWidth)), kMenuGraphHeight),
                                 TvlClasses::retMenuPullDownInsets(), false, true, defaults, resumeArray);
     return imageCpuMenu.image(pictureScale());
-}
-
-QImage CPU_MenuModule::menuGraphImage()
-{
-    return drawMenuGraph(withMenuLayout());
 }
 
 void CPU_MenuModule::redrawStatusItem()

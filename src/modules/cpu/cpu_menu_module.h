@@ -18,9 +18,6 @@ public:
     void setResumeArray(const History<CpuSample>& history) { resumeArray = history; }
     void refreshBar() override;
 
-    // The picture last given to the status item, and the graph the open menu shows.
-    const QImage& barImage() const { return barImage_; }
-    QImage menuGraphImage();
     // The detail panel under the graph; none before the menu is built.
     CPU_MenuController* controller() const { return cpuMenuController; }
 
@@ -32,12 +29,11 @@ protected:
 private:
     static constexpr double kMenuGraphHeight = 20;
 
-    QImage drawMenuGraph(const ModuleDefaults& defaults);
+    QImage drawMenuGraph(const ModuleDefaults& defaults) override;
 
     ImageCpuBar imageCpuBar;
     ImageCpuBar imageCpuMenu;
     QLabel* menuGraph_ = nullptr;                    // owned by the menu through its widget action
     CPU_MenuController* cpuMenuController = nullptr; // likewise
     History<CpuSample> resumeArray;
-    QImage barImage_;
 };

@@ -99,8 +99,7 @@ void Disk_MenuModule::refreshBar()
     imageDiskBar.redrawWithSize(QSizeF(width, height),
                                 TvlClasses::retStatusMenuInsets(diskShownElementCount(myDefaults)), menuOpened(), true,
                                 myDefaults, resumeArray, sets);
-    barImage_ = imageDiskBar.image(pictureScale());
-    showImage(barImage_);
+    showImage(imageDiskBar.image(pictureScale()));
     statusItem->setText(diskBarText(sets, diskBaseDict_, resumeArray));
 }
 
@@ -109,22 +108,12 @@ void Disk_MenuModule::resetAndRefreshBar()
     refreshBar();
 }
 
-void Disk_MenuModule::prepareMenuOpening()
-{
-    mnDefaultsTmp = withMenuLayout();
-}
-
 QImage Disk_MenuModule::drawMenuGraph(const ModuleDefaults& defaults)
 {
     imageDiskMenu.redrawWithSize(QSizeF(static_cast<double>(kMenuGraphWidth), kMenuGraphHeight),
                                  TvlClasses::retMenuPullDownInsets(), false, true, defaults, resumeArray,
                                  diskBarSets(defaults, {}));
     return imageDiskMenu.image(pictureScale());
-}
-
-QImage Disk_MenuModule::menuGraphImage()
-{
-    return drawMenuGraph(withMenuLayout());
 }
 
 void Disk_MenuModule::redrawStatusItem()

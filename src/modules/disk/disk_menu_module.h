@@ -27,21 +27,17 @@ public:
     // Draws again from the disks now described (after a mount or an unmount).
     void resetAndRefreshBar();
 
-    // The picture last given to the status item, and the graph the open menu shows.
-    const QImage& barImage() const { return barImage_; }
-    QImage menuGraphImage();
     // The panel of disk blocks; none before the menu is built.
     Disk_MenuController* controller() const { return diskMenuController; }
 
 protected:
     void drawBaseStatusBar() override;
     void redrawStatusItem() override;
-    void prepareMenuOpening() override;
 
 private:
     static constexpr double kMenuGraphHeight = 20;
 
-    QImage drawMenuGraph(const ModuleDefaults& defaults);
+    QImage drawMenuGraph(const ModuleDefaults& defaults) override;
 
     ImageDiskBar imageDiskBar;
     ImageDiskBar imageDiskMenu;
@@ -49,5 +45,4 @@ private:
     Disk_MenuController* diskMenuController = nullptr; // likewise
     History<DiskSample> resumeArray;
     DiskBaseDict diskBaseDict_;
-    QImage barImage_;
 };

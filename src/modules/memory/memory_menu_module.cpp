@@ -105,8 +105,7 @@ void Memory_MenuModule::refreshBar()
     imageMemoryBar.redrawWithSize(QSizeF(memoryBarWidth(myDefaults, widths, height), height),
                                   TvlClasses::retStatusMenuInsets(memoryShownElementCount(myDefaults)), menuOpened(),
                                   true, myDefaults, resumeArray, widths);
-    barImage_ = imageMemoryBar.image(pictureScale());
-    showImage(barImage_);
+    showImage(imageMemoryBar.image(pictureScale()));
     if (!resumeArray.empty()) {
         const MemoryBreakdown parts =
             memoryBreakdown(resumeArray.back(), memoryTotalPages_, myDefaults.boolValue(Memory_TradMemoryInfo));
@@ -116,7 +115,6 @@ void Memory_MenuModule::refreshBar()
 
 void Memory_MenuModule::prepareMenuOpening()
 {
-    mnDefaultsTmp = withMenuLayout();
     // Application names are only looked up for a menu that is shown.
     if (memoryMenuController != nullptr)
         memoryMenuController->reloadProcDict();
@@ -129,11 +127,6 @@ QImage Memory_MenuModule::drawMenuGraph(const ModuleDefaults& defaults)
         QSizeF(static_cast<double>(mnDefaults.intValue(Memory_GraphWidth)), kMenuGraphHeight),
         TvlClasses::retMenuPullDownInsets(), false, true, defaults, resumeArray, widths_);
     return imageMemoryMenu.image(pictureScale());
-}
-
-QImage Memory_MenuModule::menuGraphImage()
-{
-    return drawMenuGraph(withMenuLayout());
 }
 
 void Memory_MenuModule::redrawStatusItem()

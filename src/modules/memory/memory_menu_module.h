@@ -30,8 +30,6 @@ public:
     void setMemorySize(std::size_t pageSize, std::int64_t totalPages);
     void refreshBar() override;
 
-    const QImage& barImage() const { return barImage_; }
-    QImage menuGraphImage();
     // The detail panel under the graph; none before the menu is built.
     Memory_MenuController* controller() const { return memoryMenuController; }
 
@@ -46,7 +44,7 @@ private:
     void takeMemorySize();
     // Measures text only when the font, the labels, the unit or the memory size changed.
     const MemoryTextWidths& textWidths();
-    QImage drawMenuGraph(const ModuleDefaults& defaults);
+    QImage drawMenuGraph(const ModuleDefaults& defaults) override;
 
     ImageMemoryBar imageMemoryBar;
     ImageMemoryBar imageMemoryMenu;
@@ -69,5 +67,4 @@ private:
     };
     WidthInputs widthInputs_;
     MemoryTextWidths widths_;
-    QImage barImage_;
 };

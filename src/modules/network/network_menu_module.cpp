@@ -133,15 +133,13 @@ void Network_MenuModule::refreshBar()
     imageNetworkBar.redrawWithSize(QSizeF(networkBarWidth(myDefaults), height),
                                    TvlClasses::retStatusMenuInsets(networkShownElementCount(myDefaults)), menuOpened(),
                                    true, myDefaults, resumeArray, now);
-    barImage_ = imageNetworkBar.image(pictureScale());
-    showImage(barImage_);
+    showImage(imageNetworkBar.image(pictureScale()));
     if (!resumeArray.empty())
         statusItem->setText(networkBarText(now, networkRatesInBits(myDefaults)));
 }
 
 void Network_MenuModule::prepareMenuOpening()
 {
-    mnDefaultsTmp = withMenuLayout();
     if (myDelegate != nullptr)
         networkBaseDict = myDelegate->collector().networkBaseDict();
     lookUpNames();
@@ -153,11 +151,6 @@ QImage Network_MenuModule::drawMenuGraph(const ModuleDefaults& defaults)
         QSizeF(static_cast<double>(mnDefaults.intValue(Network_GraphWidth)), kMenuGraphHeight),
         TvlClasses::retMenuPullDownInsets(), false, true, defaults, resumeArray, retNowUpDwBytes());
     return imageNetworkMenu.image(pictureScale());
-}
-
-QImage Network_MenuModule::menuGraphImage()
-{
-    return drawMenuGraph(withMenuLayout());
 }
 
 void Network_MenuModule::redrawStatusItem()

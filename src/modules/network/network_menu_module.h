@@ -38,8 +38,6 @@ public:
     void setNetworkBaseDict(std::shared_ptr<const NetworkBase> base);
     void refreshBar() override;
 
-    const QImage& barImage() const { return barImage_; }
-    QImage menuGraphImage();
     // The rates the picture shows now, bytes per second.
     NetworkRates retNowUpDwBytes() const;
     Network_Current* currentView() const { return networkCurrent; }
@@ -60,7 +58,7 @@ private:
 
     // Seconds the newest sample covers.
     double retNowInterval() const;
-    QImage drawMenuGraph(const ModuleDefaults& defaults);
+    QImage drawMenuGraph(const ModuleDefaults& defaults) override;
     void removeNicMenus();
     void addtionalNicMenus();
     void lookUpNames();
@@ -77,7 +75,6 @@ private:
     std::shared_ptr<const NetworkBase> listedBase_;
     QHash<QString, QString> hostNames_;
     bool lookUpInFlight_ = false;
-    QImage barImage_;
     // Last member: its destructor waits for look-ups that use the members above.
     QThreadPool pool_;
 };

@@ -143,8 +143,7 @@ void Volume_MenuModule::refreshBar()
     imageVolumeBar.redrawWithSize(QSizeF(width, height),
                                   TvlClasses::retStatusMenuInsets(volumeShownElementCount(myDefaults)), menuOpened(),
                                   true, myDefaults, resumeArray, sets);
-    barImage_ = imageVolumeBar.image(pictureScale());
-    showImage(barImage_);
+    showImage(imageVolumeBar.image(pictureScale()));
     statusItem->setText(
         volumeBarText(sets, *volumeBaseDict_, resumeArray, volumePercentKind(myDefaults.intValue(Vlms_Percent_Mode))));
 }
@@ -154,22 +153,12 @@ void Volume_MenuModule::resetAndRefreshBar()
     refreshBar();
 }
 
-void Volume_MenuModule::prepareMenuOpening()
-{
-    mnDefaultsTmp = withMenuLayout();
-}
-
 QImage Volume_MenuModule::drawMenuGraph(const ModuleDefaults& defaults)
 {
     imageVolumeMenu.redrawWithSize(QSizeF(static_cast<double>(kMenuGraphWidth), kMenuGraphHeight),
                                    TvlClasses::retMenuPullDownInsets(), false, true, defaults, resumeArray,
                                    volumeBarSets(defaults, {}));
     return imageVolumeMenu.image(pictureScale());
-}
-
-QImage Volume_MenuModule::menuGraphImage()
-{
-    return drawMenuGraph(withMenuLayout());
 }
 
 void Volume_MenuModule::redrawStatusItem()

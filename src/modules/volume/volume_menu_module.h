@@ -30,9 +30,6 @@ public:
     // Draws again from the volumes now described (after a mount or an unmount).
     void resetAndRefreshBar();
 
-    // The picture last given to the status item, and the graph the open menu shows.
-    const QImage& barImage() const { return barImage_; }
-    QImage menuGraphImage();
     // The panel of volume blocks; none before the menu is built.
     Volume_MenuController* controller() const { return volumeMenuController; }
     VolumeEjector& ejector() { return *ejector_; }
@@ -40,14 +37,13 @@ public:
 protected:
     void drawBaseStatusBar() override;
     void redrawStatusItem() override;
-    void prepareMenuOpening() override;
 
 private:
     static constexpr double kMenuGraphHeight = 20;
 
     void addVolumeItems();
     void ejectFinished(const QString& path, bool ejected, const QString& message);
-    QImage drawMenuGraph(const ModuleDefaults& defaults);
+    QImage drawMenuGraph(const ModuleDefaults& defaults) override;
 
     ImageVolumeBar imageVolumeBar;
     ImageVolumeBar imageVolumeMenu;
@@ -56,5 +52,4 @@ private:
     VolumeEjector* ejector_;                               // a child of this module
     History<VolumeSample> resumeArray;
     std::shared_ptr<const VolumeBaseDict> volumeBaseDict_;
-    QImage barImage_;
 };
