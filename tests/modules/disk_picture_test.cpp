@@ -3,9 +3,9 @@
 #include "modules/disk/disk_graph.h"
 #include "modules/disk/disk_rates.h"
 #include "modules/disk/image_disk_bar.h"
+#include "picture_recording.h"
 #include "storage_picture_defaults.h"
 #include "toolkit/point_canvas.h"
-#include "toolkit/recording_paint_device.h"
 
 #include <QStringList>
 #include <gtest/gtest.h>
@@ -35,11 +35,6 @@ History<DiskSample> busyHistory()
                                               {"/dev/loop0", {500, 0}}})});
 }
 
-struct Drawn {
-    std::vector<DrawCall> calls;
-    double end = 0;
-};
-
 Drawn draw(const ModuleDefaults& defaults, const History<DiskSample>& history, const DiskBaseDict& disks)
 {
     const std::vector<DiskBarSet> sets = diskBarSets(defaults, disks);
@@ -47,23 +42,7 @@ Drawn draw(const ModuleDefaults& defaults, const History<DiskSample>& history, c
     ImageDiskBar bar;
     bar.redrawWithSize(QSizeF(width, kBarHeight), TvlClasses::retStatusMenuInsets(diskShownElementCount(defaults)),
                        false, true, defaults, history, sets);
-    RecordingPaintDevice device(QSize(static_cast<int>(std::ceil(width)) + 1, static_cast<int>(kBarHeight)));
-    QPainter painter(&device);
-    TvlClasses::PointCanvas::flipToPoints(painter, kBarHeight);
-    Drawn drawn;
-    drawn.end = bar.drawRect(painter);
-    painter.end();
-    drawn.calls = device.calls();
-    return drawn;
-}
-
-QStringList textsOf(const std::vector<DrawCall>& calls)
-{
-    QStringList texts;
-    for (const DrawCall& call : calls)
-        if (call.kind == DrawCall::Text)
-            texts << call.text;
-    return texts;
+    return recordPicture(bar, QSize(static_cast<int>(std::ceil(width)) + 1, static_cast<int>(kBarHeight)));
 }
 
 } // namespace

@@ -2,8 +2,8 @@
 #include "cpu_picture_defaults.h"
 #include "modules/cpu/cpu_bar_width.h"
 #include "modules/cpu/image_cpu_bar.h"
+#include "picture_recording.h"
 #include "toolkit/point_canvas.h"
-#include "toolkit/recording_paint_device.h"
 
 #include <QStringList>
 #include <gtest/gtest.h>
@@ -17,23 +17,10 @@ std::vector<DrawCall> drawPicture(const ModuleDefaults& defaults, const History<
 {
     ImageCpuBar bar;
     bar.redrawWithSize(QSizeF(400, kBarHeight), TvlClasses::retStatusMenuInsets(2), false, true, defaults, history);
-    RecordingPaintDevice device(QSize(400, static_cast<int>(kBarHeight)));
-    QPainter painter(&device);
-    TvlClasses::PointCanvas::flipToPoints(painter, kBarHeight);
-    const double x = bar.drawRect(painter);
-    painter.end();
+    const Drawn drawn = recordPicture(bar, QSize(400, static_cast<int>(kBarHeight)));
     if (end != nullptr)
-        *end = x;
-    return device.calls();
-}
-
-QStringList textsOf(const std::vector<DrawCall>& calls)
-{
-    QStringList texts;
-    for (const DrawCall& call : calls)
-        if (call.kind == DrawCall::Text)
-            texts << call.text;
-    return texts;
+        *end = drawn.end;
+    return drawn.calls;
 }
 
 } // namespace

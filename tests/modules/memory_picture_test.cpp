@@ -3,6 +3,7 @@
 #include "modules/memory/image_memory_bar.h"
 #include "modules/memory/memory_bar_width.h"
 #include "modules/memory/memory_breakdown.h"
+#include "picture_recording.h"
 #include "toolkit/point_canvas.h"
 #include "toolkit/recording_paint_device.h"
 
@@ -29,23 +30,10 @@ std::vector<DrawCall> drawPicture(const ModuleDefaults& d, const History<MemoryS
     const MemoryTextWidths widths = memoryTextWidths(d, 1000 * static_cast<std::int64_t>(kMiB));
     ImageMemoryBar bar(kMiB, 1000);
     bar.redrawWithSize(QSizeF(400, kBarHeight), TvlClasses::retStatusMenuInsets(2), false, true, d, history, widths);
-    RecordingPaintDevice device(QSize(400, static_cast<int>(kBarHeight)));
-    QPainter painter(&device);
-    TvlClasses::PointCanvas::flipToPoints(painter, kBarHeight);
-    const double x = bar.drawRect(painter);
-    painter.end();
+    const Drawn drawn = recordPicture(bar, QSize(400, static_cast<int>(kBarHeight)));
     if (end != nullptr)
-        *end = x;
-    return device.calls();
-}
-
-QStringList textsOf(const std::vector<DrawCall>& calls)
-{
-    QStringList texts;
-    for (const DrawCall& call : calls)
-        if (call.kind == DrawCall::Text)
-            texts << call.text;
-    return texts;
+        *end = drawn.end;
+    return drawn.calls;
 }
 
 } // namespace

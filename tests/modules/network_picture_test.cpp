@@ -3,6 +3,7 @@
 #include "modules/network/image_network_bar.h"
 #include "modules/network/network_bar_width.h"
 #include "modules/network/network_rates.h"
+#include "picture_recording.h"
 #include "toolkit/point_canvas.h"
 #include "toolkit/recording_paint_device.h"
 
@@ -24,12 +25,7 @@ std::vector<DrawCall> drawPicture(const ModuleDefaults& d, const History<Network
 {
     ImageNetworkBar bar;
     bar.redrawWithSize(QSizeF(400, kBarHeight), TvlClasses::retStatusMenuInsets(2), false, false, d, history, now);
-    RecordingPaintDevice device(QSize(400, static_cast<int>(kBarHeight)));
-    QPainter painter(&device);
-    TvlClasses::PointCanvas::flipToPoints(painter, kBarHeight);
-    bar.drawRect(painter);
-    painter.end();
-    return device.calls();
+    return recordPicture(bar, QSize(400, static_cast<int>(kBarHeight))).calls;
 }
 
 ModuleDefaults graphOnly(qint64 mode)

@@ -2,9 +2,9 @@
 // the used or free percentage.
 #include "modules/volume/image_volume_bar.h"
 #include "modules/volume/volume_bar_width.h"
+#include "picture_recording.h"
 #include "storage_picture_defaults.h"
 #include "toolkit/point_canvas.h"
-#include "toolkit/recording_paint_device.h"
 
 #include <QStringList>
 #include <gtest/gtest.h>
@@ -28,11 +28,6 @@ VolumeSample usageSample()
     return s;
 }
 
-struct Drawn {
-    std::vector<DrawCall> calls;
-    double end = 0;
-};
-
 Drawn draw(const ModuleDefaults& defaults, const History<VolumeSample>& history, const VolumeBaseDict& volumes)
 {
     const std::vector<VolumeBarSet> sets = volumeBarSets(defaults, volumes);
@@ -40,14 +35,7 @@ Drawn draw(const ModuleDefaults& defaults, const History<VolumeSample>& history,
     ImageVolumeBar bar;
     bar.redrawWithSize(QSizeF(width, kBarHeight), TvlClasses::retStatusMenuInsets(volumeShownElementCount(defaults)),
                        false, true, defaults, history, sets);
-    RecordingPaintDevice device(QSize(static_cast<int>(std::ceil(width)) + 1, static_cast<int>(kBarHeight)));
-    QPainter painter(&device);
-    TvlClasses::PointCanvas::flipToPoints(painter, kBarHeight);
-    Drawn drawn;
-    drawn.end = bar.drawRect(painter);
-    painter.end();
-    drawn.calls = device.calls();
-    return drawn;
+    return recordPicture(bar, QSize(static_cast<int>(std::ceil(width)) + 1, static_cast<int>(kBarHeight)));
 }
 
 std::vector<DrawCall> texts(const Drawn& drawn)
