@@ -16,7 +16,10 @@ namespace {
 
 using Fractions = std::array<double, 4>;
 
-Fractions shares(const CpuRecord& record)
+// Indexes of the four shares, in the ticks' order.
+enum Share : std::size_t { User = 0, System = 1, Nice = 2, Idle = 3 };
+
+Fractions shares(const CpuTicks& record)
 {
     const auto sum = std::accumulate(record.begin(), record.end(), std::int64_t{0});
     Fractions out{};
@@ -31,7 +34,7 @@ Fractions shares(const CpuRecord& record)
 void drawLines(QPainter& painter, const Fractions& fractions, Fractions& previous, const std::array<QColor, 4>& colors,
                const QRectF& frame, bool bold)
 {
-    constexpr std::array<std::size_t, 4> kOrder{CpuIdle, CpuNice, CpuSystem, CpuUser};
+    constexpr std::array<std::size_t, 4> kOrder{Idle, Nice, System, User};
     for (const std::size_t share : kOrder) {
         const double current = fractions[share] * frame.height();
         if (previous[share] > -1.0) {
@@ -46,7 +49,7 @@ void drawColumn(QPainter& painter, const Fractions& fractions, const std::array<
 {
     const double left = frame.x() - 1;
     double stacked = 0;
-    for (const std::size_t share : {CpuUser, CpuSystem, CpuNice}) {
+    for (const std::size_t share : {User, System, Nice}) {
         if (fractions[share] <= 0)
             continue;
         const double height = fractions[share] * frame.height();
@@ -54,9 +57,9 @@ void drawColumn(QPainter& painter, const Fractions& fractions, const std::array<
         stacked += height;
     }
     // Rounding may leave the four shares a hair above 1; idle takes only what is left.
-    if (fractions[CpuIdle] > 0) {
-        const double height = std::min(fractions[CpuIdle] * frame.height(), frame.height() - stacked);
-        painter.fillRect(QRectF(left, frame.y() + stacked, 1, height), colors[CpuIdle]);
+    if (fractions[Idle] > 0) {
+        const double height = std::min(fractions[Idle] * frame.height(), frame.height() - stacked);
+        painter.fillRect(QRectF(left, frame.y() + stacked, 1, height), colors[Idle]);
     }
 }
 
@@ -74,7 +77,7 @@ void tvlDrawGraphWithLine(QPainter& painter, double previous, double current, do
     painter.setPen(pen);
 }
 
-double tvlDrawCpuGraph(QPainter& painter, const History<CpuSample>& history, std::size_t nowCore,
+double tvlDrawCpuGraph(QPainter& painter, std::size_t sampleCount, const CpuTicksAt& ticksAt,
                        const CpuGraphStyle& style, QRectF frame, bool drawInWhite)
 {
     painter.save();
@@ -85,10 +88,9 @@ double tvlDrawCpuGraph(QPainter& painter, const History<CpuSample>& history, std
         colors[i] = drawingColor(style.colors[i], drawInWhite);
 
     Fractions previous{-1.0, -1.0, -1.0, -1.0};
-    for (std::size_t i = history.size(); i > 0 && frame.width() > 0; --i) {
-        const CpuSample& sample = history[i - 1];
-        if (nowCore < sample.size()) {
-            const Fractions fractions = shares(sample[nowCore]);
+    for (std::size_t i = sampleCount; i > 0 && frame.width() > 0; --i) {
+        if (const CpuTicks* ticks = ticksAt(i - 1)) {
+            const Fractions fractions = shares(*ticks);
             if (style.asLine)
                 drawLines(painter, fractions, previous, colors, frame, style.bold);
             else if (std::any_of(fractions.begin(), fractions.end(), [](double f) { return f > 0; }))

@@ -6,19 +6,25 @@
 #include <gtest/gtest.h>
 
 #include <algorithm>
+#include <vector>
 
 using namespace TvlClasses;
 
 namespace {
 
+// A sample holds one record per processor; these tests draw processor 0.
+using CpuSamples = std::vector<CpuTicks>;
+using CpuHistory = std::vector<CpuSamples>;
+enum Share : std::size_t { CpuUser = 0, CpuSystem = 1, CpuNice = 2, CpuIdle = 3 };
+
 const CpuGraphStyle kColumns{false, false, {QColor(255, 0, 0), QColor(0, 255, 0), QColor(0, 0, 255), QColor(9, 9, 9)}};
 
 // Single-record samples, oldest first.
-History<CpuSample> historyOf(std::initializer_list<CpuRecord> records)
+CpuHistory historyOf(std::initializer_list<CpuTicks> records)
 {
-    History<CpuSample> history;
-    for (const CpuRecord& record : records)
-        history = history.appended(CpuSample{record});
+    CpuHistory history;
+    for (const CpuTicks& record : records)
+        history.push_back(CpuSamples{record});
     return history;
 }
 
@@ -27,7 +33,7 @@ struct Drawn {
     std::vector<DrawCall> calls;
 };
 
-Drawn draw(const History<CpuSample>& history, const CpuGraphStyle& style, const QRectF& frame)
+Drawn draw(const CpuHistory& history, const CpuGraphStyle& style, const QRectF& frame)
 {
     RecordingPaintDevice device;
     QPainter painter(&device);
@@ -61,7 +67,7 @@ TEST(CpuGraph, IdleIsCutToWhatTheOtherSharesLeave)
 
 TEST(CpuGraph, WidthLeftTracksHowFarTheHistoryReaches)
 {
-    const Drawn empty = draw(History<CpuSample>(), kColumns, QRectF(40, 1, 40, 19));
+    const Drawn empty = draw(CpuHistory(), kColumns, QRectF(40, 1, 40, 19));
     EXPECT_DOUBLE_EQ(empty.widthLeft, 40);
     EXPECT_TRUE(empty.calls.empty());
 
@@ -71,9 +77,9 @@ TEST(CpuGraph, WidthLeftTracksHowFarTheHistoryReaches)
     ASSERT_EQ(gap.calls.size(), 1U);
     EXPECT_DOUBLE_EQ(gap.calls[0].rect.x(), 38);
 
-    History<CpuSample> longer;
+    CpuHistory longer;
     for (int i = 0; i < 10; ++i)
-        longer = longer.appended(CpuSample{{1, 1, 1, 1}});
+        longer.push_back(CpuSamples{{1, 1, 1, 1}});
     const Drawn full = draw(longer, kColumns, QRectF(45, 1, 5, 19));
     EXPECT_LE(full.widthLeft, 0);
     ASSERT_EQ(full.calls.size(), 20U);
@@ -86,7 +92,7 @@ TEST(CpuGraph, LinesJoinEachShareToTheNewerSampleIdleFirst)
 {
     CpuGraphStyle style = kColumns;
     style.asLine = true;
-    const History<CpuSample> history = historyOf({{0, 0, 0, 0}, {1, 0, 0, 1}});
+    const CpuHistory history = historyOf({{0, 0, 0, 0}, {1, 0, 0, 1}});
     const Drawn thin = draw(history, style, QRectF(40, 1, 40, 19));
     ASSERT_EQ(thin.calls.size(), 4U);
     EXPECT_EQ(thin.calls[0].pen, style.colors[CpuIdle]);
