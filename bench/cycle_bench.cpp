@@ -3,7 +3,7 @@
 
 #include "app/sampling_cycle.h"
 #include "collect/load_system_information.h"
-#include "prefs/pref_keys.h"
+#include "modules/module_registry.h"
 
 #include <QCoreApplication>
 
@@ -17,8 +17,8 @@ namespace {
 CycleInput everyModuleDue()
 {
     CycleInput input;
-    for (ModuleId id : kSampledModules)
-        input.general.set(moduleKeys(id).switchKey, true);
+    for (std::size_t i = 0; i < moduleRegistry().size(); ++i)
+        input.due[i] = moduleRegistry()[i]->sample != nullptr;
     input.intervals.fill(1);
     return input;
 }
@@ -32,14 +32,12 @@ void measure(const char* label, const std::filesystem::path& root, int cycles)
     // Two warm-up cycles: the first primes the differences, the second fills the buffers.
     for (int i = 0; i < 2; ++i) {
         CycleOutput out = SamplingCycle::runBody(loadInfo, input);
-        input.general = out.general;
         input.info = out.info;
     }
     const std::uint64_t allocBefore = AllocationCounter::count();
     const auto start = std::chrono::steady_clock::now();
     for (int i = 0; i < cycles; ++i) {
         CycleOutput out = SamplingCycle::runBody(loadInfo, input);
-        input.general = std::move(out.general);
         input.info = std::move(out.info);
     }
     const auto elapsed = std::chrono::duration<double, std::micro>(std::chrono::steady_clock::now() - start);

@@ -7,6 +7,7 @@
 #include "modules/network/network_bar_width.h"
 #include "prefs/plist_io.h"
 #include "prefs/plist_settings_store.h"
+#include "modules/module_settings.h"
 #include "prefs/pref_functions.h"
 #include "prefs/pref_keys.h"
 #include "prefs/theme_files.h"

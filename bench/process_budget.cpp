@@ -1,5 +1,6 @@
 // Runs the monitor for a while and prints its processor time per second and its memory.
-#include "prefs/module_table.h"
+#include "modules/module_registry.h"
+#include "prefs/module_id.h"
 #include "prefs/plist_settings_store.h"
 #include "prefs/pref_functions.h"
 #include "prefs/pref_keys.h"
@@ -53,12 +54,14 @@ qint64 privateKiB(qint64 pid)
 void writeBudgetSettings(const QString& path)
 {
     PlistSettingsStore store(path);
-    for (ModuleId id : kAllModules)
-        PrefFunctions::initializeModulePreference(id, store);
+    for (const ModuleSchema* schema : allModuleSchemas())
+        PrefFunctions::initializeModulePreference(*schema, store);
     store.setString(PrefKey::AppVersion, QStringLiteral(TARVEL_VERSION));
     store.setBool(PrefKey::DisplayTopWindowAtStartup, false);
-    for (ModuleId id : kSampledModules)
-        store.setInteger(moduleKeys(id).intervalKey, 1);
+    for (const ModuleSchema* schema : allModuleSchemas()) {
+        if (schema->intervalKey != nullptr)
+            store.setInteger(schema->intervalKey, 1);
+    }
     store.synchronize();
 }
 

@@ -6,6 +6,7 @@
 #include "modules/volume/image_volume_bar.h"
 #include "modules/volume/volume_bar_width.h"
 #include "prefs/plist_settings_store.h"
+#include "modules/module_settings.h"
 #include "prefs/pref_functions.h"
 #include "prefs/pref_keys.h"
 #include "toolkit/menu_geometry.h"

@@ -8,9 +8,10 @@
 #include "app/sampling_cycle.h"
 #include "app/volume_tracker.h"
 #include "modules/module_registry.h"
+#include "modules/module_settings.h"
+#include "prefs/pref_functions.h"
 #include "net/ddns_settings.h"
 #include "preferences/preferences_window.h"
-#include "prefs/pref_functions.h"
 #include "prefs/pref_keys.h"
 #include "prefs/theme_files.h"
 #include "prefs/theme_repair.h"
@@ -79,8 +80,8 @@ void AppDelegate::applicationDidFinishLaunching(bool startTimer)
     store.setBool(PrefKey::UpdateAlerting, false);
     store.synchronize();
     if (store.stringForKey(PrefKey::AppVersion).isEmpty()) {
-        for (ModuleId id : kAllModules)
-            PrefFunctions::initializeModulePreference(id, store);
+        for (const ModuleSchema* schema : allModuleSchemas())
+            PrefFunctions::initializeModulePreference(*schema, store);
     }
     // The menu-bar order is kept across launches here; only one older desktop resets it.
     store.setString(PrefKey::AppVersion, QStringLiteral(TARVEL_VERSION));
@@ -99,9 +100,9 @@ void AppDelegate::applicationDidFinishLaunching(bool startTimer)
     // run here once those modules exist.)
     themeColorDict_ = TvlClasses::checkThemeValues(TvlClasses::checkNowThemeFile());
     reloadGeneralDefaults(false);
-    for (ModuleId id : kAllModules) {
-        if (id != ModuleId::General)
-            mutableDefaults(id) = PrefFunctions::loadModuleDefaults(id, store, themeColorDict_);
+    for (const ModuleSchema* schema : allModuleSchemas()) {
+        if (schema->id != ModuleId::General)
+            reloadModuleDefaults(schema->id);
     }
 
     // The preferences window is built when it is first opened: most of the time it is closed,
@@ -131,13 +132,30 @@ void AppDelegate::reloadGeneralDefaults(bool skip)
 {
     if (skip)
         return;
-    mutableDefaults(ModuleId::General) = PrefFunctions::loadGeneralDefaults(*userDefaults_, themeColorDict_);
+    reloadModuleDefaults(ModuleId::General);
+}
+
+void AppDelegate::setModuleDefaults(ModuleId id, ModuleDefaults defaults)
+{
+    moduleDefaults_[moduleIndex(id)] = std::move(defaults);
+    if (const char* key = moduleSchema(id).intervalKey)
+        schedule_.setInterval(id, this->defaults(id).intValue(key));
+}
+
+void AppDelegate::reloadModuleDefaults(ModuleId id)
+{
+    setModuleDefaults(id, PrefFunctions::loadModuleDefaults(id, *userDefaults_, themeColorDict_));
 }
 
 bool AppDelegate::menuOpened(ModuleId id) const
 {
     const MenuModule* module = menuModule(id);
     return module != nullptr && module->menuOpened();
+}
+
+bool AppDelegate::switchedOn(ModuleId id) const
+{
+    return id == ModuleId::General || chkGeneBool(moduleSchema(id).switchKey);
 }
 
 void AppDelegate::moduleAlloc(ModuleId id)
@@ -149,10 +167,7 @@ void AppDelegate::moduleAlloc(ModuleId id)
     if (!slot)
         return;
     slot->setMyDefaults(defaults(id));
-    if (id == ModuleId::Disk)
-        moduleDskRefresh(true);
-    else if (id == ModuleId::Volume)
-        moduleVolRefresh(true);
+    moduleStorageRefresh(id, true);
     slot->setPictureScale(pictureScale_);
     slot->initDrawStatusBar(*statusBar_);
     if (id != ModuleId::General)
@@ -162,7 +177,7 @@ void AppDelegate::moduleAlloc(ModuleId id)
 void AppDelegate::reDrawModule(ModuleId id, bool full)
 {
     MenuModule* module = menuModule(id);
-    if (id != ModuleId::General && !chkGeneBool(moduleKeys(id).switchKey))
+    if (!switchedOn(id))
         return;
     Q_EMIT moduleRedrawRequested(id, full);
     if (module == nullptr)
@@ -179,7 +194,7 @@ void AppDelegate::moduleRelease(ModuleId id)
 {
     // Only the in-memory switch: the stored setting stays as the user left it.
     if (id != ModuleId::General)
-        mutableDefaults(ModuleId::General).set(moduleKeys(id).switchKey, false);
+        moduleDefaults_[moduleIndex(ModuleId::General)].set(moduleSchema(id).switchKey, false);
     auto& slot = modules_[static_cast<std::size_t>(id)];
     // The interface base is rebuilt on the first tick after the module comes back.
     if (id == ModuleId::Network && slot)
@@ -189,8 +204,8 @@ void AppDelegate::moduleRelease(ModuleId id)
 
 void AppDelegate::allModulesDisable()
 {
-    for (ModuleId id : kAllModules)
-        moduleRelease(id);
+    for (const ModuleSchema* schema : allModuleSchemas())
+        moduleRelease(schema->id);
 }
 
 void AppDelegate::checkDrawMenu()
@@ -210,7 +225,7 @@ void AppDelegate::checkDrawMenu()
         const auto id = moduleForSortCode(it->toLongLong());
         if (!id)
             continue;
-        if (chkGeneBool(moduleKeys(*id).switchKey))
+        if (switchedOn(*id))
             moduleAlloc(*id);
         else
             moduleRelease(*id);
@@ -231,7 +246,7 @@ void AppDelegate::moduleLaunchCheck(bool disableFirst)
     if (disableFirst)
         allModulesDisable();
     // After the disable: every release wrote NO into the in-memory switches.
-    mutableDefaults(ModuleId::General) = PrefFunctions::loadGeneralDefaults(*userDefaults_, themeColorDict_);
+    reloadModuleDefaults(ModuleId::General);
     checkDrawMenu();
 }
 
@@ -246,39 +261,42 @@ void AppDelegate::loadSysInfoTimer()
         return;
     loadSysInfoTimerFinishedBool = true;
 
-    // Menu states and intervals are read here, on the main thread that owns them.
+    // The cadence is decided here, on the main thread that owns it, so that a reset made while
+    // the body runs (a mount) holds for the next cycle.
+    std::array<ModuleCadence, kModuleCount> cadence{};
     CycleInput input;
-    input.general = generalDefaults();
+    for (std::size_t i = 0; i < moduleRegistry().size(); ++i) {
+        const ModuleDescriptor& module = *moduleRegistry()[i];
+        const ModuleId id = module.schema.id;
+        cadence[i] = {module.sample != nullptr, switchedOn(id), menuOpened(id),
+                      module.firstSampleAtOnce && !infoDict_.exists(i)};
+        input.intervals[i] = schedule_.interval(id);
+        input.menuOpened[i] = cadence[i].menuOpened;
+    }
+    input.due = schedule_.decide(cadence);
     input.info = infoDict_;
     input.volumeBase = volumeTracker_->sharedVolumeBaseDict();
-    for (std::size_t m = 0; m < kSampledModules.size(); ++m) {
-        const ModuleId id = kSampledModules[m];
-        input.intervals[m] = defaults(id).intValue(moduleKeys(id).intervalKey);
-        input.menuOpened[m] = menuOpened(id);
-    }
     executor_->runInBackground([this, input = std::move(input)]() mutable {
         CycleOutput output = SamplingCycle::runBody(*loadInfo_, std::move(input));
         executor_->postToMain([this, output = std::move(output)] {
-            // Copied, not moved: the pool thread may be the one that destroys this task, and
+            // Read, not moved from: the pool thread may be the one that destroys this task, and
             // copies leave its members untouched (the histories' counts are atomic).
-            redrawStep(output.general, output.info);
+            redrawStep(output);
             if (output.quitRequested)
                 quitApplication();
         });
     });
 }
 
-void AppDelegate::redrawStep(ModuleDefaults general, InfoDict info)
+void AppDelegate::redrawStep(const CycleOutput& output)
 {
-    mutableDefaults(ModuleId::General) = std::move(general);
-    infoDict_ = std::move(info);
-    volumeTracker_->applyPendingRenames(infoDict_.volume);
-    for (ModuleId id : kSampledModules) {
-        if (SamplingCycle::wasSampled(generalDefaults(), id))
+    infoDict_ = output.info;
+    applyVolumeRenames();
+    for (const ModuleDescriptor* module : moduleRegistry()) {
+        const ModuleId id = module->schema.id;
+        if (output.sampled[moduleIndex(id)] && switchedOn(id))
             reDrawModule(id, false);
     }
-    if (chkGeneBool(PrefKey::LaunchVNC))
-        reDrawModule(ModuleId::Vnc, false);
     // Previews follow the live data only while someone can see them.
     if (preferencePanel_ != nullptr && preferencePanel_->isVisible()) {
         for (int i = 0; i < preferencePanel_->tabCount(); ++i)

@@ -7,8 +7,9 @@
 #include "preferences/pref_notification.h"
 #include "preferences/preference_tab.h"
 #include "preferences/preferences_window.h"
+#include "app/sampling_schedule.h"
 #include "prefs/module_defaults.h"
-#include "prefs/module_table.h"
+#include "prefs/module_id.h"
 #include "prefs/settings_store.h"
 
 #include <QObject>
@@ -23,6 +24,7 @@
 
 class AppearanceWatcher;
 class CycleExecutor;
+struct CycleOutput;
 class VolumeTracker;
 
 class AppDelegate : public QObject, public MenuModuleDelegate {
@@ -62,7 +64,7 @@ public:
     // Builds the status items from the settings: General first, then the bar order reversed.
     void checkDrawMenu();
     void moduleLaunchCheck(bool disableFirst);
-    MenuModule* menuModule(ModuleId id) const { return modules_[static_cast<std::size_t>(id)].get(); }
+    MenuModule* menuModule(ModuleId id) const { return modules_[moduleIndex(id)].get(); }
 
     LoadSystemInformation& collector() override { return *loadInfo_; }
     SettingsStore& settingsStore() override { return *userDefaults_; }
@@ -98,19 +100,21 @@ public:
     void rebootMe();
 
     SettingsStore& userDefaults() { return *userDefaults_; }
-    const ModuleDefaults& defaults(ModuleId id) const { return moduleDefaults_[static_cast<std::size_t>(id)]; }
+    const ModuleDefaults& defaults(ModuleId id) const { return moduleDefaults_[moduleIndex(id)]; }
     const ModuleDefaults& generalDefaults() const { return defaults(ModuleId::General); }
     const InfoDict& infoDict() const { return infoDict_; }
     const QVariantMap& themeColorDict() const { return themeColorDict_; }
     const LoadSystemInformation& loadInfo() const { return *loadInfo_; }
     // The volume and disk descriptions, with their signal for the Disk and Volume modules.
     VolumeTracker& volumeTracker() const { return *volumeTracker_; }
-    // Hand the descriptions to the Disk or the Volume module when it is on: an open menu is
+    // Hands the descriptions to the module when it is on and draws from them: an open menu is
     // closed, since its rows no longer match, and with reset the picture is drawn again.
-    void moduleDskRefresh(bool reset);
-    void moduleVolRefresh(bool reset);
+    void moduleStorageRefresh(ModuleId id, bool reset);
     // Rebuilds the descriptions (unless Disk and Volume are both off) and hands them to both.
     void moduleDskVolRefresh();
+    // The cadence of every module; intervals follow the settings as they are loaded.
+    const SamplingSchedule& schedule() const { return schedule_; }
+    SamplingSchedule& schedule() { return schedule_; }
     bool isDebugMode() const { return isDebugMode_; }
     bool cycleRunning() const { return loadSysInfoTimerFinishedBool; }
     quint32 globalIpCheckCount() const { return chkNowGlobalIpAddrCount; }
@@ -130,15 +134,20 @@ Q_SIGNALS:
     void allModulesReloaded();
 
 private:
-    ModuleDefaults& mutableDefaults(ModuleId id) { return moduleDefaults_[static_cast<std::size_t>(id)]; }
+    // Takes a module's reloaded settings; its interval reaches the schedule at once.
+    void setModuleDefaults(ModuleId id, ModuleDefaults defaults);
+    void reloadModuleDefaults(ModuleId id);
     bool menuOpened(ModuleId id) const;
-    void redrawStep(ModuleDefaults general, InfoDict info);
+    bool switchedOn(ModuleId id) const;
+    void redrawStep(const CycleOutput& output);
     void drainPrefNotifications();
     void processFontOrColor(const QVariantMap& info, bool& skipRest);
     void processModuleNotif(ModuleId id, const QVariantMap& info, bool removeFirst, bool refreshItems);
     void handOutTabDefaults(bool themeChanged);
     // After a mount, an unmount or a rename.
     void storageDescriptionsChanged();
+    // The Volume history carries renamed volumes under their new names.
+    void applyVolumeRenames();
     // The descriptions, as rebuilt, to the modules and the previews that draw from them.
     void handOutStorageDescriptions();
     void writeNowThemeFile();
@@ -156,8 +165,9 @@ private:
     QPointer<QTimer> rebootTimer_;
     qint64 rebootDaysInt = 0;
     qint64 rebootDaysTimerInt = 0;
-    std::array<ModuleDefaults, 9> moduleDefaults_;
-    std::array<std::unique_ptr<MenuModule>, 9> modules_;
+    std::array<ModuleDefaults, kModuleCount> moduleDefaults_;
+    std::array<std::unique_ptr<MenuModule>, kModuleCount> modules_;
+    SamplingSchedule schedule_;
     StatusBar* statusBar_ = nullptr;
     qreal pictureScale_ = 0;
     InfoDict infoDict_;

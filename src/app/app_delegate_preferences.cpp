@@ -6,7 +6,6 @@
 #include "modules/module_registry.h"
 #include "preferences/preferences_window.h"
 #include "prefs/plist_io.h"
-#include "prefs/pref_functions.h"
 #include "prefs/pref_keys.h"
 #include "prefs/theme_appearance.h"
 #include "prefs/theme_color.h"
@@ -27,15 +26,6 @@ constexpr int kPrefDelayMs = 250;
 constexpr int kColorWriteDelayMs = 1000;
 constexpr int kRebootSettingDelayMs = 1000;
 
-std::optional<ModuleId> moduleForNotification(const QString& name)
-{
-    for (ModuleId id : kAllModules) {
-        if (name == QLatin1String(moduleKeys(id).notification))
-            return id;
-    }
-    return std::nullopt;
-}
-
 bool flag(const QVariantMap& info, const char* key)
 {
     return info.value(QLatin1String(key)).toBool();
@@ -51,10 +41,11 @@ void AppDelegate::drawModuleTabViewControllers()
     preferencePanel_ = new PreferencesWindow();
     preferencePanel_->setAttribute(Qt::WA_DeleteOnClose, false);
     const AllModuleDefaults all = retAllMyDefault();
-    for (ModuleId id : kAllModules) {
-        PreferenceTab* tab = createPreferenceTab(id, this, *userDefaults_, *prefCenter_);
+    for (const ModuleSchema* schema : allModuleSchemas()) {
+        PreferenceTab* tab = createPreferenceTab(schema->id, this, *userDefaults_, *prefCenter_);
+        tab->setTheme(themeColorDict_);
         tab->setMyDefaults(all);
-        const QString label = id == ModuleId::General ? localized("Hello!") : localized(moduleKeys(id).prefName);
+        const QString label = schema->id == ModuleId::General ? localized("Hello!") : localized(schema->prefName);
         preferencePanel_->addTab(tab, label);
     }
     // The Disk and Volume previews draw one set per disk or volume, as the items do.
@@ -106,9 +97,9 @@ QList<QImage> AppDelegate::shownBarImages() const
 
 void AppDelegate::refreshAllMenuModules()
 {
-    for (ModuleId id : kAllModules) {
-        MenuModule* module = menuModule(id);
-        if (id != ModuleId::General && module != nullptr && chkGeneBool(moduleKeys(id).switchKey))
+    for (const ModuleSchema* schema : allModuleSchemas()) {
+        MenuModule* module = menuModule(schema->id);
+        if (schema->id != ModuleId::General && module != nullptr && switchedOn(schema->id))
             module->refreshBar();
     }
 }
@@ -165,10 +156,11 @@ void AppDelegate::processNotifFromPref(const PrefNotification& notification)
                 }
             }
             if (flag(info, NotifKey::ModuleDefaultReload)) {
-                for (ModuleId m : kAllModules) {
+                for (const ModuleSchema* schema : allModuleSchemas()) {
+                    const ModuleId m = schema->id;
                     if (m == ModuleId::General)
                         continue;
-                    mutableDefaults(m) = PrefFunctions::loadModuleDefaults(m, *userDefaults_, themeColorDict_);
+                    reloadModuleDefaults(m);
                     if (MenuModule* module = menuModule(m))
                         module->setMyDefaults(defaults(m));
                     reDrawModule(m, true);
@@ -217,11 +209,11 @@ void AppDelegate::processFontOrColor(const QVariantMap& info, bool& skipRest)
 
 void AppDelegate::processModuleNotif(ModuleId id, const QVariantMap& info, bool removeFirst, bool refreshItems)
 {
-    if (id == ModuleId::Temp && flag(info, NotifKey::ChangeMenuCount)) {
-        if (MenuModule* temp = menuModule(ModuleId::Temp))
-            temp->resetMenuNowCount();
+    if (flag(info, NotifKey::ChangeMenuCount)) {
+        if (MenuModule* module = menuModule(id))
+            module->resetMenuNowCount();
     }
-    mutableDefaults(id) = PrefFunctions::loadModuleDefaults(id, *userDefaults_, themeColorDict_);
+    reloadModuleDefaults(id);
     moduleLaunchCheck(removeFirst);
     reDrawModule(id, true);
     if (refreshItems) {
@@ -236,6 +228,7 @@ void AppDelegate::handOutTabDefaults(bool themeChanged)
         return;
     const AllModuleDefaults all = retAllMyDefault();
     for (int i = 0; i < preferencePanel_->tabCount(); ++i) {
+        preferencePanel_->tab(i)->setTheme(themeColorDict_);
         preferencePanel_->tab(i)->setMyDefaults(all);
         preferencePanel_->tab(i)->update();
     }
@@ -265,7 +258,7 @@ void AppDelegate::writeToColorThemeFile()
 {
     writeNowThemeFile();
     changeColorPool = false;
-    notifFromPref(PrefNotification{QLatin1String(moduleKeys(ModuleId::General).notification),
+    notifFromPref(PrefNotification{QLatin1String(moduleSchema(ModuleId::General).notification),
                                    {{QLatin1String(NotifKey::ModuleDefaultReload), true}}});
 }
 
@@ -277,6 +270,6 @@ void AppDelegate::changeAppearanceMode(bool desktopIsDark)
         return;
     qCInfo(lcApp, "The desktop's appearance changed; switching to the theme %s.", qPrintable(*alternative));
     notifFromPref(PrefNotification{
-        QLatin1String(moduleKeys(ModuleId::General).notification),
+        QLatin1String(moduleSchema(ModuleId::General).notification),
         {{QLatin1String(NotifKey::ModuleDefaultReload), true}, {QLatin1String(NotifKey::ModuleThemeChanged), true}}});
 }

@@ -1,7 +1,7 @@
 // Command-line parsing with a usage message and exit status 2 for bad arguments.
 #include "app/app_options.h"
 
-#include "prefs/module_table.h"
+#include "modules/module_registry.h"
 
 #include <QCommandLineParser>
 #include <QFileInfo>
@@ -73,13 +73,9 @@ OptionsResult parseAppOptions(const QStringList& arguments, const QString& envir
         // The module named after --preferences is its value, not a command.
         options.preferencesTab = 0;
         if (!positional.isEmpty()) {
-            for (std::size_t i = 0; i < kAllModules.size(); ++i) {
-                if (positional.front().compare(QLatin1String(moduleKeys(kAllModules[i]).historyKey),
-                                               Qt::CaseInsensitive) == 0) {
-                    options.preferencesTab = static_cast<int>(i);
-                    positional.removeFirst();
-                    break;
-                }
+            if (const auto id = moduleForKey(positional.front())) {
+                options.preferencesTab = modulePreferenceTab(*id);
+                positional.removeFirst();
             }
         }
     }

@@ -3,7 +3,7 @@
 #include "app/commands.h"
 #include "app/front_ends/image_status_bar.h"
 #include "collect/source_set.h"
-#include "modules/menu_module.h"
+#include "modules/module_registry.h"
 #include "prefs/plist_settings_store.h"
 #include "toolkit/localization.h"
 
@@ -32,12 +32,12 @@ int runRender(const AppOptions& options, int argc, char** argv)
         if (++finished < options.cycles)
             return;
         bool written = bar.writeAll(options.outDir);
-        for (ModuleId id : kAllModules) {
-            MenuModule* module = delegate.menuModule(id);
+        for (const ModuleSchema* schema : allModuleSchemas()) {
+            MenuModule* module = delegate.menuModule(schema->id);
             const QImage graph = module != nullptr ? module->menuGraphImage() : QImage();
             if (!graph.isNull())
                 written = ImageStatusBar::writePng(options.outDir,
-                                                   QLatin1String(moduleKeys(id).historyKey) + QStringLiteral("-menu"),
+                                                   QLatin1String(schema->moduleKey) + QStringLiteral("-menu"),
                                                    graph) &&
                           written;
         }

@@ -1,10 +1,9 @@
-// The body of one sampling cycle: which modules are due, and collecting their samples.
+// The body of one sampling cycle: collecting the due modules' samples on the cycle's thread.
 #pragma once
 
+#include "app/sampling_schedule.h"
 #include "collect/info_dict.h"
 #include "collect/storage_descriptions.h"
-#include "prefs/module_defaults.h"
-#include "prefs/module_table.h"
 
 #include <array>
 #include <memory>
@@ -13,9 +12,9 @@ class LoadSystemInformation;
 
 // What the main thread hands the background body: snapshots it may read and change freely.
 struct CycleInput {
-    ModuleDefaults general;            // carries the cadence counters and load flags
-    std::array<qint64, 7> intervals{}; // per sampled module, in cycle order
-    std::array<bool, 7> menuOpened{};  // per sampled module, in cycle order
+    DueModules due;
+    std::array<qint64, kModuleCount> intervals{};
+    std::array<bool, kModuleCount> menuOpened{};
     InfoDict info;
     // The volumes to measure; shared and never changed, so a rebuild on the main thread
     // cannot pull it from under the cycle. None measures nothing.
@@ -23,7 +22,7 @@ struct CycleInput {
 };
 
 struct CycleOutput {
-    ModuleDefaults general;
+    DueModules sampled;
     InfoDict info;
     // The collector found the statistics of an active interface unreadable: the application is
     // to quit once this output reaches the main thread.
@@ -32,24 +31,12 @@ struct CycleOutput {
 
 namespace SamplingCycle {
 
-// The per-module cadence decision on the General dictionary.
-void loadCounterUp(ModuleDefaults& general, const char* switchKey, const char* counterKey, const char* intervalKey,
-                   const char* loadBoolKey, bool menuOpened);
-
-// Copies the intervals, clears the load flags and decides which modules are due.
-void decideDueModules(ModuleDefaults& general, const std::array<qint64, 7>& intervals,
-                      const std::array<bool, 7>& menuOpened, bool cpuHistoryExists);
-
-// The whole body: the decision, the interface change check (with a rebuild of the interface
-// base, which the collector keeps), then the collection.
+// The interface change check (with a rebuild of the interface base, which the collector keeps),
+// then the collection of the due modules.
 CycleOutput runBody(LoadSystemInformation& loadInfo, CycleInput input);
-
-// True when the module's switch and load flag are both on after a cycle.
-bool wasSampled(const ModuleDefaults& general, ModuleId id);
 
 } // namespace SamplingCycle
 
-// Collects the due modules into a new set of histories.
-// Paging counts are read only when wanted (the Memory menu is open).
-InfoDict loadCycleSysInfo(LoadSystemInformation& loadInfo, InfoDict info, const ModuleDefaults& general,
-                          const VolumeBaseDict& volumeBase, bool pagingWanted = true);
+// Collects the due modules into a new set of histories, each by its module's own step.
+InfoDict loadCycleSysInfo(LoadSystemInformation& loadInfo, InfoDict info, const CycleInput& cycle,
+                          const VolumeBaseDict& volumeBase);

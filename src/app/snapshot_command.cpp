@@ -3,7 +3,6 @@
 #include "app/commands.h"
 #include "app/snapshot_report.h"
 #include "collect/source_set.h"
-#include "modules/cpu/cpu_panel_facts.h"
 #include "prefs/plist_settings_store.h"
 #include "toolkit/localization.h"
 
@@ -29,24 +28,16 @@ int runSnapshot(const AppOptions& options, int argc, char** argv)
 
     AppDelegate delegate(openSettingsStore(options), makeSourceSet(options.root.toStdString()));
     int finished = 0;
-    const ProcessDict names = delegate.collector().retProcessDict();
+    SnapshotReport report(delegate.collector());
     QObject::connect(&delegate, &AppDelegate::cycleFinished, &app, [&] {
-        // Every cycle scans the processes, so the last scan's shares cover the last interval.
-        const auto processes = delegate.collector().psGetProccessAsKv(QStringLiteral("%cpu"), names, 10, -1);
+        report.cycleFinished();
         if (++finished < options.cycles)
             return;
-        SnapshotReport::CpuPanelRows panel;
-        panel.processor = cpuKindText(delegate.collector());
-        panel.graphics = gpuRowTexts(delegate.collector());
-        if (processes && processes->size() == 2 && !processes->at(0).isEmpty()) {
-            panel.processNames = processes->at(0).split(QLatin1Char('\n'), Qt::SkipEmptyParts);
-            panel.processValues = processes->at(1).split(QLatin1Char('\n'), Qt::SkipEmptyParts);
-        }
         QTextStream out(stdout);
         if (options.json)
-            out << SnapshotReport::json(delegate, panel);
+            out << report.json(delegate);
         else
-            out << SnapshotReport::text(delegate, panel);
+            out << report.text(delegate);
         out.flush();
         QCoreApplication::quit();
     });

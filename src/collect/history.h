@@ -8,6 +8,8 @@
 // Samples are held by shared pointer in chunks of kChunkSize, themselves shared: an append copies
 // the short list of chunks and the last, partly filled chunk, never the samples and never the
 // whole history, so keeping 512 samples costs about as much per append as keeping 64.
+class InfoDict;
+
 template <class Sample> class History {
 public:
     static constexpr std::size_t kMaxSamples = 512;
@@ -73,6 +75,9 @@ public:
     [[nodiscard]] const void* identity() const { return chunks_.get(); }
 
 private:
+    // The sampled-data set keeps histories of any sample type without knowing them.
+    friend class InfoDict;
+
     static constexpr std::size_t kChunkSize = 64;
     using Chunk = std::vector<std::shared_ptr<const Sample>>;
     using Chunks = std::vector<std::shared_ptr<const Chunk>>;

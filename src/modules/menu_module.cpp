@@ -1,14 +1,18 @@
 // The shared status-item life cycle: creation, menu opening and closing, per-tick redraws.
 #include "modules/menu_module.h"
 
+#include "modules/module_registry.h"
+
 #include <QGuiApplication>
 #include <QMenu>
 
-MenuModule::MenuModule(MenuModuleDelegate* delegate, int preferenceTab, QObject* parent)
+MenuModule::MenuModule(MenuModuleDelegate* delegate, ModuleId id, QObject* parent)
     : QObject(parent)
     , myDelegate(delegate)
-    , preferenceTab_(preferenceTab)
-{}
+    , id_(id)
+{
+    setObjectName(QString::fromLatin1(moduleSchema(id).moduleKey));
+}
 
 MenuModule::~MenuModule()
 {
@@ -58,7 +62,7 @@ void MenuModule::menuDidClose()
 void MenuModule::openTab()
 {
     if (myDelegate)
-        myDelegate->openPreferenceTab(preferenceTab_);
+        myDelegate->openPreferenceTab(modulePreferenceTab(id_));
 }
 
 qreal MenuModule::pictureScale() const

@@ -2,8 +2,10 @@
 #pragma once
 
 #include "collect/info_dict.h"
+#include "collect/storage_descriptions.h"
 #include "modules/status_bar.h"
 #include "prefs/module_defaults.h"
+#include "prefs/module_id.h"
 
 #include <QImage>
 #include <QList>
@@ -24,6 +26,7 @@ public:
     virtual ~MenuModuleDelegate() = default;
     virtual LoadSystemInformation& collector() = 0;
     virtual SettingsStore& settingsStore() = 0;
+    // tabIndex: 0-based, in module registry order.
     virtual void openPreferenceTab(int tabIndex) = 0;
     // The colour theme in use, as stored in its file.
     virtual const QVariantMap& currentTheme() const = 0;
@@ -35,12 +38,19 @@ public:
 class MenuModule : public QObject {
     Q_OBJECT
 public:
-    MenuModule(MenuModuleDelegate* delegate, int preferenceTab, QObject* parent = nullptr);
+    MenuModule(MenuModuleDelegate* delegate, ModuleId id, QObject* parent = nullptr);
     ~MenuModule() override;
 
     void setMyDefaults(const ModuleDefaults& defaults) { myDefaults = defaults; }
     // Takes this module's history from the sampled data; modules without one ignore it.
     virtual void setHistory(const InfoDict& info) { Q_UNUSED(info) }
+    // The volume and disk descriptions, for modules that draw one set per disk or volume; the
+    // menu's rows follow at its next opening.
+    virtual void setStorageDescriptions(const DiskBaseDict& disks, std::shared_ptr<const VolumeBaseDict> volumes)
+    {
+        Q_UNUSED(disks)
+        Q_UNUSED(volumes)
+    }
     // Device pixels per point of the pictures: the screen's ratio unless set (renders choose theirs).
     void setPictureScale(qreal scale) { pictureScale_ = scale; }
     const ModuleDefaults& defaults() const { return myDefaults; }
@@ -51,6 +61,8 @@ public:
     void cycleStatusMenu();
     // Recomputes and redraws the picture.
     virtual void refreshBar() = 0;
+    // Draws again from what is described now, forgetting what was drawn (after a mount).
+    virtual void resetAndRefreshBar() { refreshBar(); }
 
     bool menuOpened() const { return menuOpened_; }
     void setMenuItemRefresh(bool refresh) { menuItemRefresh = refresh; }
@@ -102,7 +114,7 @@ protected:
     ModuleDefaults mnDefaultsTmp;
 
 private:
-    int preferenceTab_;
+    ModuleId id_;
     bool menuOpened_ = false;
     qreal pictureScale_ = 0; // 0: the screen's
     QImage shownImage_;

@@ -1,68 +1,109 @@
-// Registers each module's status-item class.
+// The registry of modules, built from the one list, and the look-ups over it.
 #include "modules/module_registry.h"
 
-#include "modules/cpu/cpu_menu_module.h"
-#include "modules/cpu/cpu_tab_view_controller.h"
-#include "modules/disk/disk_menu_module.h"
-#include "modules/disk/disk_tab_view_controller.h"
-#include "modules/general/general_menu_module.h"
-#include "modules/general/top_tab_view_controller.h"
-#include "modules/memory/memory_menu_module.h"
-#include "modules/memory/memory_tab_view_controller.h"
-#include "modules/network/network_menu_module.h"
-#include "modules/network/network_tab_view_controller.h"
-#include "modules/volume/volume_menu_module.h"
-#include "modules/volume/volume_tab_view_controller.h"
 #include "preferences/unbuilt_module_tab.h"
+
+#include <QString>
+
+#define TARVEL_MODULE(name) const ModuleDescriptor& name();
+#include "modules/module_list.h"
+#undef TARVEL_MODULE
+
+namespace {
+
+ModuleRegistry buildRegistry()
+{
+    ModuleRegistry registry{};
+    std::size_t next = 0;
+#define TARVEL_MODULE(name) registry.at(next++) = &name();
+#include "modules/module_list.h"
+#undef TARVEL_MODULE
+    // A module's place in the list is its identity: its history slot and its tab.
+    for (std::size_t i = 0; i < registry.size(); ++i)
+        Q_ASSERT(registry[i] != nullptr && moduleIndex(registry[i]->schema.id) == i);
+    return registry;
+}
+
+std::array<const ModuleSchema*, kModuleCount> buildSchemas()
+{
+    std::array<const ModuleSchema*, kModuleCount> schemas{};
+    for (std::size_t i = 0; i < schemas.size(); ++i)
+        schemas[i] = &moduleRegistry()[i]->schema;
+    return schemas;
+}
+
+} // namespace
+
+const ModuleRegistry& moduleRegistry()
+{
+    static const ModuleRegistry registry = buildRegistry();
+    return registry;
+}
+
+const ModuleDescriptor& moduleDescriptor(ModuleId id)
+{
+    return *moduleRegistry()[moduleIndex(id)];
+}
+
+const ModuleSchema& moduleSchema(ModuleId id)
+{
+    return moduleDescriptor(id).schema;
+}
+
+ModuleSchemaList allModuleSchemas()
+{
+    static const std::array<const ModuleSchema*, kModuleCount> schemas = buildSchemas();
+    return schemas;
+}
+
+std::optional<ModuleId> moduleForSortCode(long long code)
+{
+    for (const ModuleSchema* schema : allModuleSchemas()) {
+        if (schema->sortCode != 0 && schema->sortCode == code)
+            return schema->id;
+    }
+    return std::nullopt;
+}
+
+std::optional<ModuleId> moduleForNotification(const QString& name)
+{
+    for (const ModuleSchema* schema : allModuleSchemas()) {
+        if (name == QLatin1String(schema->notification))
+            return schema->id;
+    }
+    return std::nullopt;
+}
+
+std::optional<ModuleId> moduleForKey(const QString& key)
+{
+    for (const ModuleSchema* schema : allModuleSchemas()) {
+        if (key.compare(QLatin1String(schema->moduleKey), Qt::CaseInsensitive) == 0)
+            return schema->id;
+    }
+    return std::nullopt;
+}
 
 std::unique_ptr<MenuModule> createMenuModule(ModuleId id, MenuModuleDelegate* delegate)
 {
-    switch (id) {
-    case ModuleId::General:
-        return std::make_unique<General_MenuModule>(delegate);
-    case ModuleId::Cpu:
-        return std::make_unique<CPU_MenuModule>(delegate);
-    case ModuleId::Memory:
-        return std::make_unique<Memory_MenuModule>(delegate);
-    case ModuleId::Network:
-        return std::make_unique<Network_MenuModule>(delegate);
-    case ModuleId::Disk:
-        return std::make_unique<Disk_MenuModule>(delegate);
-    case ModuleId::Volume:
-        return std::make_unique<Volume_MenuModule>(delegate);
-    case ModuleId::Temp:
-    case ModuleId::Fan:
-    case ModuleId::Vnc:
-        return nullptr;
-    }
-    return nullptr;
+    const ModuleDescriptor& descriptor = moduleDescriptor(id);
+    return descriptor.createMenuModule != nullptr ? descriptor.createMenuModule(delegate) : nullptr;
 }
 
 bool moduleHasStatusItem(ModuleId id)
 {
-    return createMenuModule(id, nullptr) != nullptr;
+    return moduleDescriptor(id).createMenuModule != nullptr;
 }
 
 PreferenceTab* createPreferenceTab(ModuleId id, MenuModuleDelegate* delegate, SettingsStore& store,
                                    PrefNotificationCenter& center)
 {
-    switch (id) {
-    case ModuleId::General:
-        return new TopTabViewController(delegate, store, center);
-    case ModuleId::Cpu:
-        return new CpuTabViewController(store, center);
-    case ModuleId::Memory:
-        return new MemoryTabViewController(delegate, store, center);
-    case ModuleId::Network:
-        return new NetworkTabViewController(store, center);
-    case ModuleId::Disk:
-        return new DiskTabViewController(store, center);
-    case ModuleId::Volume:
-        return new VolumeTabViewController(store, center);
-    case ModuleId::Temp:
-    case ModuleId::Fan:
-    case ModuleId::Vnc:
-        break;
-    }
-    return new UnbuiltModuleTab(id, store, center);
+    const ModuleDescriptor& descriptor = moduleDescriptor(id);
+    if (descriptor.createPreferenceTab != nullptr)
+        return descriptor.createPreferenceTab(delegate, store, center);
+    return new UnbuiltModuleTab(descriptor.schema, store, center);
+}
+
+int modulePreferenceTab(ModuleId id)
+{
+    return static_cast<int>(moduleIndex(id));
 }

@@ -4,7 +4,8 @@
 #include "preferences/element_order_list.h"
 #include "preferences/picture_preview.h"
 #include "preferences/pref_slider_handlers.h"
-#include "prefs/pref_derived.h"
+#include "modules/module_registry.h"
+#include "prefs/pref_functions.h"
 #include "prefs/pref_keys.h"
 #include "prefs/settings_store.h"
 #include "toolkit/localization.h"
@@ -45,7 +46,7 @@ QString sliderText(PictureSettingsTab::SliderKind kind, qint64 stored)
 
 PictureSettingsTab::PictureSettingsTab(ModuleId id, QList<Element> elements, const char* orderKey, SettingsStore& store,
                                        PrefNotificationCenter& center, QWidget* parent)
-    : PreferenceTab(id, store, center, parent)
+    : PreferenceTab(moduleSchema(id), store, center, parent)
     , elements_(std::move(elements))
     , orderKey_(orderKey)
 {}
@@ -149,7 +150,10 @@ QSlider* PictureSettingsTab::addSlider(QFormLayout* form, const char* key, Slide
     connect(slider, &QSlider::valueChanged, this, [this, control](int value) { sliderChanged(control, value); });
     connect(slider, &QSlider::sliderMoved, this, [this, control](int value) {
         control.label->setText(sliderText(control.kind, storedValue(control.kind, value)));
-        noteChange(control.key, storedValue(control.kind, value));
+        // Kept in the store but not saved until the slider is let go, so the preview follows the
+        // hand without a write per step.
+        store().setInteger(QLatin1String(control.key), storedValue(control.kind, value));
+        settingsChanged();
     });
     return slider;
 }
@@ -181,7 +185,7 @@ void PictureSettingsTab::buildFrame(const char* previewName, QWidget* display, Q
 
 void PictureSettingsTab::loadControls()
 {
-    changes_.clear();
+    changedDefaults_.clear();
     const ModuleDefaults& d = myDefaults();
     if (elementList_ != nullptr) {
         QList<ElementOrderList::Entry> entries;
@@ -213,25 +217,14 @@ void PictureSettingsTab::loadControls()
     }
 }
 
-ModuleDefaults PictureSettingsTab::previewDefaults()
+ModuleDefaults PictureSettingsTab::previewDefaults() const
 {
-    ModuleDefaults defaults = myDefaults();
-    if (changes_.isEmpty())
-        return defaults;
-    for (auto it = changes_.cbegin(); it != changes_.cend(); ++it)
-        defaults.set(it.key(), it.value());
-    // The label lists and widths follow the changed choices; the theme's font is in the settings
-    // already, and the derived values read nothing else from the theme.
-    const QVariantMap font{
-        {QLatin1String(PrefKey::_FontPostScriptName), defaults.value(QLatin1String(PrefKey::_FontPostScriptName))},
-        {QLatin1String(PrefKey::_FontSizeDiff), defaults.value(QLatin1String(PrefKey::_FontSizeDiff))}};
-    addDerivedKeys(moduleId(), defaults, store(), font);
-    return defaults;
+    return changedDefaults_.isEmpty() ? myDefaults() : changedDefaults_;
 }
 
-void PictureSettingsTab::noteChange(const char* key, const QVariant& value)
+void PictureSettingsTab::settingsChanged()
 {
-    changes_.insert(QLatin1String(key), value);
+    changedDefaults_ = PrefFunctions::loadModuleDefaults(schema(), store(), theme(), allModuleSchemas());
     redrawPreview();
 }
 
@@ -246,11 +239,11 @@ void PictureSettingsTab::switchChanged(const char* key, bool on, const QVariantM
     if (loading())
         return;
     store().setBool(QLatin1String(key), on);
-    noteChange(key, on);
+    settingsChanged();
     commit(userInfo);
     // The label switch lives in the General settings too: this keeps that dictionary in step.
     if (alsoGeneral)
-        postAs(ModuleId::General, {});
+        postAs(moduleSchema(ModuleId::General), {});
 }
 
 void PictureSettingsTab::elementSwitched(qint64 code, bool on)
@@ -270,7 +263,7 @@ void PictureSettingsTab::orderChanged(const QList<qint64>& order)
     for (const qint64 code : order)
         stored.append(code);
     store().setArray(QLatin1String(orderKey_), stored);
-    noteChange(orderKey_, stored);
+    settingsChanged();
     commit();
 }
 
@@ -290,7 +283,7 @@ void PictureSettingsTab::sliderChanged(const SliderControl& control, int positio
         PrefFunctions::limenBaseSliderChange(position, store(), control.label, key);
         break;
     }
-    noteChange(control.key, storedValue(control.kind, position));
+    settingsChanged();
     commit();
 }
 
@@ -300,6 +293,6 @@ void PictureSettingsTab::popupChanged(const PopupControl& control, int index)
         return;
     const qint64 value = control.firstValue + index;
     store().setInteger(QLatin1String(control.key), value);
-    noteChange(control.key, value);
+    settingsChanged();
     commit();
 }

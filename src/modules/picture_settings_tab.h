@@ -68,12 +68,12 @@ protected:
 
     // Fills every control made above from the settings; derived tabs call it from loadViews().
     void loadControls();
-    // The module's settings with this tab's unsaved-yet-unreturned changes laid over them and
-    // the derived layout values (label lists and widths) worked out again, so the preview
-    // follows at once instead of after the round trip through the application.
-    ModuleDefaults previewDefaults();
-    // Remembers a stored value until the application hands the reloaded settings back.
-    void noteChange(const char* key, const QVariant& value);
+    // The module's settings as the store holds them now: after a change of this tab, read again
+    // from the store with their derived values, so the preview follows at once instead of after
+    // the round trip through the application.
+    ModuleDefaults previewDefaults() const;
+    // A control wrote the store: the preview is drawn from the stored settings.
+    void settingsChanged();
     virtual void redrawPreview() = 0;
     void showPreview(const QImage& image);
 
@@ -102,5 +102,6 @@ private:
     std::vector<std::pair<const char*, QCheckBox*>> switches_;
     std::vector<PopupControl> popups_;
     std::vector<SliderControl> sliders_;
-    QVariantHash changes_;
+    // The stored settings since this tab's last change; empty until then.
+    ModuleDefaults changedDefaults_;
 };

@@ -4,13 +4,14 @@
 #include "preferences/pref_notification.h"
 #include "prefs/settings_store.h"
 
-PreferenceTab::PreferenceTab(ModuleId id, SettingsStore& store, PrefNotificationCenter& center, QWidget* parent)
+PreferenceTab::PreferenceTab(const ModuleSchema& schema, SettingsStore& store, PrefNotificationCenter& center,
+                             QWidget* parent)
     : QWidget(parent)
-    , id_(id)
+    , schema_(schema)
     , store_(store)
     , center_(center)
 {
-    setObjectName(QString::fromLatin1(moduleKeys(id).historyKey));
+    setObjectName(QString::fromLatin1(schema.moduleKey));
 }
 
 void PreferenceTab::setMyDefaults(const AllModuleDefaults& all)
@@ -40,10 +41,10 @@ bool PreferenceTab::commit(const QVariantMap& userInfo)
 
 void PreferenceTab::post(const QVariantMap& userInfo)
 {
-    postAs(id_, userInfo);
+    postAs(schema_, userInfo);
 }
 
-void PreferenceTab::postAs(ModuleId id, const QVariantMap& userInfo)
+void PreferenceTab::postAs(const ModuleSchema& schema, const QVariantMap& userInfo)
 {
-    center_.post(QString::fromLatin1(moduleKeys(id).notification), userInfo);
+    center_.post(QString::fromLatin1(schema.notification), userInfo);
 }

@@ -1,34 +1,47 @@
 // What every preferences tab shares: its module, the store it writes, the notification it posts.
 #pragma once
 
-#include "collect/info_dict.h"
+#include "collect/storage_descriptions.h"
 #include "prefs/module_defaults.h"
-#include "prefs/module_table.h"
+#include "prefs/pref_schema.h"
 
 #include <QVariantMap>
 #include <QWidget>
 
 #include <array>
+#include <memory>
 
+class InfoDict;
 class PrefNotificationCenter;
 class SettingsStore;
 
 // Every module's working dictionary, in module table order.
-using AllModuleDefaults = std::array<ModuleDefaults, 9>;
+using AllModuleDefaults = std::array<ModuleDefaults, kModuleCount>;
 
 class PreferenceTab : public QWidget {
     Q_OBJECT
 public:
-    PreferenceTab(ModuleId id, SettingsStore& store, PrefNotificationCenter& center, QWidget* parent = nullptr);
+    PreferenceTab(const ModuleSchema& schema, SettingsStore& store, PrefNotificationCenter& center,
+                  QWidget* parent = nullptr);
 
-    ModuleId moduleId() const { return id_; }
+    ModuleId moduleId() const { return schema_.id; }
+    const ModuleSchema& schema() const { return schema_; }
 
+    // The colour theme in use, for settings the tab works out again itself. Call before
+    // setMyDefaults.
+    void setTheme(const QVariantMap& theme) { theme_ = theme; }
     // Takes the current settings and shows them; the tab's own changes are not posted meanwhile.
     void setMyDefaults(const AllModuleDefaults& all);
     // Shows the settings again from scratch (after a theme change, for example).
     virtual void resetViews(int which);
     // The sampled data, for live previews; handed over only while the window is shown.
     virtual void setLiveHistory(const InfoDict& info) { Q_UNUSED(info) }
+    // The volume and disk descriptions, for tabs whose previews draw one set per disk or volume.
+    virtual void setStorageDescriptions(const DiskBaseDict& disks, std::shared_ptr<const VolumeBaseDict> volumes)
+    {
+        Q_UNUSED(disks)
+        Q_UNUSED(volumes)
+    }
     virtual void rebuildThemeMenus() {}
     virtual void rebuildFontMenus() {}
     virtual void loadModuleEnabled() {}
@@ -42,7 +55,8 @@ protected:
     // Puts the settings into the widgets. Runs with the tab's change handling switched off.
     virtual void loadViews() = 0;
 
-    const ModuleDefaults& myDefaults() const { return all_[static_cast<std::size_t>(id_)]; }
+    const ModuleDefaults& myDefaults() const { return all_[moduleIndex(schema_.id)]; }
+    const QVariantMap& theme() const { return theme_; }
     const AllModuleDefaults& allDefaults() const { return all_; }
     SettingsStore& store() { return store_; }
     // True while loadViews runs: widget signals then are not the user's changes.
@@ -53,10 +67,11 @@ protected:
     bool commit(const QVariantMap& userInfo = {});
     // Posts without touching the store (colours and fonts live in the theme).
     void post(const QVariantMap& userInfo);
-    void postAs(ModuleId id, const QVariantMap& userInfo);
+    void postAs(const ModuleSchema& schema, const QVariantMap& userInfo);
 
 private:
-    ModuleId id_;
+    const ModuleSchema& schema_;
+    QVariantMap theme_;
     SettingsStore& store_;
     PrefNotificationCenter& center_;
     AllModuleDefaults all_;

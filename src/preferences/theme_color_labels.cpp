@@ -6,12 +6,12 @@
 
 #include <QHash>
 
-QStringList themeColorKeysOf(ModuleId id)
+QStringList themeColorKeysOf(const ModuleSchema& schema)
 {
-    if (id == ModuleId::General)
+    if (schema.id == ModuleId::General)
         return {QStringLiteral("Z01"), QStringLiteral("Z03")};
     QStringList keys;
-    for (const char* key : moduleSchema(id).colorKeys) {
+    for (const char* key : schema.colorKeys) {
         const QString k = QString::fromLatin1(key);
         if (!k.startsWith(QLatin1Char('Z')))
             keys << k;

@@ -6,8 +6,9 @@
 #include <QLabel>
 #include <QVBoxLayout>
 
-UnbuiltModuleTab::UnbuiltModuleTab(ModuleId id, SettingsStore& store, PrefNotificationCenter& center, QWidget* parent)
-    : PreferenceTab(id, store, center, parent)
+UnbuiltModuleTab::UnbuiltModuleTab(const ModuleSchema& schema, SettingsStore& store, PrefNotificationCenter& center,
+                                   QWidget* parent)
+    : PreferenceTab(schema, store, center, parent)
 {
     auto* layout = new QVBoxLayout(this);
     auto* line = new QLabel(localized("This module is not available on this system yet."), this);

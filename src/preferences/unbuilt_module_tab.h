@@ -6,7 +6,8 @@
 class UnbuiltModuleTab : public PreferenceTab {
     Q_OBJECT
 public:
-    UnbuiltModuleTab(ModuleId id, SettingsStore& store, PrefNotificationCenter& center, QWidget* parent = nullptr);
+    UnbuiltModuleTab(const ModuleSchema& schema, SettingsStore& store, PrefNotificationCenter& center,
+                     QWidget* parent = nullptr);
 
 protected:
     void loadViews() override {}

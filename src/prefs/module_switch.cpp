@@ -11,59 +11,19 @@ namespace PrefFunctions {
 
 using namespace PrefKey;
 
-const std::vector<const char*>& moduleDisplayKeys(ModuleId id)
+bool isModuleSwitchedOn(const SettingsStore& store, const ModuleSchema& schema)
 {
-    static const std::vector<const char*> general{DisplayMyMenuIcon};
-    static const std::vector<const char*> cpu{Cpu_Display_Graph, Cpu_Display_LevelBar, Cpu_Display_CircleMeter,
-                                              Cpu_Display_Text};
-    static const std::vector<const char*> memory{Memory_Display_Graph, Memory_Display_LevelBar,
-                                                 Memory_Display_CircleMeter, Memory_Display_Text,
-                                                 Memory_Display_DetailText};
-    // The up/down label alone is no picture, so it does not switch the module on.
-    static const std::vector<const char*> network{Network_Display_UdCircle, Network_Display_Graph,
-                                                  Network_Display_Text};
-    static const std::vector<const char*> disk{Disk_Display_Indicator, Disk_Display_Graph, Disk_Display_Text};
-    static const std::vector<const char*> volume{Vlms_Display_BarChart, Vlms_Display_CycleChart, Vlms_Display_Graph,
-                                                 Vlms_Display_Text, Vlms_Display_Percent};
-    static const std::vector<const char*> temp{Temp_Display_Text, Temp_Display_Graph};
-    static const std::vector<const char*> fan{Fan_Display_Text, Fan_Display_Graph};
-    static const std::vector<const char*> vnc{Vnc_ShowMenu};
-    switch (id) {
-    case ModuleId::General:
-        return general;
-    case ModuleId::Cpu:
-        return cpu;
-    case ModuleId::Memory:
-        return memory;
-    case ModuleId::Network:
-        return network;
-    case ModuleId::Disk:
-        return disk;
-    case ModuleId::Volume:
-        return volume;
-    case ModuleId::Temp:
-        return temp;
-    case ModuleId::Fan:
-        return fan;
-    case ModuleId::Vnc:
-        break;
-    }
-    return vnc;
-}
-
-bool isModuleSwitchedOn(const SettingsStore& store, ModuleId id)
-{
-    const auto& keys = moduleDisplayKeys(id);
+    const auto& keys = schema.displayKeys;
     return std::any_of(keys.begin(), keys.end(), [&](const char* key) { return store.boolForKey(key); });
 }
 
 namespace {
 
-QStringList firstRunDisplayKeys(ModuleId id)
+QStringList firstRunDisplayKeys(const ModuleSchema& schema)
 {
     QStringList on;
-    const auto& keys = moduleDisplayKeys(id);
-    for (const PrefField& field : moduleSchema(id).fields) {
+    const auto& keys = schema.displayKeys;
+    for (const PrefField& field : schema.fields) {
         if (field.factory.toBool() && std::find(keys.begin(), keys.end(), QString::fromLatin1(field.key)) != keys.end())
             on << QString::fromLatin1(field.key);
     }
@@ -75,13 +35,13 @@ QStringList firstRunDisplayKeys(ModuleId id)
 
 } // namespace
 
-void setModuleSwitch(SettingsStore& store, ModuleId id, bool on)
+void setModuleSwitch(SettingsStore& store, const ModuleSchema& schema, bool on)
 {
-    if (on == isModuleSwitchedOn(store, id))
+    if (on == isModuleSwitchedOn(store, schema))
         return;
-    const QString moduleKey = QString::fromLatin1(moduleKeys(id).historyKey);
+    const QString moduleKey = QString::fromLatin1(schema.moduleKey);
     QVariantMap memory = store.objectForKey(ModuleSwitchMemory).toMap();
-    const auto& keys = moduleDisplayKeys(id);
+    const auto& keys = schema.displayKeys;
     if (!on) {
         QStringList wasOn;
         for (const char* key : keys) {
@@ -96,7 +56,7 @@ void setModuleSwitch(SettingsStore& store, ModuleId id, bool on)
     QStringList restore = memory.value(moduleKey).toStringList();
     restore.removeIf([&](const QString& key) { return std::find(keys.begin(), keys.end(), key) == keys.end(); });
     if (restore.isEmpty())
-        restore = firstRunDisplayKeys(id);
+        restore = firstRunDisplayKeys(schema);
     for (const QString& key : restore)
         store.setBool(key, true);
     memory.remove(moduleKey);

@@ -2,7 +2,7 @@
 #pragma once
 
 #include "prefs/module_defaults.h"
-#include "prefs/module_table.h"
+#include "prefs/pref_schema.h"
 #include "prefs/settings_store.h"
 
 #include <QStringList>
@@ -14,29 +14,14 @@
 namespace PrefFunctions {
 
 // First-run values of one module, written and synchronised.
-void initializeModulePreference(ModuleId id, SettingsStore& store);
-void initializeGeneralPreference(SettingsStore& store);
-void initializeCpuPreference(SettingsStore& store);
-void initializeMemoryPreference(SettingsStore& store);
-void initializeNetworkPreference(SettingsStore& store);
-void initializeDiskPreference(SettingsStore& store);
-void initializeVolumePreference(SettingsStore& store);
-void initializeTempPreference(SettingsStore& store);
-void initializeFanPreference(SettingsStore& store);
-void initializeVncPreference(SettingsStore& store);
+void initializeModulePreference(const ModuleSchema& schema, SettingsStore& store);
 
-// A module's working dictionary from the store and the current theme. The Temp and Fan loaders
-// repair an out-of-range maximum in the store, hence the store is not const.
-ModuleDefaults loadModuleDefaults(ModuleId id, SettingsStore& store, const QVariantMap& theme);
-ModuleDefaults loadGeneralDefaults(SettingsStore& store, const QVariantMap& theme);
-ModuleDefaults loadCpuDefaults(SettingsStore& store, const QVariantMap& theme);
-ModuleDefaults loadMemoryDefaults(SettingsStore& store, const QVariantMap& theme);
-ModuleDefaults loadNetworkDefaults(SettingsStore& store, const QVariantMap& theme);
-ModuleDefaults loaddiskDefaults(SettingsStore& store, const QVariantMap& theme);
-ModuleDefaults loadvolumeDefaults(SettingsStore& store, const QVariantMap& theme);
-ModuleDefaults loadTempDefaults(SettingsStore& store, const QVariantMap& theme);
-ModuleDefaults loadFanDefaults(SettingsStore& store, const QVariantMap& theme);
-ModuleDefaults loadVncDefaults(SettingsStore& store, const QVariantMap& theme);
+// A module's working dictionary from the store and the current theme: its stored keys, theme
+// colours, pictures and fonts, and its derived values. all: every module's schema (the General
+// dictionary carries every module's switch). Some modules repair out-of-range stored values,
+// hence the store is not const.
+ModuleDefaults loadModuleDefaults(const ModuleSchema& schema, SettingsStore& store, const QVariantMap& theme,
+                                  ModuleSchemaList all);
 
 // Menu-bar order codes: CPU, Memory, Network, Disk, Volume, Temp, Fan, VNC.
 QVariantList defaultModuleSortArray();

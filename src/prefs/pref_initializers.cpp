@@ -5,24 +5,14 @@
 
 namespace PrefFunctions {
 
-void initializeModulePreference(ModuleId id, SettingsStore& store)
+void initializeModulePreference(const ModuleSchema& schema, SettingsStore& store)
 {
-    for (const PrefField& field : moduleSchema(id).fields) {
+    for (const PrefField& field : schema.fields) {
         if (field.factory.isValid())
             store.setObject(QString::fromLatin1(field.key), field.factory);
     }
     store.synchronize();
 }
-
-void initializeGeneralPreference(SettingsStore& store) { initializeModulePreference(ModuleId::General, store); }
-void initializeCpuPreference(SettingsStore& store) { initializeModulePreference(ModuleId::Cpu, store); }
-void initializeMemoryPreference(SettingsStore& store) { initializeModulePreference(ModuleId::Memory, store); }
-void initializeNetworkPreference(SettingsStore& store) { initializeModulePreference(ModuleId::Network, store); }
-void initializeDiskPreference(SettingsStore& store) { initializeModulePreference(ModuleId::Disk, store); }
-void initializeVolumePreference(SettingsStore& store) { initializeModulePreference(ModuleId::Volume, store); }
-void initializeTempPreference(SettingsStore& store) { initializeModulePreference(ModuleId::Temp, store); }
-void initializeFanPreference(SettingsStore& store) { initializeModulePreference(ModuleId::Fan, store); }
-void initializeVncPreference(SettingsStore& store) { initializeModulePreference(ModuleId::Vnc, store); }
 
 QVariantList defaultModuleSortArray()
 {

@@ -1,7 +1,6 @@
 // Building a module's working dictionary: stored keys, theme colours, pictures and fonts.
 #include "prefs/pref_functions.h"
 
-#include "prefs/pref_derived.h"
 #include "prefs/pref_keys.h"
 #include "prefs/pref_schema.h"
 #include "prefs/theme_color.h"
@@ -64,28 +63,20 @@ void addThemeEntries(ModuleDefaults& dict, const ModuleSchema& schema, const QVa
 
 namespace PrefFunctions {
 
-ModuleDefaults loadModuleDefaults(ModuleId id, SettingsStore& store, const QVariantMap& theme)
+ModuleDefaults loadModuleDefaults(const ModuleSchema& schema, SettingsStore& store, const QVariantMap& theme,
+                                  ModuleSchemaList all)
 {
-    const ModuleSchema& schema = moduleSchema(id);
     ModuleDefaults dict;
     for (const PrefField& field : schema.fields)
         dict.set(QString::fromLatin1(field.key), readField(store, field));
     addThemeEntries(dict, schema, theme);
-    addDerivedKeys(id, dict, store, theme);
+    if (schema.derive != nullptr)
+        schema.derive(dict, store, theme, all);
 
     // The General tab is named after the application itself.
-    dict.set(PrefName, id == ModuleId::General ? QStringLiteral("Tarvel") : QString::fromLatin1(moduleKeys(id).prefName));
+    dict.set(PrefName,
+             schema.id == ModuleId::General ? QStringLiteral("Tarvel") : QString::fromLatin1(schema.prefName));
     return dict;
 }
-
-ModuleDefaults loadGeneralDefaults(SettingsStore& s, const QVariantMap& t) { return loadModuleDefaults(ModuleId::General, s, t); }
-ModuleDefaults loadCpuDefaults(SettingsStore& s, const QVariantMap& t) { return loadModuleDefaults(ModuleId::Cpu, s, t); }
-ModuleDefaults loadMemoryDefaults(SettingsStore& s, const QVariantMap& t) { return loadModuleDefaults(ModuleId::Memory, s, t); }
-ModuleDefaults loadNetworkDefaults(SettingsStore& s, const QVariantMap& t) { return loadModuleDefaults(ModuleId::Network, s, t); }
-ModuleDefaults loaddiskDefaults(SettingsStore& s, const QVariantMap& t) { return loadModuleDefaults(ModuleId::Disk, s, t); }
-ModuleDefaults loadvolumeDefaults(SettingsStore& s, const QVariantMap& t) { return loadModuleDefaults(ModuleId::Volume, s, t); }
-ModuleDefaults loadTempDefaults(SettingsStore& s, const QVariantMap& t) { return loadModuleDefaults(ModuleId::Temp, s, t); }
-ModuleDefaults loadFanDefaults(SettingsStore& s, const QVariantMap& t) { return loadModuleDefaults(ModuleId::Fan, s, t); }
-ModuleDefaults loadVncDefaults(SettingsStore& s, const QVariantMap& t) { return loadModuleDefaults(ModuleId::Vnc, s, t); }
 
 } // namespace PrefFunctions

@@ -1,11 +1,18 @@
-// The stored keys of every module: their types and first-run values, and the theme entries used.
+// What a module's settings are: its keys in the General settings, its stored keys with their
+// types and first-run values, the theme entries it uses and the values derived from them.
 #pragma once
 
-#include "prefs/module_table.h"
+#include "prefs/module_defaults.h"
+#include "prefs/module_id.h"
 
 #include <QVariant>
+#include <QVariantMap>
 
+#include <initializer_list>
+#include <span>
 #include <vector>
+
+class SettingsStore;
 
 enum class PrefType {
     Bool,
@@ -30,10 +37,40 @@ struct ThemePictureUse {
     PictureSize size;
 };
 
+struct ModuleSchema;
+using ModuleSchemaList = std::span<const ModuleSchema* const>;
+
+// Adds the values worked out from the stored ones and the theme (text widths, label lists), and
+// repairs out-of-range stored values. all: every module's schema, for the General settings.
+using DeriveSettings = void (*)(ModuleDefaults& dict, SettingsStore& store, const QVariantMap& theme,
+                                ModuleSchemaList all);
+
 struct ModuleSchema {
+    ModuleId id;
+    const char* moduleKey;    // key of its history, and of its settings in the full set
+    const char* switchKey;    // in the General dictionary; the General module has its own switch
+    int sortCode;             // its number in the menu-bar order setting; 0 for General
+    const char* notification; // name of its preference-change notification
+    const char* prefName;     // display name of its settings tab ("" for General: the app name)
+    const char* intervalKey;  // seconds between samples; null for modules without a cadence
     std::vector<PrefField> fields;
     std::vector<const char*> colorKeys;
     std::vector<ThemePictureUse> pictures;
+    // The stored keys whose any being on switches the module on.
+    std::vector<const char*> displayKeys;
+    DeriveSettings derive = nullptr;
 };
 
-const ModuleSchema& moduleSchema(ModuleId id);
+// Pieces every module's schema is made of.
+namespace SchemaParts {
+
+QVariantList ints(std::initializer_list<int> values);
+// The three tool items every module menu may offer, appended to the fields.
+std::vector<PrefField> withToolItems(std::vector<PrefField> fields, const char* amon, const char* cnsl,
+                                     const char* tmnl);
+// The module's label picture and the shared menu icons, then its own pictures.
+std::vector<ThemePictureUse> sharedPictures(const char* label, std::initializer_list<ThemePictureUse> more);
+// The shared shadow and empty-line colours, then the module's own.
+std::vector<const char*> colors(std::initializer_list<const char*> own);
+
+} // namespace SchemaParts

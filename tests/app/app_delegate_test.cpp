@@ -77,7 +77,7 @@ TEST(AppCycle, CpuHistoryStartsOnSecondReadingAndIsReplacedNotEdited)
 
     // The first reading only primes the differences: nothing is kept, yet the module is redrawn.
     t.executor->finishCycle();
-    EXPECT_FALSE(t.app->infoDict().cpu.exists());
+    EXPECT_FALSE(t.cpuHistory().exists());
     const auto cpuRedraws = std::count_if(redraws.begin(), redraws.end(), [](const QList<QVariant>& args) {
         return args.at(0).value<ModuleId>() == ModuleId::Cpu && !args.at(1).toBool();
     });
@@ -86,7 +86,7 @@ TEST(AppCycle, CpuHistoryStartsOnSecondReadingAndIsReplacedNotEdited)
     // No history yet, so the CPU is due again at once despite its 2-second interval.
     t.app->loadSysInfoTimer();
     t.executor->finishCycle();
-    const History<CpuSample> first = t.app->infoDict().cpu;
+    const History<CpuSample> first = t.cpuHistory();
     ASSERT_EQ(first.size(), 1u);
     ASSERT_EQ(first.back().size(), 3u); // two processors and the machine
     EXPECT_EQ(first.back()[0], (CpuRecord{10, 10, 0, 20}));
@@ -97,14 +97,14 @@ TEST(AppCycle, CpuHistoryStartsOnSecondReadingAndIsReplacedNotEdited)
     t.executor->finishCycle();
     t.app->loadSysInfoTimer();
     t.executor->finishCycle();
-    EXPECT_EQ(t.app->infoDict().cpu.identity(), first.identity());
+    EXPECT_EQ(t.cpuHistory().identity(), first.identity());
 
     // Cycle 5 samples into a new history; the one handed out earlier is unchanged.
     t.queueTicks(ticks(130));
     t.app->loadSysInfoTimer();
     t.executor->finishCycle();
-    EXPECT_EQ(t.app->infoDict().cpu.size(), 2u);
-    EXPECT_NE(t.app->infoDict().cpu.identity(), first.identity());
+    EXPECT_EQ(t.cpuHistory().size(), 2u);
+    EXPECT_NE(t.cpuHistory().identity(), first.identity());
     EXPECT_EQ(first.size(), 1u);
 }
 
@@ -119,8 +119,8 @@ TEST(AppCycle, BodyRunsOffTheMainThreadAndResultsArriveOnIt)
     EXPECT_NE(t.cpu->readThread.load(), QThread::currentThreadId());
     t.app->loadSysInfoTimer();
     ASSERT_TRUE(cycles.wait(10000));
-    ASSERT_EQ(t.app->infoDict().cpu.size(), 1u);
-    EXPECT_EQ(t.app->infoDict().cpu.back()[0], (CpuRecord{20, 20, 0, 40}));
+    ASSERT_EQ(t.cpuHistory().size(), 1u);
+    EXPECT_EQ(t.cpuHistory().back()[0], (CpuRecord{20, 20, 0, 40}));
 }
 
 TEST(AppDdns, FirstUnforcedCheckComesAtTheEndOfThe599thCycle)

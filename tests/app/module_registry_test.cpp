@@ -2,6 +2,7 @@
 #include "recording_status_bar.h"
 #include "test_app.h"
 
+#include "modules/module_registry.h"
 #include "modules/cpu/cpu_menu_module.h"
 #include "prefs/pref_keys.h"
 
@@ -18,8 +19,8 @@ using namespace PrefKey;
 void writeOrder(TestApp& t, const QVariantList& order, bool cpuOn = true)
 {
     PlistSettingsStore store(t.settingsPath());
-    for (ModuleId id : kAllModules)
-        PrefFunctions::initializeModulePreference(id, store);
+    for (const ModuleSchema* schema : allModuleSchemas())
+        PrefFunctions::initializeModulePreference(*schema, store);
     store.setString(AppVersion, QStringLiteral("6.0.0"));
     store.setArray(TopItemSortArray, order);
     store.setBool(Cpu_Display_Graph, cpuOn);
@@ -94,7 +95,7 @@ TEST(ModuleRegistry, AnOpenMenuSamplesEveryCycleAndTemplatesThePicture)
         t.app->loadSysInfoTimer();
         t.executor->finishCycle();
     }
-    EXPECT_EQ(t.app->infoDict().cpu.size(), 3u);
+    EXPECT_EQ(t.cpuHistory().size(), 3u);
     // The panel under the graph: shares at once, the slower lines from its background thread.
     auto* panel = static_cast<CPU_MenuModule*>(cpu)->controller();
     ASSERT_NE(panel, nullptr);

@@ -1,7 +1,10 @@
-// Cadence rules of the per-module counters, and the collection steps of the cycle body.
+// Cadence rules of the schedule, the collection steps of the cycle body, and resets that must
+// survive a running cycle.
 #include "app/sampling_cycle.h"
 #include "collect/load_system_information.h"
+#include "modules/module_registry.h"
 #include "prefs/pref_keys.h"
+#include "test_app.h"
 
 #include "support/fake_network_source.h"
 #include "support/fixture_paths.h"
@@ -14,99 +17,88 @@ namespace {
 
 using namespace PrefKey;
 
-// Runs the CPU cadence for a number of cycles and returns the cycles (1-based) that sampled.
-std::vector<int> sampledCycles(ModuleDefaults& general, qint64 interval, int cycles,
-                               const std::vector<bool>& menuOpen = {})
+struct CadenceRow {
+    const char* what;
+    qint64 startCounter;
+    qint64 interval;
+    int cycles;
+    std::vector<bool> menuOpen; // per cycle, from the first
+    std::vector<int> sampled;   // 1-based cycles that sample
+};
+
+std::vector<int> sampledCycles(const CadenceRow& row)
 {
+    qint64 counter = row.startCounter;
     std::vector<int> sampled;
-    for (int c = 1; c <= cycles; ++c) {
-        general.set(Cpu_UpdateInterval, interval);
-        general.set(CpuInnerLoadData, false);
-        const bool open = c - 1 < static_cast<int>(menuOpen.size()) && menuOpen[static_cast<std::size_t>(c - 1)];
-        SamplingCycle::loadCounterUp(general, LaunchCpus, CpuInnerLoadCounterInt, Cpu_UpdateInterval, CpuInnerLoadData,
-                                     open);
-        if (general.boolValue(CpuInnerLoadData))
+    for (int c = 1; c <= row.cycles; ++c) {
+        const auto at = static_cast<std::size_t>(c - 1);
+        if (loadCounterUp(counter, row.interval, at < row.menuOpen.size() && row.menuOpen[at]))
             sampled.push_back(c);
     }
     return sampled;
 }
 
-ModuleDefaults switchedOn()
+// A schedule with one sampled module (CPU) on; the others have no step or are off.
+std::array<ModuleCadence, kModuleCount> cpuOnly(bool menuOpen = false, bool sampleNow = false)
 {
-    ModuleDefaults general;
-    general.set(LaunchCpus, true);
-    return general;
+    std::array<ModuleCadence, kModuleCount> modules{};
+    modules[moduleIndex(ModuleId::Cpu)] = {true, true, menuOpen, sampleNow};
+    modules[moduleIndex(ModuleId::Memory)] = {true, false, true, true};
+    return modules;
 }
 
 } // namespace
 
-TEST(LoadCounterUp, SamplesFirstCycleThenEveryIntervalAndEveryCycleWhileMenuOpen)
+TEST(LoadCounterUp, SamplesOnTheFirstCycleThenEveryIntervalAndWhileTheMenuIsOpen)
 {
-    ModuleDefaults general = switchedOn();
-    EXPECT_EQ(sampledCycles(general, 3, 8), (std::vector<int>{1, 4, 7}));
-
-    ModuleDefaults every = switchedOn();
-    EXPECT_EQ(sampledCycles(every, 1, 3), (std::vector<int>{1, 2, 3}));
-    ModuleDefaults zero = switchedOn();
-    EXPECT_EQ(sampledCycles(zero, 0, 3), (std::vector<int>{1, 2, 3}));
-
-    // With the menu open in cycles 2 and 3 those are sampled too, and the counter keeps running:
-    // the regular samples still fall on 4 and 7.
-    ModuleDefaults open = switchedOn();
-    EXPECT_EQ(sampledCycles(open, 3, 7, {false, true, true}), (std::vector<int>{1, 2, 3, 4, 7}));
+    const CadenceRow rows[] = {
+        {"interval 3", 0, 3, 8, {}, {1, 4, 7}},
+        {"interval 1", 0, 1, 3, {}, {1, 2, 3}},
+        {"interval 0 samples every cycle", 0, 0, 3, {}, {1, 2, 3}},
+        // The menu adds samples; the regular ones still fall on 4 and 7.
+        {"menu open in cycles 2 and 3", 0, 3, 7, {false, true, true}, {1, 2, 3, 4, 7}},
+        {"mid-interval counter waits", 2, 5, 4, {}, {4}},
+        {"counter past a shortened interval samples at once", 9, 3, 1, {}, {1}},
+        {"negative counter samples at once", -4, 3, 1, {}, {1}},
+    };
+    for (const CadenceRow& row : rows) {
+        SCOPED_TRACE(row.what);
+        EXPECT_EQ(sampledCycles(row), row.sampled);
+    }
 }
 
-TEST(LoadCounterUp, SwitchedOffLeavesFlagAndCounterAlone)
+TEST(SamplingSchedule, DecidesOnlySwitchedOnModulesWithAStepAndKeepsCountersWhileOff)
 {
-    ModuleDefaults general = switchedOn();
-    sampledCycles(general, 5, 2); // counter now 2
-    general.set(LaunchCpus, false);
-    EXPECT_TRUE(sampledCycles(general, 5, 3).empty());
-    EXPECT_EQ(general.intValue(CpuInnerLoadCounterInt), 2);
+    SamplingSchedule schedule;
+    schedule.setInterval(ModuleId::Cpu, 5);
+    schedule.setInterval(ModuleId::Memory, 1);
+    EXPECT_EQ(schedule.decide(cpuOnly()), DueModules().set(moduleIndex(ModuleId::Cpu)));
+    EXPECT_TRUE(schedule.decide(cpuOnly()).none());
+    EXPECT_EQ(schedule.counter(ModuleId::Cpu), 2);
 
-    // Back on, it resumes mid-interval: 3, 4, 5 are not sampled, the next regular one is.
-    general.set(LaunchCpus, true);
-    EXPECT_EQ(sampledCycles(general, 5, 4), (std::vector<int>{4}));
+    // Switched off, the counter stands still; back on, it resumes mid-interval.
+    auto off = cpuOnly();
+    off[moduleIndex(ModuleId::Cpu)].switchedOn = false;
+    schedule.decide(off);
+    EXPECT_EQ(schedule.counter(ModuleId::Cpu), 2);
 
-    // A counter at or past the interval (the interval was shortened) samples at once.
-    ModuleDefaults shortened = switchedOn();
-    shortened.set(CpuInnerLoadCounterInt, qint64{9});
-    EXPECT_EQ(sampledCycles(shortened, 3, 1), (std::vector<int>{1}));
-    ModuleDefaults negative = switchedOn();
-    negative.set(CpuInnerLoadCounterInt, qint64{-4});
-    EXPECT_EQ(sampledCycles(negative, 3, 1), (std::vector<int>{1}));
-}
-
-TEST(DecideDueModules, FirstCpuSampleIsTakenAtOnceAndIntervalsAreCopied)
-{
-    ModuleDefaults general = switchedOn();
-    general.set(LaunchMemo, true);
-    general.set(CpuInnerLoadCounterInt, qint64{1}); // mid-interval
-    general.set(MemoryInnerLoadCounterInt, qint64{1});
-    const std::array<qint64, 7> intervals{5, 5, 2, 2, 5, 5, 5};
-    SamplingCycle::decideDueModules(general, intervals, {}, /*cpuHistoryExists=*/false);
-    EXPECT_TRUE(general.boolValue(CpuInnerLoadData));
-    EXPECT_FALSE(general.boolValue(MemoryInnerLoadData));
-    EXPECT_EQ(general.intValue(Memory_UpdateInterval), 5);
-    EXPECT_EQ(general.intValue(Network_UpdateInterval), 2);
-
-    // Once a history exists the CPU waits for its interval like the others.
-    SamplingCycle::decideDueModules(general, intervals, {}, /*cpuHistoryExists=*/true);
-    EXPECT_FALSE(general.boolValue(CpuInnerLoadData));
-    EXPECT_FALSE(SamplingCycle::wasSampled(general, ModuleId::Cpu));
+    // A first sample is taken at once whatever the interval; so is one after a reset.
+    EXPECT_TRUE(schedule.decide(cpuOnly(false, true)).test(moduleIndex(ModuleId::Cpu)));
+    schedule.reset(ModuleId::Cpu);
+    EXPECT_TRUE(schedule.decide(cpuOnly()).test(moduleIndex(ModuleId::Cpu)));
 }
 
 TEST(LoadCycleSysInfo, AnEmptyVolumeSampleIsKeptAndAFailedDiskSampleIsNot)
 {
     // No sources at all: no volume to measure, no disk statistics to read.
     LoadSystemInformation loadInfo{SourceSet{}};
-    ModuleDefaults general;
-    general.set(VlmsInnerLoadData, true);
-    general.set(DiskInnerLoadData, true);
-    const InfoDict info = loadCycleSysInfo(loadInfo, {}, general, {});
-    ASSERT_EQ(info.volume.size(), 1u);
-    EXPECT_TRUE(info.volume.back().empty());
-    EXPECT_FALSE(info.disk.exists());
+    CycleInput cycle;
+    cycle.due.set(moduleIndex(ModuleId::Volume)).set(moduleIndex(ModuleId::Disk));
+    const InfoDict info = loadCycleSysInfo(loadInfo, {}, cycle, {});
+    const auto volumes = moduleHistory<VolumeSample>(info, ModuleId::Volume);
+    ASSERT_EQ(volumes.size(), 1u);
+    EXPECT_TRUE(volumes.back().empty());
+    EXPECT_FALSE(info.exists(moduleIndex(ModuleId::Disk)));
 }
 
 TEST(CycleBody, MemoryAndNetworkStepsAndTheInterfaceBaseBetweenSamples)
@@ -122,31 +114,60 @@ TEST(CycleBody, MemoryAndNetworkStepsAndTheInterfaceBaseBetweenSamples)
     LoadSystemInformation loadInfo(std::move(sources));
 
     CycleInput input;
-    input.general.set(LaunchMemo, true);
-    input.general.set(LaunchNetw, true);
-    input.intervals = {1, 1, 3, 1, 1, 1, 1};
-    const auto cycle = [&] {
+    input.intervals.fill(1);
+    input.intervals[moduleIndex(ModuleId::Network)] = 3;
+    const auto cycle = [&](bool networkDue) {
+        input.due.reset();
+        input.due.set(moduleIndex(ModuleId::Memory)).set(moduleIndex(ModuleId::Network), networkDue);
         CycleOutput out = SamplingCycle::runBody(loadInfo, input);
-        input.general = out.general;
         input.info = out.info;
         return out.quitRequested;
     };
+    const auto memory = [&] { return moduleHistory<MemorySample>(input.info, ModuleId::Memory); };
+    const auto traffic = [&] { return moduleHistory<NetworkSample>(input.info, ModuleId::Network); };
 
-    EXPECT_FALSE(cycle());
-    ASSERT_EQ(input.info.memory.size(), 1u);
-    ASSERT_EQ(input.info.network.size(), 1u);
-    EXPECT_EQ(input.info.network.back(), (NetworkSample{200, 100, 3.0, {{"eth0", 2, 1}}}));
+    EXPECT_FALSE(cycle(true));
+    ASSERT_EQ(memory().size(), 1u);
+    ASSERT_EQ(traffic().size(), 1u);
+    EXPECT_EQ(traffic().back(), (NetworkSample{200, 100, 3.0, {{"eth0", 2, 1}}}));
 
     // Not a Network second, yet the base follows the interfaces at once.
     network->listed.push_back(FakeNetworkSource::wired("usb0", "up"));
-    EXPECT_FALSE(cycle());
-    EXPECT_EQ(input.info.network.size(), 1u);
-    EXPECT_EQ(input.info.memory.size(), 2u);
+    EXPECT_FALSE(cycle(false));
+    EXPECT_EQ(traffic().size(), 1u);
+    EXPECT_EQ(memory().size(), 2u);
     EXPECT_TRUE(loadInfo.networkBaseDict()->contains("usb0"));
 
     // usb0 is still up at its next sample but its counters cannot be read: time to quit.
     network->secondLook["usb0"] = {true, std::nullopt};
-    EXPECT_FALSE(cycle());
-    EXPECT_TRUE(cycle());
-    EXPECT_EQ(input.info.network.size(), 2u);
+    EXPECT_FALSE(cycle(false));
+    EXPECT_TRUE(cycle(true));
+    EXPECT_EQ(traffic().size(), 2u);
+}
+
+TEST(SamplingSchedule, AMountDuringARunningCycleIsMeasuredAtTheNextCycle)
+{
+    TestApp t;
+    {
+        PlistSettingsStore store(t.settingsPath());
+        for (const ModuleSchema* schema : allModuleSchemas())
+            PrefFunctions::initializeModulePreference(*schema, store);
+        store.setString(AppVersion, QStringLiteral("6.0.0"));
+        store.setInteger(Vlms_UpdateInterval, 30);
+        store.synchronize();
+    }
+    t.launch();
+    t.executor->finishCycle(); // the first cycle measures every volume
+    const auto volumes = [&] { return moduleHistory<VolumeSample>(t.app->infoDict(), ModuleId::Volume).size(); };
+    ASSERT_EQ(volumes(), 1u);
+
+    // A slow cycle is under way when the mount is announced; it keeps its own decision...
+    t.app->loadSysInfoTimer();
+    t.app->moduleDskVolRefresh();
+    t.executor->finishCycle();
+    EXPECT_EQ(volumes(), 1u);
+    // ...and the next one measures the new volume, long before the 30-second interval is up.
+    t.app->loadSysInfoTimer();
+    t.executor->finishCycle();
+    EXPECT_EQ(volumes(), 2u);
 }

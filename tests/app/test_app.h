@@ -3,7 +3,9 @@
 
 #include "app/app_delegate.h"
 #include "app/cycle_executor.h"
+#include "collect/cpu_sample.h"
 #include "collect/cpu_source.h"
+#include "modules/module_descriptor.h"
 #include "prefs/plist_settings_store.h"
 #include "prefs/pref_functions.h"
 
@@ -53,6 +55,8 @@ struct TestApp {
     void queueTicks(std::vector<ProcessorTicks> ticks) { script->push_back(std::move(ticks)); }
     void launchOn(StatusBar* bar, bool threaded);
     PlistSettingsStore& store() { return static_cast<PlistSettingsStore&>(app->userDefaults()); }
+    // The CPU history of the last finished cycle.
+    History<CpuSample> cpuHistory() const { return moduleHistory<CpuSample>(app->infoDict(), ModuleId::Cpu); }
     QString settingsPath() const { return dir.filePath(QStringLiteral("settings.plist")); }
 
     QTemporaryDir dir;

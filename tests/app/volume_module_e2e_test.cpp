@@ -1,5 +1,6 @@
 // End to end: a file system mounted on a loop device shows in the Volume item within two
 // cycles, and leaves it after the unmount.
+#include "modules/module_registry.h"
 #include "app/volume_tracker.h"
 #include "modules/volume/volume_menu_module.h"
 #include "mount_test_support.h"
@@ -35,8 +36,8 @@ TEST(VolumeModuleEndToEnd, LoopMountShowsWithinTwoCyclesAndGoesAfterTheUnmount)
 
     {
         PlistSettingsStore store(t.settingsPath());
-        for (ModuleId id : kAllModules)
-            PrefFunctions::initializeModulePreference(id, store);
+        for (const ModuleSchema* schema : allModuleSchemas())
+            PrefFunctions::initializeModulePreference(*schema, store);
         store.setString(AppVersion, QStringLiteral("6.0.0"));
         store.setArray(TopItemSortArray, {7});
         store.setBool(Vlms_Display_Percent, true);

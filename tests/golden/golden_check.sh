@@ -11,7 +11,7 @@ mkdir -m 700 -p "$work/run"
 # Clock readings and the live file systems' fill change from run to run; everything else may not.
 normalize() {
   sed -E -e 's/"(uptime|awake)":"[^"]*"/"\1":"-"/g' -e '/^  (uptime|awake) /d' \
-      -e 's/"(\/|all)":\[[0-9]+,[0-9]+,[0-9]+\]/"\1":[-]/g'
+      -e 's/"(\/|all)":\[[0-9]+,[0-9]+,[0-9]+\]/"\1":[-]/g' -e 's/^(    Used ).*/\1-/' -e 's/ [0-9]+% used/ -% used/g'
 }
 
 failed=0

@@ -1,7 +1,9 @@
 // The CPU preferences tab: what each control stores and posts, and its live preview.
 #include "cpu_picture_defaults.h"
 #include "modules/cpu/cpu_bar_width.h"
+#include "collect/info_dict.h"
 #include "modules/cpu/cpu_tab_view_controller.h"
+#include "tab_settings.h"
 #include "preferences/element_order_list.h"
 #include "preferences/picture_preview.h"
 #include "preferences/pref_notification.h"
@@ -22,9 +24,14 @@ struct TabFixture {
     {
         QObject::connect(&center, &PrefNotificationCenter::posted,
                          [this](const PrefNotification& n) { posts.push_back(n); });
-        all[static_cast<std::size_t>(ModuleId::Cpu)] = cpu;
+        all[moduleIndex(ModuleId::Cpu)] = cpu;
+        theme = storeTabSettings(store, ModuleId::Cpu, cpu);
+        shown = store.values;
+        tab.setTheme(theme);
         tab.setMyDefaults(all);
     }
+    // The settings as the store holds them now, which the preview shows after a change.
+    ModuleDefaults stored() { return PrefFunctions::loadModuleDefaults(ModuleId::Cpu, store, theme); }
     template <class Widget> Widget* find(const char* key) { return tab.findChild<Widget*>(QLatin1String(key)); }
     double previewWidth() { return find<PicturePreview>("CpuPreview")->image().deviceIndependentSize().width(); }
 
@@ -32,6 +39,8 @@ struct TabFixture {
     PrefNotificationCenter center;
     std::vector<PrefNotification> posts;
     AllModuleDefaults all;
+    QVariantMap theme;
+    QVariantMap shown; // the store as the tab found it
     CpuTabViewController tab{store, center};
 };
 
@@ -49,7 +58,7 @@ TEST(CpuTab, EachControlStoresItsKeyAndPostsTheCpuNotification)
 {
     TabFixture f(graphAndText());
     ASSERT_TRUE(f.posts.empty()) << "showing the settings is no change";
-    ASSERT_TRUE(f.store.values.isEmpty());
+    ASSERT_EQ(f.store.values, f.shown);
 
     auto* graph = f.find<QSlider>(Cpu_GraphWidth);
     EXPECT_EQ(graph->value(), CpuTabViewController::kGraphSliderMin) << "a stored 3 sits at the first step";
@@ -111,16 +120,17 @@ TEST(CpuTab, PreviewIsTheBarPictureOfTheTabsSettingsOverLightAndDarkPanels)
     EXPECT_DOUBLE_EQ(f.previewWidth(), cpuBarWidth(settings, processors, height));
 
     InfoDict info;
-    info.cpu = cpuHistory(CpuSample(5, CpuRecord{3, 2, 1, 4}), 3);
+    info.setHistory(moduleIndex(ModuleId::Cpu), cpuHistory(CpuSample(5, CpuRecord{3, 2, 1, 4}), 3));
     f.tab.setLiveHistory(info);
     EXPECT_DOUBLE_EQ(f.previewWidth(), cpuBarWidth(settings, 4, height));
 
     // Changes show at once, before the application hands the reloaded settings back.
     f.find<ElementOrderList>(CpuItemSortArray)->item(1)->setCheckState(Qt::Checked);
     f.find<QSlider>(Cpu_GraphWidth)->setValue(6);
-    settings.set(Cpu_Display_LevelBar, true);
-    settings.set(Cpu_GraphWidth, qint64{60});
-    EXPECT_DOUBLE_EQ(f.previewWidth(), cpuBarWidth(settings, 4, height));
+    const ModuleDefaults stored = f.stored();
+    EXPECT_TRUE(stored.boolValue(Cpu_Display_LevelBar));
+    EXPECT_EQ(stored.intValue(Cpu_GraphWidth), 60);
+    EXPECT_DOUBLE_EQ(f.previewWidth(), cpuBarWidth(stored, 4, height));
 
     PicturePreview preview;
     QImage red(10, 20, QImage::Format_ARGB32_Premultiplied);

@@ -5,9 +5,10 @@
 #include "preferences/element_order_list.h"
 #include "preferences/picture_preview.h"
 #include "preferences/pref_notification.h"
-#include "prefs/pref_derived.h"
+#include "modules/module_registry.h"
 #include "storage_picture_defaults.h"
 #include "support/memory_settings_store.h"
+#include "tab_settings.h"
 #include "toolkit/menu_geometry.h"
 
 #include <QCheckBox>
@@ -24,7 +25,9 @@ template <class Tab> struct TabFixture {
     {
         QObject::connect(&center, &PrefNotificationCenter::posted,
                          [this](const PrefNotification& n) { posts.push_back(n); });
-        all[static_cast<std::size_t>(id)] = settings;
+        all[moduleIndex(id)] = settings;
+        theme = storeTabSettings(store, id, settings);
+        tab.setTheme(theme);
         tab.setMyDefaults(all);
     }
     template <class Widget> Widget* find(const char* key)
@@ -43,6 +46,7 @@ template <class Tab> struct TabFixture {
     PrefNotificationCenter center;
     std::vector<PrefNotification> posts;
     AllModuleDefaults all;
+    QVariantMap theme;
     Tab tab{store, center};
 };
 
@@ -93,7 +97,8 @@ TEST(DiskVolumeTabs, VolumeLabelsCountFromZeroAndThePreviewFollowsAtOnce)
     settings.set(Vlms_Text_Label, qint64{1});
     // Measured as the loader measures them, in the settings' font.
     MemorySettingsStore unused;
-    addDerivedKeys(ModuleId::Volume, settings, unused, {{_FontPostScriptName, settings.value(_FontPostScriptName)}});
+    moduleSchema(ModuleId::Volume)
+        .derive(settings, unused, {{_FontPostScriptName, settings.value(_FontPostScriptName)}}, allModuleSchemas());
     ASSERT_GT(settings.intValue(VlmsInnerTextLabelWidth), 0);
     TabFixture<VolumeTabViewController> f(ModuleId::Volume, settings);
     const auto previewWidth = [&f] {
@@ -112,8 +117,8 @@ TEST(DiskVolumeTabs, VolumeLabelsCountFromZeroAndThePreviewFollowsAtOnce)
     labels->setCurrentIndex(0); // "None"
     EXPECT_EQ(f.store.integerForKey(Vlms_Text_Label), 0);
     // The label column is measured again at once: the preview loses it before any reload.
-    ModuleDefaults without = settings;
-    without.set(VlmsInnerTextLabelWidth, qint64{0});
+    const ModuleDefaults without = PrefFunctions::loadModuleDefaults(ModuleId::Volume, f.store, f.theme);
+    EXPECT_EQ(without.intValue(VlmsInnerTextLabelWidth), 0);
     EXPECT_DOUBLE_EQ(previewWidth(), volumeBarWidth(without, 2, height));
 
     f.find<QComboBox>(Vlms_Percent_Mode)->setCurrentIndex(1);

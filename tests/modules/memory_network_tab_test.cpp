@@ -1,5 +1,6 @@
 // The Memory and Network preferences tabs: what each control stores and posts, and the preview.
 #include "memory_network_defaults.h"
+#include "collect/info_dict.h"
 #include "modules/memory/memory_bar_width.h"
 #include "modules/memory/memory_tab_view_controller.h"
 #include "modules/network/network_bar_width.h"
@@ -8,6 +9,7 @@
 #include "preferences/picture_preview.h"
 #include "preferences/pref_notification.h"
 #include "support/memory_settings_store.h"
+#include "tab_settings.h"
 #include "toolkit/menu_geometry.h"
 
 #include <QCheckBox>
@@ -26,7 +28,10 @@ template <class Tab> struct TabFixture {
     {
         QObject::connect(&center, &PrefNotificationCenter::posted,
                          [this](const PrefNotification& n) { posts.push_back(n); });
-        all[static_cast<std::size_t>(id)] = defaults;
+        all[moduleIndex(id)] = defaults;
+        theme = storeTabSettings(store, id, defaults);
+        shown = store.values;
+        tab->setTheme(theme);
         tab->setMyDefaults(all);
     }
     template <class Widget> Widget* find(const char* key)
@@ -42,6 +47,8 @@ template <class Tab> struct TabFixture {
     PrefNotificationCenter center;
     std::vector<PrefNotification> posts;
     AllModuleDefaults all;
+    QVariantMap theme;
+    QVariantMap shown; // the store as the tab found it
     std::unique_ptr<Tab> tab;
 };
 
@@ -81,7 +88,7 @@ TEST(MemoryTab, EachControlStoresItsKeyAndPostsTheMemoryNotification)
         return new MemoryTabViewController(nullptr, s, c);
     });
     ASSERT_TRUE(f.posts.empty()) << "showing the settings is no change";
-    ASSERT_TRUE(f.store.values.isEmpty());
+    ASSERT_EQ(f.store.values, f.shown);
 
     EXPECT_EQ(f.find<QSlider>(Memory_GraphWidth)->value(), 3);
     f.find<QSlider>(Memory_GraphWidth)->setValue(6);
@@ -122,11 +129,12 @@ TEST(MemoryTab, PreviewFollowsChangesAtOnce)
     EXPECT_DOUBLE_EQ(f.previewWidth("MemoryPreview"), memoryBarWidth(settings, memoryTextWidths(settings, 0), height));
 
     InfoDict info;
-    info.memory = historyOf<MemorySample>({{100, 300, 200, 250, 0, 0, -1, -1, 350, 150}});
+    info.setHistory(moduleIndex(ModuleId::Memory), historyOf<MemorySample>({{100, 300, 200, 250, 0, 0, -1, -1, 350, 150}}));
     f.tab->setLiveHistory(info);
     f.find<ElementOrderList>(MemoryItemSortArray)->item(0)->setCheckState(Qt::Checked);
-    settings.set(Memory_Display_Graph, true);
-    EXPECT_DOUBLE_EQ(f.previewWidth("MemoryPreview"), memoryBarWidth(settings, memoryTextWidths(settings, 0), height));
+    const ModuleDefaults stored = PrefFunctions::loadModuleDefaults(ModuleId::Memory, f.store, f.theme);
+    EXPECT_TRUE(stored.boolValue(Memory_Display_Graph));
+    EXPECT_DOUBLE_EQ(f.previewWidth("MemoryPreview"), memoryBarWidth(stored, memoryTextWidths(stored, 0), height));
 }
 
 TEST(NetworkTab, EachControlStoresItsKeyAndPostsTheNetworkNotification)

@@ -1,4 +1,6 @@
-// The schema: first-run values, working dictionaries, launch flags, repairs.
+// Every module's settings: first-run values, working dictionaries, launch flags, repairs.
+#include "modules/module_registry.h"
+#include "modules/module_settings.h"
 #include "prefs/plist_settings_store.h"
 #include "prefs/pref_functions.h"
 #include "prefs/pref_keys.h"
@@ -32,8 +34,8 @@ QByteArray png(int w, int h)
 TEST(PrefFunctions, FirstRunWritesEveryFactoryValueAndNothingElse)
 {
     Store s;
-    for (ModuleId id : kAllModules)
-        PrefFunctions::initializeModulePreference(id, s.store);
+    for (const ModuleSchema* schema : allModuleSchemas())
+        PrefFunctions::initializeModulePreference(*schema, s.store);
     EXPECT_EQ(s.store.arrayForKey(TopItemSortArray), (QVariantList{1, 2, 3, 4, 7, 5, 6, 8}));
     EXPECT_EQ(s.store.arrayForKey(CpuItemSortArray), (QVariantList{1, 2, 3, 4}));
     EXPECT_EQ(s.store.integerForKey(Cpu_GraphWidth), 3);
@@ -52,8 +54,8 @@ TEST(PrefFunctions, FirstRunWritesEveryFactoryValueAndNothingElse)
 TEST(PrefFunctions, LaunchFlagsFollowTheDisplaySwitches)
 {
     Store s;
-    for (ModuleId id : kAllModules)
-        PrefFunctions::initializeModulePreference(id, s.store);
+    for (const ModuleSchema* schema : allModuleSchemas())
+        PrefFunctions::initializeModulePreference(*schema, s.store);
     ModuleDefaults general = PrefFunctions::loadGeneralDefaults(s.store, {});
     EXPECT_TRUE(general.boolValue(LaunchCpus));
     EXPECT_TRUE(general.boolValue(LaunchVolume));

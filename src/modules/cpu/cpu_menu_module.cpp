@@ -3,6 +3,7 @@
 
 #include "modules/cpu/cpu_bar_width.h"
 #include "modules/cpu/cpu_usage_text.h"
+#include "modules/module_descriptor.h"
 #include "modules/standard_menu_items.h"
 #include "prefs/pref_keys.h"
 #include "toolkit/menu_geometry.h"
@@ -15,9 +16,8 @@
 using namespace PrefKey;
 
 CPU_MenuModule::CPU_MenuModule(MenuModuleDelegate* delegate, QObject* parent)
-    : MenuModule(delegate, 1, parent)
+    : MenuModule(delegate, ModuleId::Cpu, parent)
 {
-    setObjectName(QStringLiteral("CPU"));
     // The menu always shows one averaged graph, 400 points wide, in the user's colours.
     mnDefaults.set(Cpu_Display_Graph, true);
     mnDefaults.set(Cpu_Display_LevelBar, false);
@@ -31,8 +31,9 @@ CPU_MenuModule::CPU_MenuModule(MenuModuleDelegate* delegate, QObject* parent)
 
 void CPU_MenuModule::setHistory(const InfoDict& info)
 {
-    if (info.cpu.exists())
-        setResumeArray(info.cpu);
+    const History<CpuSample> history = moduleHistory<CpuSample>(info, ModuleId::Cpu);
+    if (history.exists())
+        setResumeArray(history);
 }
 
 void CPU_MenuModule::drawBaseStatusBar()

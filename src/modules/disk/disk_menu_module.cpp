@@ -4,6 +4,7 @@
 #include "modules/disk/disk_bar_width.h"
 #include "modules/disk/disk_menu_rows.h"
 #include "modules/disk/disk_utility.h"
+#include "modules/module_descriptor.h"
 #include "modules/standard_menu_items.h"
 #include "prefs/pref_keys.h"
 #include "toolkit/localization.h"
@@ -36,9 +37,8 @@ QIcon themeIcon(const ModuleDefaults& defaults, const char* key)
 } // namespace
 
 Disk_MenuModule::Disk_MenuModule(MenuModuleDelegate* delegate, QObject* parent)
-    : MenuModule(delegate, 4, parent)
+    : MenuModule(delegate, ModuleId::Disk, parent)
 {
-    setObjectName(QStringLiteral("Disk"));
     // The menu always shows every disk together in one graph, 400 points wide, without labels.
     mnDefaults.set(Disk_Display_Indicator, false);
     mnDefaults.set(Disk_Display_Graph, true);
@@ -52,8 +52,9 @@ Disk_MenuModule::Disk_MenuModule(MenuModuleDelegate* delegate, QObject* parent)
 
 void Disk_MenuModule::setHistory(const InfoDict& info)
 {
-    if (info.disk.exists())
-        setResumeArray(info.disk);
+    const History<DiskSample> history = moduleHistory<DiskSample>(info, ModuleId::Disk);
+    if (history.exists())
+        setResumeArray(history);
 }
 
 void Disk_MenuModule::setDiskBaseDict(const DiskBaseDict& diskBaseDict)

@@ -21,11 +21,16 @@ public:
     // The disks to show; the menu's blocks follow at its next opening.
     void setDiskBaseDict(const DiskBaseDict& diskBaseDict);
     const DiskBaseDict& diskBaseDict() const { return diskBaseDict_; }
+    void setStorageDescriptions(const DiskBaseDict& disks, std::shared_ptr<const VolumeBaseDict> volumes) override
+    {
+        Q_UNUSED(volumes)
+        setDiskBaseDict(disks);
+    }
     void refreshBar() override;
 
     bool checkcMenuOpened() const { return menuOpened(); }
     // Draws again from the disks now described (after a mount or an unmount).
-    void resetAndRefreshBar();
+    void resetAndRefreshBar() override;
 
     // The panel of disk blocks; none before the menu is built.
     Disk_MenuController* controller() const { return diskMenuController; }

@@ -4,6 +4,7 @@
 
 #include "modules/disk/disk_bar_width.h"
 #include "modules/disk/image_disk_bar.h"
+#include "modules/module_descriptor.h"
 #include "preferences/picture_preview.h"
 #include "prefs/pref_keys.h"
 #include "toolkit/label_lists.h"
@@ -67,9 +68,10 @@ QWidget* DiskTabViewController::buildDisplay()
 
 void DiskTabViewController::setLiveHistory(const InfoDict& info)
 {
-    if (!info.disk.exists() || info.disk.empty())
+    const History<DiskSample> history = moduleHistory<DiskSample>(info, ModuleId::Disk);
+    if (history.empty())
         return;
-    history_ = info.disk;
+    history_ = history;
     redrawPreview();
 }
 

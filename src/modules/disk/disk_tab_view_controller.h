@@ -18,6 +18,11 @@ public:
     void setLiveHistory(const InfoDict& info) override;
     // The disks the preview draws one set for, as the status item does.
     void setDiskBaseDict(const DiskBaseDict& diskBaseDict);
+    void setStorageDescriptions(const DiskBaseDict& disks, std::shared_ptr<const VolumeBaseDict> volumes) override
+    {
+        Q_UNUSED(volumes)
+        setDiskBaseDict(disks);
+    }
 
 protected:
     void loadViews() override;

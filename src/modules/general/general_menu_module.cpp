@@ -7,9 +7,8 @@
 #include <QMenu>
 
 General_MenuModule::General_MenuModule(MenuModuleDelegate* delegate, QObject* parent)
-    : MenuModule(delegate, 0, parent)
+    : MenuModule(delegate, ModuleId::General, parent)
 {
-    setObjectName(QStringLiteral("General"));
 }
 
 void General_MenuModule::drawBaseStatusBar()

@@ -1,6 +1,7 @@
 // Colour wells in a grid per module; a change carries the key and the new colour.
 #include "modules/general/top_tab_color_section.h"
 
+#include "modules/module_registry.h"
 #include "preferences/color_well.h"
 #include "preferences/theme_color_labels.h"
 #include "prefs/pref_keys.h"
@@ -22,11 +23,12 @@ TopTabColorSection::TopTabColorSection(QWidget* parent)
 {
     auto* layout = new QGridLayout(this);
     int slot = 0;
-    for (ModuleId id : kAllModules) {
-        const QStringList keys = themeColorKeysOf(id);
+    for (const ModuleSchema* schema : allModuleSchemas()) {
+        const ModuleId id = schema->id;
+        const QStringList keys = themeColorKeysOf(*schema);
         if (keys.isEmpty())
             continue;
-        const QString title = id == ModuleId::General ? localized("Shared") : localized(moduleKeys(id).prefName);
+        const QString title = id == ModuleId::General ? localized("Shared") : localized(schema->prefName);
         auto* group = new QGroupBox(title, this);
         auto* form = new QFormLayout(group);
         for (const QString& key : keys) {
@@ -52,7 +54,7 @@ void TopTabColorSection::showColors(const AllModuleDefaults& all)
         // Shared colours are resolved into every module's dictionary; the CPU one always exists.
         const ModuleId owner = owners_.value(it.key());
         const ModuleDefaults& source =
-            all[static_cast<std::size_t>(owner == ModuleId::General ? ModuleId::Cpu : owner)];
+            all[moduleIndex(owner == ModuleId::General ? ModuleId::Cpu : owner)];
         it.value()->setColor(source.color(it.key()));
     }
 }

@@ -45,7 +45,7 @@ QGroupBox* group(const QString& title, QWidget* content, QWidget* parent)
 
 TopTabViewController::TopTabViewController(MenuModuleDelegate* delegate, SettingsStore& store,
                                            PrefNotificationCenter& center, QWidget* parent)
-    : PreferenceTab(ModuleId::General, store, center, parent)
+    : PreferenceTab(moduleSchema(ModuleId::General), store, center, parent)
     , delegate_(delegate)
     , modules_(new ElementOrderList())
     , theme_(new TopTabThemeSection())
@@ -169,10 +169,10 @@ void TopTabViewController::loadModuleEnabled()
         const auto id = moduleForSortCode(code.toLongLong());
         if (id)
             entries.append({code.toLongLong(),
-                            moduleHasStatusItem(*id) ? localized(moduleKeys(*id).prefName)
-                                                     : localized(moduleKeys(*id).prefName) + QStringLiteral("  ") +
+                            moduleHasStatusItem(*id) ? localized(moduleSchema(*id).prefName)
+                                                     : localized(moduleSchema(*id).prefName) + QStringLiteral("  ") +
                                                            localized("(not available on this system yet)"),
-                            PrefFunctions::isModuleSwitchedOn(store(), *id)});
+                            PrefFunctions::isModuleSwitchedOn(store(), moduleSchema(*id))});
     }
     modules_->setEntries(entries);
 }
@@ -221,7 +221,7 @@ void TopTabViewController::moduleSwitched(qint64 code, bool on)
     const auto id = moduleForSortCode(code);
     if (!id || loading())
         return;
-    PrefFunctions::setModuleSwitch(store(), *id, on);
+    PrefFunctions::setModuleSwitch(store(), moduleSchema(*id), on);
     // The module's own settings changed too, so every working dictionary is loaded again; the
     // items are built anew so that a returning module takes its place in the order.
     commit({{QLatin1String(NotifKey::ModuleDefaultReload), true}, {QLatin1String(NotifKey::ModuleAllocNow), true}});

@@ -2,6 +2,7 @@
 #include "modules/memory/memory_menu_module.h"
 
 #include "collect/load_system_information.h"
+#include "modules/module_descriptor.h"
 #include "modules/standard_menu_items.h"
 #include "prefs/pref_keys.h"
 #include "toolkit/menu_geometry.h"
@@ -13,9 +14,8 @@
 using namespace PrefKey;
 
 Memory_MenuModule::Memory_MenuModule(MenuModuleDelegate* delegate, QObject* parent)
-    : MenuModule(delegate, 2, parent)
+    : MenuModule(delegate, ModuleId::Memory, parent)
 {
-    setObjectName(QStringLiteral("Memory"));
     // The menu always shows one graph, 400 points wide, in the user's view and colours.
     mnDefaults.set(Memory_Display_Graph, true);
     mnDefaults.set(Memory_Display_LevelBar, false);
@@ -28,8 +28,9 @@ Memory_MenuModule::Memory_MenuModule(MenuModuleDelegate* delegate, QObject* pare
 
 void Memory_MenuModule::setHistory(const InfoDict& info)
 {
-    if (info.memory.exists())
-        setResumeArray(info.memory);
+    const History<MemorySample> history = moduleHistory<MemorySample>(info, ModuleId::Memory);
+    if (history.exists())
+        setResumeArray(history);
 }
 
 void Memory_MenuModule::setResumeArray(const History<MemorySample>& history)

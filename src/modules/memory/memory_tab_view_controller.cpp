@@ -6,6 +6,7 @@
 #include "modules/memory/image_memory_bar.h"
 #include "modules/memory/memory_bar_width.h"
 #include "modules/menu_module.h"
+#include "modules/module_descriptor.h"
 #include "preferences/picture_preview.h"
 #include "prefs/pref_keys.h"
 #include "toolkit/label_lists.h"
@@ -64,9 +65,10 @@ void MemoryTabViewController::loadViews()
 
 void MemoryTabViewController::setLiveHistory(const InfoDict& info)
 {
-    if (!info.memory.exists() || info.memory.empty())
+    const History<MemorySample> history = moduleHistory<MemorySample>(info, ModuleId::Memory);
+    if (history.empty())
         return;
-    history_ = info.memory;
+    history_ = history;
     redrawPreview();
 }
 

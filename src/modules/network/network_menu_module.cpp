@@ -2,6 +2,7 @@
 #include "modules/network/network_menu_module.h"
 
 #include "collect/load_system_information.h"
+#include "modules/module_descriptor.h"
 #include "modules/network/network_bar_width.h"
 #include "modules/network/network_panel_rows.h"
 #include "modules/network/network_theme_keys.h"
@@ -48,9 +49,8 @@ std::optional<SettingsProgram> networkSettingsProgram()
 } // namespace
 
 Network_MenuModule::Network_MenuModule(MenuModuleDelegate* delegate, QObject* parent)
-    : MenuModule(delegate, 3, parent)
+    : MenuModule(delegate, ModuleId::Network, parent)
 {
-    setObjectName(QStringLiteral("Network"));
     pool_.setMaxThreadCount(1);
     // The menu always shows one graph, 400 points wide, in the user's style and colours.
     mnDefaults.set(Network_Display_UdLabel, false);
@@ -68,8 +68,9 @@ Network_MenuModule::~Network_MenuModule()
 
 void Network_MenuModule::setHistory(const InfoDict& info)
 {
-    if (info.network.exists())
-        setResumeArray(info.network);
+    const History<NetworkSample> history = moduleHistory<NetworkSample>(info, ModuleId::Network);
+    if (history.exists())
+        setResumeArray(history);
 }
 
 void Network_MenuModule::setResumeArray(const History<NetworkSample>& history)

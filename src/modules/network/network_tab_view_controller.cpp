@@ -4,6 +4,7 @@
 
 #include "modules/network/image_network_bar.h"
 #include "modules/network/network_bar_width.h"
+#include "modules/module_descriptor.h"
 #include "preferences/picture_preview.h"
 #include "prefs/pref_keys.h"
 #include "toolkit/label_lists.h"
@@ -69,9 +70,10 @@ void NetworkTabViewController::loadViews()
 
 void NetworkTabViewController::setLiveHistory(const InfoDict& info)
 {
-    if (!info.network.exists() || info.network.empty())
+    const History<NetworkSample> history = moduleHistory<NetworkSample>(info, ModuleId::Network);
+    if (history.empty())
         return;
-    history_ = info.network;
+    history_ = history;
     redrawPreview();
 }
 

@@ -2,6 +2,7 @@
 #include "modules/volume/volume_menu_module.h"
 
 #include "modules/disk/disk_utility.h"
+#include "modules/module_descriptor.h"
 #include "modules/standard_menu_items.h"
 #include "modules/volume/volume_bar_width.h"
 #include "modules/volume/volume_menu_rows.h"
@@ -45,11 +46,10 @@ QString quoted(const char* key, const QString& name)
 } // namespace
 
 Volume_MenuModule::Volume_MenuModule(MenuModuleDelegate* delegate, QObject* parent)
-    : MenuModule(delegate, 5, parent)
+    : MenuModule(delegate, ModuleId::Volume, parent)
     , ejector_(new VolumeEjector(this))
     , volumeBaseDict_(std::make_shared<const VolumeBaseDict>())
 {
-    setObjectName(QStringLiteral("Volume"));
     // The menu always shows all volumes together in one graph, 400 points wide.
     mnDefaults.set(Vlms_Display_BarChart, false);
     mnDefaults.set(Vlms_Display_CycleChart, false);
@@ -65,8 +65,9 @@ Volume_MenuModule::Volume_MenuModule(MenuModuleDelegate* delegate, QObject* pare
 
 void Volume_MenuModule::setHistory(const InfoDict& info)
 {
-    if (info.volume.exists())
-        setResumeArray(info.volume);
+    const History<VolumeSample> history = moduleHistory<VolumeSample>(info, ModuleId::Volume);
+    if (history.exists())
+        setResumeArray(history);
 }
 
 void Volume_MenuModule::setVolumeBaseDict(std::shared_ptr<const VolumeBaseDict> volumeBaseDict)

@@ -24,11 +24,16 @@ public:
     // The volumes to show; the menu's blocks and items follow at its next opening.
     void setVolumeBaseDict(std::shared_ptr<const VolumeBaseDict> volumeBaseDict);
     const VolumeBaseDict& volumeBaseDict() const { return *volumeBaseDict_; }
+    void setStorageDescriptions(const DiskBaseDict& disks, std::shared_ptr<const VolumeBaseDict> volumes) override
+    {
+        Q_UNUSED(disks)
+        setVolumeBaseDict(std::move(volumes));
+    }
     void refreshBar() override;
 
     bool checkcMenuOpened() const { return menuOpened(); }
     // Draws again from the volumes now described (after a mount or an unmount).
-    void resetAndRefreshBar();
+    void resetAndRefreshBar() override;
 
     // The panel of volume blocks; none before the menu is built.
     Volume_MenuController* controller() const { return volumeMenuController; }

@@ -4,6 +4,7 @@
 
 #include "modules/volume/image_volume_bar.h"
 #include "modules/volume/volume_bar_width.h"
+#include "modules/module_descriptor.h"
 #include "preferences/picture_preview.h"
 #include "prefs/pref_keys.h"
 #include "toolkit/label_lists.h"
@@ -74,9 +75,10 @@ QWidget* VolumeTabViewController::buildDisplay()
 
 void VolumeTabViewController::setLiveHistory(const InfoDict& info)
 {
-    if (!info.volume.exists() || info.volume.empty())
+    const History<VolumeSample> history = moduleHistory<VolumeSample>(info, ModuleId::Volume);
+    if (history.empty())
         return;
-    history_ = info.volume;
+    history_ = history;
     redrawPreview();
 }
 

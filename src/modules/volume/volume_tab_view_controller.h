@@ -20,6 +20,11 @@ public:
     void setLiveHistory(const InfoDict& info) override;
     // The volumes the preview draws one set for, as the status item does.
     void setVolumeBaseDict(std::shared_ptr<const VolumeBaseDict> volumeBaseDict);
+    void setStorageDescriptions(const DiskBaseDict& disks, std::shared_ptr<const VolumeBaseDict> volumes) override
+    {
+        Q_UNUSED(disks)
+        setVolumeBaseDict(std::move(volumes));
+    }
 
 protected:
     void loadViews() override;

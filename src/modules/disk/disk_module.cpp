@@ -1,0 +1,118 @@
+// The Disk module: its settings, its step of the sampling cycle, its snapshot and its parts.
+#include "collect/load_system_information.h"
+#include "modules/disk/disk_menu_module.h"
+#include "modules/disk/disk_menu_rows.h"
+#include "modules/disk/disk_tab_view_controller.h"
+#include "modules/module_descriptor.h"
+#include "prefs/pref_keys.h"
+#include "prefs/pref_measure.h"
+#include "toolkit/label_lists.h"
+
+#include <QJsonArray>
+
+namespace {
+
+using namespace PrefKey;
+using namespace SchemaParts;
+using T = PrefType;
+
+void deriveDisk(ModuleDefaults& d, SettingsStore&, const QVariantMap& theme, ModuleSchemaList)
+{
+    const PrefMeasure m = PrefMeasure::fromTheme(theme);
+    const auto pairs = PlistFunction::retDiskReadWrite();
+    m.addLabelPair(d, PlistFunction::labelForSetting(pairs, d.intValue(Disk_Indicator_Label)), Disk_Indicator_LabelAry,
+                   DiskInnerIndicatorLabelWidth);
+    m.addLabelPair(d, PlistFunction::labelForSetting(pairs, d.intValue(Disk_Graph_Label)), Disk_Graph_LabelAry,
+                   DiskInnerGraphLabelWidth);
+    m.addLabelPair(d, PlistFunction::labelForSetting(pairs, d.intValue(Disk_Text_Label)), Disk_Text_LabelAry,
+                   DiskInnerTextLabelWidth);
+    d.set(DiskInnerTextValueWidth, m.floorWidth(QStringLiteral("888.8XX/X")));
+    // A disk's icon identifies one disk, so it can only stand behind per-disk pictures.
+    d.set(DiskInnerIconAbleToBeBol, d.boolValue(Disk_WithDiskIconInBackground) && d.boolValue(Disk_ShowEachDisk));
+}
+
+ModuleSchema diskSchema()
+{
+    return {ModuleId::Disk,
+            "Disk",
+            LaunchDisk,
+            4,
+            "DiskModuleNotif",
+            "Disk",
+            Disk_UpdateInterval,
+            withToolItems({{DiskItemSortArray, T::Array, ints({1, 2, 3})},
+                           {Disk_Display_Indicator, T::Bool, true},
+                           {Disk_Display_Graph, T::Bool, false},
+                           {Disk_Display_Text, T::Bool, false},
+                           {Disk_ShowEachDisk, T::Bool, true},
+                           {Disk_WithDiskIconInBackground, T::Bool, false},
+                           {Disk_UpdateInterval, T::TruncatedInteger, 2},
+                           {Disk_GraphWidth, T::TruncatedInteger, 30},
+                           {Disk_Indicator_Label, T::Integer, 1},
+                           {Disk_Graph_Label, T::Integer, 1},
+                           {Disk_Graph_Mode, T::Integer, 1},
+                           {Disk_Text_Label, T::Integer, 1},
+                           {Disk_Percent_Mode, T::Integer, 1},
+                           {Disk_ShowMyLabel, T::Bool, QVariant()}},
+                          Disk_EnaMenu_Amon, Disk_EnaMenu_Cnsl, Disk_EnaMenu_Tmnl),
+            colors({"D01", "D02", "D03", "D04"}),
+            // The volume kinds stand behind per-disk sets when disk pictures are asked for.
+            sharedPictures("L04", {{"M01", PictureSize::Half},
+                                   {"M02", PictureSize::Half},
+                                   {"M03", PictureSize::Half},
+                                   {"M04", PictureSize::Half},
+                                   {"M05", PictureSize::Half},
+                                   {"M06", PictureSize::Half},
+                                   {"O31", PictureSize::Icon18},
+                                   {"O32", PictureSize::Icon18}}),
+            {Disk_Display_Indicator, Disk_Display_Graph, Disk_Display_Text},
+            &deriveDisk};
+}
+
+void sampleDisk(const SampleRequest& request, InfoDict& info)
+{
+    if (auto sample = request.loadInfo.retDiskRW(static_cast<double>(request.interval)))
+        appendSample(request, info, std::move(*sample));
+}
+
+QString diskSnapshotText(const SnapshotContext& context)
+{
+    const DiskBaseDict& disks = context.disks;
+    const History<DiskSample> history = context.info.history<DiskSample>(context.slot);
+    const std::vector<DiskBarSet> sets = diskBarSets(context.settings, disks);
+    QString out = QStringLiteral("Disk\n  bar    ") + diskBarText(sets, disks, history) + QLatin1Char('\n');
+    if (history.size() < 2)
+        out += QStringLiteral("  (rates need two samples; sample more cycles)\n");
+    for (const auto& [key, disk] : disks) {
+        out += QStringLiteral("  ") + diskTitleText(disk) + QLatin1Char('\n');
+        for (const QString& line : {diskFactsText(disk), diskRatesText(history, key), diskTotalsText(history, key)})
+            if (!line.isEmpty())
+                out += QStringLiteral("    ") + line + QLatin1Char('\n');
+    }
+    return out;
+}
+
+void addDiskSnapshotJson(const SnapshotContext& context, QJsonObject& root)
+{
+    const History<DiskSample> history = context.info.history<DiskSample>(context.slot);
+    if (history.empty())
+        return;
+    QJsonObject object{{"int", history.back().interval}};
+    for (const auto& [key, counters] : history.back().devices)
+        object.insert(key, QJsonArray{static_cast<qint64>(counters[0]), static_cast<qint64>(counters[1])});
+    root.insert(QLatin1String(context.key), object);
+}
+
+} // namespace
+
+const ModuleDescriptor& diskModule()
+{
+    static const ModuleDescriptor descriptor{diskSchema(),
+                                             &makeMenuModule<Disk_MenuModule>,
+                                             &makePreferenceTab<DiskTabViewController>,
+                                             &sampleDisk,
+                                             false,
+                                             StorageUse::Disks,
+                                             &makePlainSnapshot<&diskSnapshotText, &addDiskSnapshotJson>};
+    return descriptor;
+}

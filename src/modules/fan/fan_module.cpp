@@ -1,0 +1,65 @@
+// The Fan module: its settings so far; its status item, sensors and tab come with its sources.
+#include "modules/module_descriptor.h"
+#include "prefs/pref_functions.h"
+#include "prefs/pref_keys.h"
+#include "prefs/pref_measure.h"
+
+namespace {
+
+using namespace PrefKey;
+using namespace SchemaParts;
+using T = PrefType;
+
+void deriveFan(ModuleDefaults& d, SettingsStore& store, const QVariantMap& theme, ModuleSchemaList)
+{
+    const PrefMeasure m = PrefMeasure::fromTheme(theme);
+    const bool pileUp =
+        d.boolValue(Fan_Display_Text) && d.boolValue(Fan_Display_Graph) && d.boolValue(Fan_PileUp_TextGraph);
+    const double graphWidth = static_cast<double>(d.intValue(Fan_GraphWidth));
+    double piledSize = -1.0;
+    if (pileUp && m.width(QStringLiteral("8888rpm")) > graphWidth)
+        piledSize = PrefFunctions::calcPiledFontSize(QStringLiteral("8888"), m.size, m.font, graphWidth);
+    // Piled text has no room for the unit.
+    const bool bare = piledSize > 0;
+    d.set(FanInnerPileUp, pileUp);
+    d.set(FanInnerPiledFontSizeDbl, piledSize);
+    d.set(FanInnerTextFormat, bare ? QStringLiteral("%04d") : QStringLiteral("%04drpm"));
+    d.set(FanInnerTextWidth, m.floorWidth(bare ? QStringLiteral("8888") : QStringLiteral("8888rpm")));
+    // Text mode: 0 no text, 1 text beside the graph, 2 text piled on it.
+    d.set(FanInnerTextMode, !d.boolValue(Fan_Display_Text) ? 0 : (pileUp ? 2 : 1));
+    d.set(Fax_MaxRpm, PrefFunctions::checkMaxRpm(store, d.intValue(Fax_MaxRpm)));
+}
+
+ModuleSchema fanSchema()
+{
+    return {ModuleId::Fan,
+            "Fan",
+            LaunchFans,
+            6,
+            "FanModuleNotif",
+            "Fan",
+            Fan_UpdateInterval,
+            withToolItems({{FanItemSortArray, T::Array, ints({1, 2})},
+                           {Fan_Display_Text, T::Bool, true},
+                           {Fan_Display_Graph, T::Bool, true},
+                           {Fan_PileUp_TextGraph, T::Bool, true},
+                           {Fan_ColoredMenu, T::Bool, false},
+                           {Fan_UpdateInterval, T::TruncatedInteger, 5},
+                           {Fan_GraphWidth, T::TruncatedInteger, 30},
+                           {Fan_GradientColor, T::Bool, QVariant()},
+                           {Fax_MaxRpm, T::Integer, QVariant()},
+                           {Fan_ShowMyLabel, T::Bool, QVariant()}},
+                          Fan_EnaMenu_Amon, Fan_EnaMenu_Cnsl, Fan_EnaMenu_Tmnl),
+            colors({"G01", "G02", "G03", "G04"}),
+            sharedPictures("L07", {}),
+            {Fan_Display_Text, Fan_Display_Graph},
+            &deriveFan};
+}
+
+} // namespace
+
+const ModuleDescriptor& fanModule()
+{
+    static const ModuleDescriptor descriptor{fanSchema()};
+    return descriptor;
+}

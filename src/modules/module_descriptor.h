@@ -1,0 +1,123 @@
+// Everything the application knows of one module, given by the module's own folder.
+#pragma once
+
+#include "collect/info_dict.h"
+#include "collect/storage_descriptions.h"
+#include "prefs/pref_schema.h"
+
+#include <QJsonObject>
+#include <QString>
+
+#include <memory>
+#include <type_traits>
+
+class LoadSystemInformation;
+class MenuModule;
+class MenuModuleDelegate;
+class PreferenceTab;
+class PrefNotificationCenter;
+class SettingsStore;
+
+// What one module's step of the sampling cycle gets; it runs on the cycle's thread.
+struct SampleRequest {
+    LoadSystemInformation& loadInfo;
+    std::size_t slot;    // the module's history slot in the sampled data
+    qint64 interval;     // the module's interval setting, in seconds
+    bool menuOpened;     // its menu is open: what only the menu shows is wanted too
+    const VolumeBaseDict& volumes;
+};
+
+// What a module's part of the snapshot report reads, after the last cycle.
+struct SnapshotContext {
+    const InfoDict& info;
+    std::size_t slot;
+    const char* key; // the module's key, under which its JSON goes
+    const ModuleDefaults& settings;
+    LoadSystemInformation& loadInfo;
+    const DiskBaseDict& disks;
+    const VolumeBaseDict& volumes;
+};
+
+// A module's part of the snapshot report; made when the snapshot starts, told of every cycle.
+class ModuleSnapshot {
+public:
+    virtual ~ModuleSnapshot() = default;
+    virtual void cycleFinished() {}
+    // The module's block of the text report.
+    virtual QString text(const SnapshotContext& context) = 0;
+    // Adds the module's newest raw sample (and anything else it reports) to the JSON report.
+    virtual void addJson(const SnapshotContext& context, QJsonObject& root) = 0;
+};
+
+// Which of the volume and disk descriptions a module draws from.
+enum class StorageUse {
+    None,
+    Disks,
+    // Volumes: a volume just mounted is measured at the next cycle, not at the end of the interval.
+    Volumes,
+};
+
+struct ModuleDescriptor {
+    // The module's settings: keys, first-run values, theme entries, derived values.
+    ModuleSchema schema;
+    // Its status item; null while the module has none on this system.
+    std::unique_ptr<MenuModule> (*createMenuModule)(MenuModuleDelegate* delegate) = nullptr;
+    // Its preferences tab; null for a short notice in its place.
+    PreferenceTab* (*createPreferenceTab)(MenuModuleDelegate* delegate, SettingsStore& store,
+                                          PrefNotificationCenter& center) = nullptr;
+    // Its step in the sampling cycle: appends a sample to its history, or leaves it unchanged
+    // when the collector has none. Null for modules that keep no history.
+    void (*sample)(const SampleRequest& request, InfoDict& info) = nullptr;
+    // Sampled on the first cycle whatever its interval, so its picture fills at once.
+    bool firstSampleAtOnce = false;
+    StorageUse storage = StorageUse::None;
+    // Its part of the snapshot report; null for modules that report nothing.
+    std::unique_ptr<ModuleSnapshot> (*createSnapshot)(LoadSystemInformation& loadInfo) = nullptr;
+};
+
+// Factories for the descriptors' entries.
+template <class Item> std::unique_ptr<MenuModule> makeMenuModule(MenuModuleDelegate* delegate)
+{
+    return std::make_unique<Item>(delegate);
+}
+
+template <class Tab>
+PreferenceTab* makePreferenceTab(MenuModuleDelegate* delegate, SettingsStore& store, PrefNotificationCenter& center)
+{
+    if constexpr (std::is_constructible_v<Tab, MenuModuleDelegate*, SettingsStore&, PrefNotificationCenter&>)
+        return new Tab(delegate, store, center);
+    else
+        return new Tab(store, center);
+}
+
+template <class Snapshot> std::unique_ptr<ModuleSnapshot> makeSnapshot(LoadSystemInformation& loadInfo)
+{
+    return std::make_unique<Snapshot>(loadInfo);
+}
+
+// A snapshot part of two functions, for modules that keep nothing between cycles.
+template <QString (*Text)(const SnapshotContext&), void (*Json)(const SnapshotContext&, QJsonObject&)>
+class PlainSnapshot final : public ModuleSnapshot {
+public:
+    explicit PlainSnapshot(LoadSystemInformation&) {}
+    QString text(const SnapshotContext& context) override { return Text(context); }
+    void addJson(const SnapshotContext& context, QJsonObject& root) override { Json(context, root); }
+};
+
+template <QString (*Text)(const SnapshotContext&), void (*Json)(const SnapshotContext&, QJsonObject&)>
+std::unique_ptr<ModuleSnapshot> makePlainSnapshot(LoadSystemInformation& loadInfo)
+{
+    return std::make_unique<PlainSnapshot<Text, Json>>(loadInfo);
+}
+
+// Appends a sample to the request's slot: a new history, the old one left to its readers.
+template <class Sample> void appendSample(const SampleRequest& request, InfoDict& info, Sample sample)
+{
+    info.setHistory(request.slot, info.history<Sample>(request.slot).appended(std::move(sample)));
+}
+
+// The history of a module's slot, typed.
+template <class Sample> History<Sample> moduleHistory(const InfoDict& info, ModuleId id)
+{
+    return info.history<Sample>(moduleIndex(id));
+}

@@ -1,0 +1,114 @@
+// The Network module: its settings, its step of the sampling cycle, its snapshot and its parts.
+#include "collect/load_system_information.h"
+#include "modules/module_descriptor.h"
+#include "modules/network/network_menu_module.h"
+#include "modules/network/network_rates.h"
+#include "modules/network/network_tab_view_controller.h"
+#include "prefs/pref_keys.h"
+#include "prefs/pref_measure.h"
+#include "toolkit/label_lists.h"
+
+namespace {
+
+using namespace PrefKey;
+using namespace SchemaParts;
+using T = PrefType;
+
+void deriveNetwork(ModuleDefaults& d, SettingsStore&, const QVariantMap& theme, ModuleSchemaList)
+{
+    const PrefMeasure m = PrefMeasure::fromTheme(theme);
+    const QStringList labels =
+        PlistFunction::labelForSetting(PlistFunction::retNetworkUdLabel(), d.intValue(Network_UdLabel_Mode));
+    d.set(Network_UdLabel_ModeAry, labels);
+    d.set(NetworkInnerUdLabelWidth, m.widest(labels));
+    d.set(NetworkInnerTextWidth, m.floorWidth(QStringLiteral("888.8XXX")));
+}
+
+ModuleSchema networkSchema()
+{
+    return {ModuleId::Network,
+            "Network",
+            LaunchNetw,
+            3,
+            "NetworkModuleNotif",
+            "Network",
+            Network_UpdateInterval,
+            withToolItems({{NetworkItemSortArray, T::Array, ints({1, 2, 3, 4})},
+                           {Network_Display_UdLabel, T::Bool, false},
+                           {Network_Display_UdCircle, T::Bool, false},
+                           {Network_Display_Graph, T::Bool, true},
+                           {Network_Display_Text, T::Bool, true},
+                           {Network_UdLabel_Mode, T::Integer, 1},
+                           {Network_Graph_Mode, T::Integer, 1},
+                           {Network_Text_Mode, T::Integer, 1},
+                           {Network_Limen_Base, T::Integer, 1},
+                           {Network_UpdateInterval, T::TruncatedInteger, 2},
+                           {Network_GraphWidth, T::TruncatedInteger, 30},
+                           {Network_ShowAllNic, T::Bool, QVariant()},
+                           {Network_ShowMyLabel, T::Bool, QVariant()}},
+                          Network_EnaMenu_Amon, Network_EnaMenu_Cnsl, Network_EnaMenu_Tmnl),
+            colors({"C01", "C02", "C03", "C04"}),
+            sharedPictures("L03", {{"O21", PictureSize::Icon18}, {"O22", PictureSize::Icon18}}),
+            // The up/down label alone is no picture, so it does not switch the module on.
+            {Network_Display_UdCircle, Network_Display_Graph, Network_Display_Text},
+            &deriveNetwork};
+}
+
+void sampleNetwork(const SampleRequest& request, InfoDict& info)
+{
+    const auto interval = static_cast<double>(request.interval);
+    if (auto sample = request.loadInfo.loadNetworkData(interval, *request.loadInfo.networkBaseDict()))
+        appendSample(request, info, std::move(*sample));
+}
+
+QString networkSnapshotText(const SnapshotContext& context)
+{
+    QString out = QStringLiteral("Network\n");
+    const History<NetworkSample> history = context.info.history<NetworkSample>(context.slot);
+    if (history.empty())
+        return out + QStringLiteral("  no sample yet\n");
+    const NetworkSample& newest = history.back();
+    out += QStringLiteral("  ") +
+           networkBarText(currentNetworkRates(history, newest.interval), networkRatesInBits(context.settings)) +
+           QLatin1Char('\n');
+    out += QStringLiteral("  sent %1 received %2 bytes, over %3 s\n")
+               .arg(newest.toUp)
+               .arg(newest.toDw)
+               .arg(newest.interval);
+    for (const InterfacePackets& p : newest.packets)
+        out += QStringLiteral("  %1 %2 packets sent, %3 received\n")
+                   .arg(QString::fromStdString(p.name))
+                   .arg(p.up)
+                   .arg(p.dw);
+    return out;
+}
+
+void addNetworkSnapshotJson(const SnapshotContext& context, QJsonObject& root)
+{
+    const History<NetworkSample> history = context.info.history<NetworkSample>(context.slot);
+    if (history.empty())
+        return;
+    const NetworkSample& sample = history.back();
+    QJsonObject object{{"to_up", static_cast<qint64>(sample.toUp)},
+                       {"to_dw", static_cast<qint64>(sample.toDw)},
+                       {"int", sample.interval}};
+    for (const InterfacePackets& p : sample.packets) {
+        object.insert(QString::fromStdString(p.name) + QLatin1String("_up"), static_cast<qint64>(p.up));
+        object.insert(QString::fromStdString(p.name) + QLatin1String("_dw"), static_cast<qint64>(p.dw));
+    }
+    root.insert(QLatin1String(context.key), object);
+}
+
+} // namespace
+
+const ModuleDescriptor& networkModule()
+{
+    static const ModuleDescriptor descriptor{networkSchema(),
+                                             &makeMenuModule<Network_MenuModule>,
+                                             &makePreferenceTab<NetworkTabViewController>,
+                                             &sampleNetwork,
+                                             false,
+                                             StorageUse::None,
+                                             &makePlainSnapshot<&networkSnapshotText, &addNetworkSnapshotJson>};
+    return descriptor;
+}
