@@ -18,10 +18,20 @@ if(TARVEL_TSAN)
 endif()
 
 # tarvel_library(NAME SOURCES... [LIBS ...]): a static library for one folder of src/.
+# Its headers are reached as "<folder>/name.h" through an include root that holds that folder
+# alone, and a library sees only its own root and those of the libraries it links: layers point
+# one way, and an include of a layer above (toolkit including collect, collect including prefs)
+# fails to compile.
 function(tarvel_library name)
   cmake_parse_arguments(ARG "" "" "SOURCES;LIBS" ${ARGN})
+  get_filename_component(folder ${CMAKE_CURRENT_SOURCE_DIR} NAME)
+  set(root ${PROJECT_BINARY_DIR}/include_roots/${folder})
+  file(MAKE_DIRECTORY ${root})
+  if(NOT EXISTS ${root}/${folder})
+    file(CREATE_LINK ${CMAKE_CURRENT_SOURCE_DIR} ${root}/${folder} SYMBOLIC)
+  endif()
   add_library(${name} STATIC ${ARG_SOURCES})
-  target_include_directories(${name} PUBLIC ${PROJECT_SOURCE_DIR}/src)
+  target_include_directories(${name} PUBLIC ${root})
   target_link_libraries(${name} PUBLIC ${ARG_LIBS})
   tarvel_target_defaults(${name})
 endfunction()
