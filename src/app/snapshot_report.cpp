@@ -3,6 +3,7 @@
 
 #include "app/app_delegate.h"
 #include "app/volume_tracker.h"
+#include "modules/cpu/cpu_option_texts.h"
 #include "modules/cpu/cpu_usage_text.h"
 #include "modules/disk/disk_menu_rows.h"
 #include "modules/memory/memory_breakdown.h"
@@ -169,7 +170,7 @@ QString cpuText(const AppDelegate& app, const SnapshotReport::CpuPanelRows& pane
         for (std::size_t i = 0; i + 1 < newest.size(); ++i)
             out += QStringLiteral("  cpu%1 ").arg(i, -3) + cpuUsageText(newest[i]) + QLatin1Char('\n');
     }
-    const QStringList options = app.loadInfo().cpuGetOptionData();
+    const QStringList options = cpuGetOptionData(app.loadInfo().cpuOptionFigures());
     for (qsizetype i = 0; i < options.size() && i < 5; ++i)
         out += QStringLiteral("  %1 %2\n").arg(QString::fromLatin1(kOptionKeys[i]), -6).arg(options.at(i));
     if (!panel.processor.isEmpty())
@@ -184,7 +185,7 @@ QString cpuText(const AppDelegate& app, const SnapshotReport::CpuPanelRows& pane
 QJsonObject cpuPanelJson(const AppDelegate& app, const SnapshotReport::CpuPanelRows& panel)
 {
     QJsonObject rows;
-    const QStringList options = app.loadInfo().cpuGetOptionData();
+    const QStringList options = cpuGetOptionData(app.loadInfo().cpuOptionFigures());
     for (qsizetype i = 0; i < options.size() && i < 5; ++i)
         rows.insert(QLatin1String(kOptionKeys[i]), options.at(i));
     rows.insert(QLatin1String("processor"), panel.processor);
