@@ -16,6 +16,7 @@
 
 #include <algorithm>
 #include <functional>
+#include <iterator>
 #include <sstream>
 
 namespace {
@@ -204,9 +205,10 @@ std::string sensorChips(const SysRoot& root)
     return out;
 }
 
-const std::vector<TreeRow>& rows()
+// Processors, processes and memory.
+std::vector<TreeRow> systemRows()
 {
-    static const std::vector<TreeRow> table = {
+    return {
         // cpu0 of the own tree: 1000 10 500 20000 300 5 15 5; the captured cpu0 and cpu7:
         // 44490 19 21045 1087069 220 1 3410 0 and 29098 268 10164 1139282 555 0 31 0.
         {"ProcessorTicks", Tree::Own, processorTicks, "2: 1000/525/10/20300 .. 1000/520/10/20100"},
@@ -226,6 +228,13 @@ const std::vector<TreeRow>& rows()
         {"MemoryInfo", Tree::Shared, memoryInfo, "MemTotal 16042172416, Buffers 1044611072"},
         {"SwapAreas", Tree::Own, swapAreas, "[/dev/sda3] partition 2097148 1024;[/var/swap file] file 524284 0;"},
         {"SwapAreas", Tree::Shared, swapAreas, "[/dev/dm-2] partition 131068 176;"},
+    };
+}
+
+// Interfaces, storage, mounts, firmware and sensors.
+std::vector<TreeRow> deviceRows()
+{
+    return {
         // bonding_masters is a control file, not an interface; -1 speed is unknown to the driver.
         {"Interfaces", Tree::Own, interfaces,
          "lo unknown - 00:00:00:00:00:00 772 0x9 true;wlan0 down - a0:b1:c2:d3:e4:f5 1 0x1003 -;"},
@@ -271,7 +280,13 @@ const std::vector<TreeRow>& rows()
         {"NoHwmonNoChips", Tree::Own,
          [](const SysRoot& r) { return sensorChips(SysRoot(r.root() / "does-not-exist")); }, ""},
     };
-    return table;
+}
+
+std::vector<TreeRow> rows()
+{
+    std::vector<TreeRow> all = systemRows();
+    std::ranges::move(deviceRows(), std::back_inserter(all));
+    return all;
 }
 
 class TreeReaders : public ::testing::TestWithParam<TreeRow> {};
