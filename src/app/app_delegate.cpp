@@ -5,6 +5,7 @@
 #include "app/appearance_watcher.h"
 #include "app/cycle_executor.h"
 #include "app/general_functions_reboot.h"
+#include "app/machine_identity.h"
 #include "app/sampling_cycle.h"
 #include "app/volume_tracker.h"
 #include "modules/module_registry.h"
@@ -95,7 +96,7 @@ void AppDelegate::applicationDidFinishLaunching(bool startTimer)
 
     TvlClasses::checkMyApplicationSupportDir();
     if (MachineSource* machine = loadInfo_->sources().machine.get())
-        LoadSystemInformation::collectMyMacDetail(store, *machine);
+        collectMyMacDetail(store, machineFacts(*machine));
     // (The sensor table and the menu-font check belong to the Temp and Fan modules' sources and
     // run here once those modules exist.)
     themeColorDict_ = TvlClasses::checkThemeValues(TvlClasses::checkNowThemeFile());

@@ -3,10 +3,22 @@
 
 #include "collect/load_system_information.h"
 #include "prefs/pref_keys.h"
+#include "toolkit/localization.h"
 
 #include <QSocketNotifier>
 
 #include <algorithm>
+
+namespace {
+// The collector leaves a root file system that nothing names without a name of its own.
+VolumeBaseDict withRootNamed(VolumeBaseDict base)
+{
+    for (auto& [path, volume] : base)
+        if (volume.isUnnamedRoot)
+            volume.volumeName = localized("Root");
+    return base;
+}
+} // namespace
 
 VolumeTracker::VolumeTracker(LoadSystemInformation& loadInfo, const ModuleDefaults& general, QObject* parent)
     : QObject(parent)
@@ -46,7 +58,7 @@ bool VolumeTracker::collectDskVolDetail()
     if (!switchedOn())
         return false;
     volumeUtilDict_ = loadInfo_.retVolumeUtilDetail();
-    volumeBaseDict_ = std::make_shared<const VolumeBaseDict>(loadInfo_.retVolumeBase(volumeUtilDict_));
+    volumeBaseDict_ = std::make_shared<const VolumeBaseDict>(withRootNamed(loadInfo_.retVolumeBase(volumeUtilDict_)));
     // Disk descriptions are left as they were while the Disk module is off.
     if (general_.boolValue(PrefKey::LaunchDisk))
         diskBaseDict_ = loadInfo_.retDisAccessBase(volumeUtilDict_, *volumeBaseDict_);
@@ -88,7 +100,7 @@ void VolumeTracker::blockDevicesChanged()
     // A change event also comes with a new medium or a repartition; only a mounted volume
     // whose name moved is a rename. The descriptions stay as they are until the rename is
     // applied, so the samples taken meanwhile still carry the old name and move with it.
-    const VolumeBaseDict after = loadInfo_.retVolumeBase(loadInfo_.retVolumeUtilDetail());
+    const VolumeBaseDict after = withRootNamed(loadInfo_.retVolumeBase(loadInfo_.retVolumeUtilDetail()));
     for (VolumeRename& rename : renamedVolumes(*volumeBaseDict_, after))
         if (std::find(pendingRenames_.begin(), pendingRenames_.end(), rename) == pendingRenames_.end())
             pendingRenames_.push_back(std::move(rename));

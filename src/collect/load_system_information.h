@@ -1,6 +1,7 @@
 // The collector object: owns the platform sources and the state kept between samples.
 #pragma once
 
+#include "collect/cpu_option_figures.h"
 #include "collect/cpu_sample.h"
 #include "collect/desktop_index.h"
 #include "collect/disk_sample.h"
@@ -25,8 +26,6 @@
 #include <optional>
 #include <vector>
 
-class SettingsStore;
-
 class LoadSystemInformation {
 public:
     explicit LoadSystemInformation(SourceSet sources);
@@ -35,14 +34,9 @@ public:
     // first call and when the ticks cannot be read (the previous ticks are then kept).
     CpuSample loadCpuData();
 
-    // Five lines: time since boot, awake time, threads and processes, load averages, host name.
-    QStringList cpuGetOptionData() const;
+    // What the CPU menu's detail lines show, as of now; each figure empty when unreadable.
+    CpuOptionFigures cpuOptionFigures() const;
 
-    // "H:MM:SS", or with a day count in front once a day has passed.
-    static QString buildUpTime(double seconds);
-
-    // Stores "MacRawName" once, then "MacRealName" unless a name is already stored.
-    static void collectMyMacDetail(SettingsStore& store, MachineSource& machine);
     // The processor's model string without trademark marks; empty when it is not known.
     static QString cpuGetBrandNameNew(MachineSource& machine);
     // Architecture and maximum clock, such as "x86_64 04GHz"; empty when either is unknown.
@@ -97,8 +91,8 @@ public:
     std::shared_ptr<const NetworkBase> networkBaseDict() const;
     void setNetworkBaseDict(NetworkBase base);
 
-    // The host name of an IPv4 address, or "(Unknown Host)". Blocks while the resolver asks.
-    static QString getHostNameFromIpAddress(const QString& address);
+    // The host name of an IPv4 address; empty when it has none. Blocks while the resolver asks.
+    static std::optional<QString> getHostNameFromIpAddress(const QString& address);
     // The name of NetworkManager's primary connection, or "---" when it is not running or has
     // none. Waits at most a moment for the system bus.
     static QString getCurrentNetworkLocation();

@@ -1,8 +1,6 @@
 // The Network menu's look-ups: the host name of an address and the current connection's name.
 #include "collect/load_system_information.h"
 
-#include "toolkit/localization.h"
-
 #include <QDBusConnection>
 #include <QDBusMessage>
 #include <QDBusObjectPath>
@@ -49,7 +47,7 @@ bool networkManagerRunning(QDBusConnection& bus)
 
 } // namespace
 
-QString LoadSystemInformation::getHostNameFromIpAddress(const QString& address)
+std::optional<QString> LoadSystemInformation::getHostNameFromIpAddress(const QString& address)
 {
     sockaddr_in socketAddress{};
     socketAddress.sin_family = AF_INET;
@@ -60,7 +58,7 @@ QString LoadSystemInformation::getHostNameFromIpAddress(const QString& address)
                           host.size(), nullptr, 0, NI_NAMEREQD) == 0)
             return QString::fromUtf8(host.data());
     }
-    return localized("(Unknown Host)");
+    return std::nullopt;
 }
 
 QString LoadSystemInformation::getCurrentNetworkLocation()

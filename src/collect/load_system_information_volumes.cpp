@@ -2,7 +2,6 @@
 #include "collect/load_system_information.h"
 
 #include "collect/volume_filter.h"
-#include "toolkit/localization.h"
 
 #include <algorithm>
 #include <limits>
@@ -14,9 +13,10 @@ std::int64_t clampedBytes(std::uint64_t bytes)
 }
 
 // The label when the file system has one, else the mount point's last component; "/" has
-// none, so it takes the machine's name.
-QString volumeDisplayName(const std::string& mountPoint, const std::optional<std::string>& label,
-                          MachineSource* machine)
+// none, so it takes the machine's name. Empty for a root without a host name: what to call it
+// then is the menus' word.
+std::optional<QString> volumeDisplayName(const std::string& mountPoint, const std::optional<std::string>& label,
+                                         MachineSource* machine)
 {
     if (label)
         return QString::fromStdString(*label);
@@ -26,7 +26,7 @@ QString volumeDisplayName(const std::string& mountPoint, const std::optional<std
         return QString::fromStdString(last);
     if (const auto host = machine ? machine->hostName() : std::nullopt; host && !host->empty())
         return QString::fromStdString(*host);
-    return localized("Root");
+    return std::nullopt;
 }
 
 bool underRemovableMediaFolder(const std::string& mountPoint)
@@ -94,8 +94,10 @@ VolumeBaseDict LoadSystemInformation::retVolumeBase(const VolumeUtilDetail& util
         entry.isRemovable =
             !entry.isNetworkVol && ((flag != removableDisks.end() && flag->second) || (device && device->bus == "usb"));
 
-        entry.volumeName =
+        const auto name =
             volumeDisplayName(mount.mountPoint, device ? device->fsLabel : std::nullopt, sources_.machine.get());
+        entry.volumeName = name.value_or(QString());
+        entry.isUnnamedRoot = !name;
         entry.totalSize = clampedBytes(space->totalBytes);
         entry.fileType = QString::fromStdString(mount.fsType);
         entry.isWritable = !mountedReadOnly(mount.options);

@@ -2,10 +2,6 @@
 // are treated as absent rather than shown as the machine's name.
 #include "collect/machine_details.h"
 
-#include "collect/load_system_information.h"
-#include "prefs/pref_keys.h"
-#include "prefs/settings_store.h"
-
 #include <QStringList>
 
 #include <algorithm>
@@ -110,33 +106,7 @@ bool machineLooksVirtual(MachineSource& machine)
                        [&](const char* board) { return firmware.contains(QLatin1String(board)); });
 }
 
-void LoadSystemInformation::collectMyMacDetail(SettingsStore& store, MachineSource& machine)
+MachineFacts machineFacts(MachineSource& machine)
 {
-    if (!store.objectForKey(QLatin1String(PrefKey::MacRawName)).isValid()) {
-        const auto raw = machineRawName(machine);
-        if (!raw)
-            return;
-        store.setString(QLatin1String(PrefKey::MacRawName), *raw);
-        store.synchronize();
-    }
-    const QString raw = store.stringForKey(QLatin1String(PrefKey::MacRawName));
-    // VMware's firmware already names the product well; there is nothing better to find.
-    // The picture stays as it is: this platform draws the theme's machine picture.
-    if (raw.contains(QLatin1String("VMware"))) {
-        store.setString(QLatin1String(PrefKey::MacRealName), raw);
-        store.synchronize();
-        return;
-    }
-    // Once a name is stored it stands, as a looked-up name would.
-    if (store.objectForKey(QLatin1String(PrefKey::MacRealName)).isValid())
-        return;
-    std::optional<QString> real;
-    if (machineLooksVirtual(machine))
-        real = QStringLiteral("(Probably VM)");
-    else
-        real = machineReadableName(machine);
-    if (!real)
-        return;
-    store.setString(QLatin1String(PrefKey::MacRealName), *real);
-    store.synchronize();
+    return {machineRawName(machine), machineReadableName(machine), machineLooksVirtual(machine)};
 }

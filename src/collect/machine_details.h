@@ -17,3 +17,11 @@ std::optional<QString> machineReadableName(MachineSource& machine);
 
 // Whether the firmware names a hypervisor's virtual board or the processor reports one.
 bool machineLooksVirtual(MachineSource& machine);
+
+// The three facts above in one read, for whoever keeps the machine's names.
+struct MachineFacts {
+    std::optional<QString> rawName;
+    std::optional<QString> readableName;
+    bool looksVirtual = false;
+};
+MachineFacts machineFacts(MachineSource& machine);

@@ -19,7 +19,8 @@ struct VolumeUtilDetail {
 struct VolumeBaseEntry {
     QString bsdName; // device without "/dev/"; for a network volume its server and share
     bool isNetworkVol = false;
-    QString volumeName;         // display name
+    QString volumeName;         // display name; empty when isUnnamedRoot
+    bool isUnnamedRoot = false; // "/" with neither a label nor a host name: its users name it
     QString bsdPath;            // the mounted-from device; empty for a network volume
     std::int64_t totalSize = 0; // always greater than 0
     VolumeIconKind iconKind = VolumeIconKind::Internal;

@@ -41,16 +41,20 @@ TEST(LinuxCollector, SecondSampleGivesPerProcessorDifferencesAndTheirAverage)
     EXPECT_EQ(sample[2], (CpuRecord{3, 4, 0, 2}));
 }
 
-TEST(LinuxCollector, OptionLinesFromTheCapturedTree)
+TEST(LinuxCollector, OptionFiguresFromTheCapturedTree)
 {
     if (sharedProcfsTree().empty())
         GTEST_SKIP() << "the shared captured procfs tree is not present";
     const LoadSystemInformation info(makeSourceSet(sharedProcfsTree()));
-    const QStringList lines = info.cpuGetOptionData();
-    ASSERT_EQ(lines.size(), 5);
-    EXPECT_EQ(lines[2], "497 threads, 7 processes");
-    EXPECT_EQ(lines[3], "1min: 0.02, 5min: 0.04, 15min: 0.05");
-    EXPECT_EQ(lines[4], ""); // the tree has no host name
+    const CpuOptionFigures figures = info.cpuOptionFigures();
+    ASSERT_TRUE(figures.counts);
+    EXPECT_EQ(figures.counts->threads, 497);
+    EXPECT_EQ(figures.counts->processes, 7);
+    ASSERT_TRUE(figures.loads);
+    EXPECT_EQ(figures.loads->one, 0.02);
+    EXPECT_EQ(figures.loads->five, 0.04);
+    EXPECT_EQ(figures.loads->fifteen, 0.05);
+    EXPECT_FALSE(figures.hostName); // the tree has no host name
 }
 
 // The captured machine: 15666184 kB of memory, no MemAvailable (an older kernel), a zswap pool

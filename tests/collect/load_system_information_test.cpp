@@ -1,4 +1,4 @@
-// The CPU collector's differences, averages and state, and the option lines, over fake sources.
+// The CPU collector's differences, averages and state, and the menu's figures, over fake sources.
 #include "collect/load_system_information.h"
 
 #include <gtest/gtest.h>
@@ -146,26 +146,10 @@ TEST(LoadCpuData, WithoutACpuSourceThereIsNoSample)
     EXPECT_TRUE(info.loadCpuData().empty());
 }
 
-TEST(BuildUpTime, FormatsHoursMinutesSecondsAndDays)
-{
-    EXPECT_EQ(LoadSystemInformation::buildUpTime(0), "0:00:00");
-    EXPECT_EQ(LoadSystemInformation::buildUpTime(59.9), "0:00:59");
-    EXPECT_EQ(LoadSystemInformation::buildUpTime(3600), "1:00:00");
-    EXPECT_EQ(LoadSystemInformation::buildUpTime(86399.99), "23:59:59");
-    EXPECT_EQ(LoadSystemInformation::buildUpTime(86400), "1day 0:00:00");
-    EXPECT_EQ(LoadSystemInformation::buildUpTime(2 * 86400 + 3661), "2days 1:01:01");
-    EXPECT_EQ(LoadSystemInformation::buildUpTime(400 * 86400 + 45296.5), "400days 12:34:56");
-}
-
-TEST(BuildUpTime, UnknownBootTimeReadsAsTheLastSecondOfADay)
-{
-    EXPECT_EQ(LoadSystemInformation::buildUpTime(-1.0), "23:59:59");
-}
-
-TEST(CpuOptionData, FiveLinesFromTheSources)
+TEST(CpuOptionFigures, EachFigureFromItsSource)
 {
     auto cpu = std::make_unique<ScriptedCpuSource>();
-    cpu->boot = 1;  // long ago: more than a day
+    cpu->boot = 1; // long ago
     cpu->awake = 3661.0;
     cpu->loads = LoadAverages{0.5, 1.25, 12.345};
     auto processes = std::make_unique<FixedProcessSource>();
@@ -176,29 +160,31 @@ TEST(CpuOptionData, FiveLinesFromTheSources)
     sources.machine = std::make_unique<NamedMachine>();
 
     const LoadSystemInformation info(std::move(sources));
-    const QStringList lines = info.cpuGetOptionData();
-    ASSERT_EQ(lines.size(), 5);
-    EXPECT_TRUE(lines[0].contains("days ")) << lines[0].toStdString();
-    EXPECT_EQ(lines[1], "1:01:01");
-    EXPECT_EQ(lines[2], "812 threads, 301 processes");
-    EXPECT_EQ(lines[3], "1min: 0.50, 5min: 1.25, 15min: 12.35");
-    EXPECT_EQ(lines[4], "build-host.local");
+    const CpuOptionFigures figures = info.cpuOptionFigures();
+    ASSERT_TRUE(figures.secondsSinceBoot);
+    EXPECT_GT(*figures.secondsSinceBoot, 50.0 * 365 * 86400); // now minus one second after 1970
+    EXPECT_EQ(figures.awakeSeconds, 3661.0);
+    ASSERT_TRUE(figures.counts);
+    EXPECT_EQ(figures.counts->threads, 812);
+    EXPECT_EQ(figures.counts->processes, 301);
+    ASSERT_TRUE(figures.loads);
+    EXPECT_EQ(figures.loads->fifteen, 12.345);
+    EXPECT_EQ(figures.hostName, "build-host.local");
 }
 
-TEST(CpuOptionData, MissingFactsGivePlaceholders)
+TEST(CpuOptionFigures, AZeroBootTimeAndMissingSourcesGiveNoFigures)
 {
     auto cpu = std::make_unique<ScriptedCpuSource>();
-    cpu->boot = 0;  // a zero boot time is as good as none
+    cpu->boot = 0; // as good as none
     SourceSet sources;
     sources.cpu = std::move(cpu);
     sources.processes = std::make_unique<FixedProcessSource>();
 
     const LoadSystemInformation info(std::move(sources));
-    const QStringList lines = info.cpuGetOptionData();
-    ASSERT_EQ(lines.size(), 5);
-    EXPECT_EQ(lines[0], "23:59:59");
-    EXPECT_EQ(lines[1], "23:59:59");
-    EXPECT_EQ(lines[2], "---");
-    EXPECT_EQ(lines[3], "---");
-    EXPECT_EQ(lines[4], "");
+    const CpuOptionFigures figures = info.cpuOptionFigures();
+    EXPECT_FALSE(figures.secondsSinceBoot);
+    EXPECT_FALSE(figures.awakeSeconds);
+    EXPECT_FALSE(figures.counts);
+    EXPECT_FALSE(figures.loads);
+    EXPECT_FALSE(figures.hostName);
 }

@@ -4,11 +4,8 @@
 #include "collect/linux/linux_machine_source.h"
 #include "collect/load_system_information.h"
 #include "collect/machine_details.h"
-#include "prefs/pref_keys.h"
-#include "prefs/settings_store.h"
 
 #include "support/fixture_paths.h"
-#include "support/memory_settings_store.h"
 
 #include <gtest/gtest.h>
 
@@ -19,12 +16,6 @@ std::filesystem::path tree(const char* name)
 {
     return projectFixtures() / "linux" / name;
 }
-
-using MemoryStore = MemorySettingsStore;
-
-const QString kRaw = QLatin1String(PrefKey::MacRawName);
-const QString kReal = QLatin1String(PrefKey::MacRealName);
-const QString kImage = QLatin1String(PrefKey::MacImage);
 } // namespace
 
 TEST(CpuBrand, CleaningKeepsTheModelAndClockOfRealModelNames)
@@ -73,47 +64,29 @@ TEST(MachineNames, EachTreeYieldsTheIdentifierAndNameItImplies)
     struct Case {
         const char* tree;
         const char* raw;
-        const char* real;
+        std::optional<const char*> readable;
+        bool virtualBoard;
     };
     const Case cases[] = {
         // The readable name sits in the version on these machines.
-        {"dmi-laptop", "LENOVO 20HRCTO1WW ThinkPad X1 Carbon 5th", "LENOVO ThinkPad X1 Carbon 5th"},
+        {"dmi-laptop", "LENOVO 20HRCTO1WW ThinkPad X1 Carbon 5th", "LENOVO ThinkPad X1 Carbon 5th", false},
         // Template firmware text counts as no firmware; the device tree names the board.
-        {"board-placeholders", "Pine64 RockPro64 v2.1", "Pine64 RockPro64 v2.1"},
+        {"board-placeholders", "Pine64 RockPro64 v2.1", "Pine64 RockPro64 v2.1", false},
         // Only the firmware tells this guest apart: its processor hides the hypervisor flag.
-        {"kvm-guest", "QEMU Standard PC (Q35 + ICH9, 2009) pc-q35-8.2", "(Probably VM)"},
+        {"kvm-guest", "QEMU Standard PC (Q35 + ICH9, 2009) pc-q35-8.2", "QEMU Standard PC (Q35 + ICH9, 2009)", true},
         // No firmware strings at all: the architecture is all there is.
-        {"bare-guest", "x86_64", "(Probably VM)"},
+        {"bare-guest", "x86_64", std::nullopt, true},
     };
     for (const auto& c : cases) {
+        SCOPED_TRACE(c.tree);
         LinuxMachineSource machine{SysRoot(tree(c.tree))};
-        MemoryStore store;
-        LoadSystemInformation::collectMyMacDetail(store, machine);
-        EXPECT_EQ(store.values.value(kRaw).toString(), QString::fromUtf8(c.raw)) << c.tree;
-        EXPECT_EQ(store.values.value(kReal).toString(), QString::fromUtf8(c.real)) << c.tree;
+        const MachineFacts facts = machineFacts(machine);
+        EXPECT_EQ(facts.rawName, QString::fromUtf8(c.raw));
+        EXPECT_EQ(facts.readableName, c.readable ? std::optional(QString::fromUtf8(*c.readable)) : std::nullopt);
+        EXPECT_EQ(facts.looksVirtual, c.virtualBoard);
     }
-}
-
-TEST(MachineNames, StoredNamesStandExceptForVmware)
-{
-    LinuxMachineSource laptop{SysRoot(tree("dmi-laptop"))};
-    MemoryStore store;
-    store.values = {{kRaw, "MacBookPro11,1"}, {kReal, "An earlier name"}};
-    LoadSystemInformation::collectMyMacDetail(store, laptop);
-    EXPECT_EQ(store.values.value(kRaw), "MacBookPro11,1");
-    EXPECT_EQ(store.values.value(kReal), "An earlier name");
-
-    // VMware's identifier is its name; the picture is left to the theme.
-    store.values = {{kRaw, "VMware, Inc. VMware Virtual Platform"}, {kReal, "(Probably VM)"}, {kImage, "png"}};
-    LoadSystemInformation::collectMyMacDetail(store, laptop);
-    EXPECT_EQ(store.values.value(kReal), "VMware, Inc. VMware Virtual Platform");
-    EXPECT_EQ(store.values.value(kImage), "png");
-
-    // A tree that names nothing stores nothing, so the next start tries again.
     LinuxMachineSource empty{SysRoot(tree("no-such-tree"))};
-    store.values.clear();
-    LoadSystemInformation::collectMyMacDetail(store, empty);
-    EXPECT_TRUE(store.values.isEmpty());
+    EXPECT_FALSE(machineFacts(empty).rawName);
 }
 
 TEST(MachineNames, SharedTree)
@@ -122,10 +95,10 @@ TEST(MachineNames, SharedTree)
     if (shared.empty())
         GTEST_SKIP() << "shared fixture tree absent";
     LinuxMachineSource machine{SysRoot(shared)};
-    MemoryStore store;
-    LoadSystemInformation::collectMyMacDetail(store, machine);
-    EXPECT_EQ(store.values.value(kRaw), "Dell Inc. PowerEdge R6515");
-    EXPECT_EQ(store.values.value(kReal), "Dell PowerEdge R6515");
+    const MachineFacts facts = machineFacts(machine);
+    EXPECT_EQ(facts.rawName, "Dell Inc. PowerEdge R6515");
+    EXPECT_EQ(facts.readableName, "Dell PowerEdge R6515");
+    EXPECT_FALSE(facts.looksVirtual);
     EXPECT_EQ(LoadSystemInformation::cpuGetBrandNameNew(machine), "Intel Core i7-8650U 1.90GHz");
     EXPECT_EQ(LoadSystemInformation::cpuGetRareNameNew(machine), "x86_64 02GHz");
 }

@@ -45,12 +45,15 @@ constexpr const char* kOldMeminfo = "MemTotal:        1024000 kB\n"
 
 MemoryCounters scanned(const char* meminfo, const char* vmstat = nullptr)
 {
-    MemoryCounters counters;
-    EXPECT_TRUE(scanMeminfo(meminfo, counters));
-    if (vmstat) {
-        EXPECT_TRUE(scanVmstat(vmstat, counters));
-    }
-    return counters;
+    auto counters = scanMeminfo(meminfo, {});
+    EXPECT_TRUE(counters);
+    if (!counters)
+        return {};
+    if (!vmstat)
+        return *counters;
+    auto paged = scanVmstat(vmstat, *counters);
+    EXPECT_TRUE(paged);
+    return paged ? *paged : *counters;
 }
 
 std::int64_t breakdown(const MemorySample& s)

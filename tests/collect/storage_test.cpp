@@ -6,7 +6,6 @@
 #include "collect/linux/udev_device_database.h"
 #include "collect/load_system_information.h"
 #include "collect/volume_filter.h"
-#include "toolkit/localization.h"
 
 #include "support/fixture_paths.h"
 
@@ -103,8 +102,10 @@ TEST(VolumeBase, RealVolumesOnlyWithTheirNamesDisksAndFlags)
     EXPECT_EQ(keys(base), (std::vector<QString>{"/", "/boot/efi", "/home/user/remote", "/media/user/My Stick",
                                                 "/mnt/backup", "/mnt/nas", "/mnt/public"}));
 
-    // "/" has no label and no last component, and this machine no name.
-    EXPECT_EQ(base.at("/").volumeName, localized("Root"));
+    // "/" has no label and no last component, and this machine no name: the menus name it.
+    EXPECT_TRUE(base.at("/").isUnnamedRoot);
+    EXPECT_EQ(base.at("/").volumeName, "");
+    EXPECT_FALSE(base.at("/boot/efi").isUnnamedRoot);
     EXPECT_EQ(base.at("/").topDisk, "nvme0n1");
     EXPECT_EQ(base.at("/").iconKind, VolumeIconKind::Internal);
     EXPECT_EQ(base.at("/boot/efi").volumeName, "ESP");

@@ -55,7 +55,7 @@ TEST(ThemeFontNames, PostScriptNameJoinsFamilyAndStyleWithoutSpaces)
 TEST(ThemeFontNames, MemberMustMatchFamilyStyleAndPostScriptName)
 {
     if (!QFontDatabase::families().contains(kDejaVuBold.family))
-        GTEST_SKIP() << "DejaVu Sans Mono is not installed";
+        FAIL() << "DejaVu Sans Mono is not installed: install fonts-dejavu-core (tools/setup.sh does)";
     EXPECT_TRUE(TvlClasses::isInstalledThemeFont(kDejaVuBold));
     EXPECT_FALSE(TvlClasses::isInstalledThemeFont({kDejaVuBold.family, kDejaVuBold.postScriptName, "Book"}));
     EXPECT_FALSE(TvlClasses::isInstalledThemeFont({kDejaVuBold.family, "DejaVuSansMono-Book", "Bold"}));

@@ -3,6 +3,7 @@
 
 #include "collect/linux/directory_names.h"
 #include "collect/linux/diskstats_parser.h"
+#include "collect/linux/rejected_text.h"
 #include "collect/linux/sysfs_attribute.h"
 
 namespace {
@@ -59,5 +60,5 @@ std::optional<std::vector<DiskStatistics>> LinuxBlockDeviceSource::diskStatistic
 {
     const std::lock_guard guard(lock_);
     const auto text = diskstats_.read();
-    return text ? parseDiskstats(*text) : std::nullopt;
+    return text ? acceptParsed(diskstats_.path(), parseDiskstats(*text)) : std::nullopt;
 }

@@ -2,6 +2,7 @@
 #include "collect/linux/linux_cpu_source.h"
 
 #include "collect/linux/loadavg_parser.h"
+#include "collect/linux/rejected_text.h"
 #include "collect/linux/stat_parser.h"
 
 #include <ctime>
@@ -17,7 +18,7 @@ std::optional<std::vector<ProcessorTicks>> LinuxCpuSource::readProcessorTicks()
     const auto text = stat_.read();
     if (!text)
         return std::nullopt;
-    return parseProcessorTicks(*text);
+    return acceptParsed(stat_.path(), parseProcessorTicks(*text));
 }
 
 std::optional<std::int64_t> LinuxCpuSource::bootTime()
@@ -26,7 +27,7 @@ std::optional<std::int64_t> LinuxCpuSource::bootTime()
     const auto text = stat_.read();
     if (!text)
         return std::nullopt;
-    return parseBootTime(*text);
+    return acceptParsed(stat_.path(), parseBootTime(*text));
 }
 
 std::optional<double> LinuxCpuSource::awakeSeconds()
@@ -44,7 +45,7 @@ std::optional<LoadAverages> LinuxCpuSource::loadAverages()
     const auto text = loadavg_.read();
     if (!text)
         return std::nullopt;
-    const auto line = parseLoadAverage(*text);
+    const auto line = acceptParsed(loadavg_.path(), parseLoadAverage(*text));
     if (!line)
         return std::nullopt;
     return line->averages;

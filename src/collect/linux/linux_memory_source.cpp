@@ -2,6 +2,7 @@
 #include "collect/linux/linux_memory_source.h"
 
 #include "collect/linux/memory_parsers.h"
+#include "collect/linux/rejected_text.h"
 #include "collect/linux/sysfs_attribute.h"
 #include "collect/linux/text_fields.h"
 
@@ -19,27 +20,27 @@ std::optional<NamedCounters> LinuxMemorySource::memoryInfo()
 {
     const std::lock_guard guard(lock_);
     const auto text = meminfo_.read();
-    return text ? parseMeminfo(*text) : std::nullopt;
+    return text ? acceptParsed(meminfo_.path(), parseMeminfo(*text)) : std::nullopt;
 }
 
 std::optional<NamedCounters> LinuxMemorySource::vmStatistics()
 {
     const std::lock_guard guard(lock_);
     const auto text = vmstat_.read();
-    return text ? parseVmstat(*text) : std::nullopt;
+    return text ? acceptParsed(vmstat_.path(), parseVmstat(*text)) : std::nullopt;
 }
 
 std::optional<MemoryCounters> LinuxMemorySource::memoryCounters(bool withPaging)
 {
     const std::lock_guard guard(lock_);
-    MemoryCounters counters;
     const auto meminfo = meminfo_.read();
-    if (!meminfo || !scanMeminfo(*meminfo, counters))
-        return std::nullopt;
-    if (!withPaging)
+    auto counters = meminfo ? acceptParsed(meminfo_.path(), scanMeminfo(*meminfo, {})) : std::nullopt;
+    if (!counters || !withPaging)
         return counters;
+    // Without the paging figures the sample still stands; they stay unknown.
     if (const auto vmstat = vmstat_.read())
-        scanVmstat(*vmstat, counters);
+        if (auto paged = acceptParsed(vmstat_.path(), scanVmstat(*vmstat, *counters)))
+            counters = std::move(paged);
     return counters;
 }
 
@@ -47,7 +48,7 @@ std::optional<std::vector<SwapArea>> LinuxMemorySource::swapAreas()
 {
     const std::lock_guard guard(lock_);
     const auto text = swaps_.read();
-    return text ? parseSwaps(*text) : std::nullopt;
+    return text ? acceptParsed(swaps_.path(), parseSwaps(*text)) : std::nullopt;
 }
 
 std::size_t LinuxMemorySource::pageSize()

@@ -3,6 +3,7 @@
 
 #include "collect/linux/directory_names.h"
 #include "collect/linux/net_dev_parser.h"
+#include "collect/linux/rejected_text.h"
 #include "collect/linux/sysfs_attribute.h"
 #include "collect/linux/text_fields.h"
 
@@ -104,7 +105,7 @@ std::optional<std::vector<InterfaceCounters>> LinuxNetworkSource::counters()
 {
     const std::lock_guard guard(lock_);
     const auto text = netDev_.read();
-    return text ? parseNetDev(*text) : std::nullopt;
+    return text ? acceptParsed(netDev_.path(), parseNetDev(*text)) : std::nullopt;
 }
 
 std::optional<std::vector<LinkState>> LinuxNetworkSource::linkStates()

@@ -4,6 +4,7 @@
 #include "collect/linux/directory_names.h"
 #include "collect/linux/loadavg_parser.h"
 #include "collect/linux/process_stat_parser.h"
+#include "collect/linux/rejected_text.h"
 
 #include <algorithm>
 #include <string_view>
@@ -26,7 +27,7 @@ std::optional<ProcessCounts> LinuxProcessSource::counts()
     {
         const std::lock_guard guard(lock_);
         if (const auto text = loadavg_.read())
-            if (const auto line = parseLoadAverage(*text))
+            if (const auto line = acceptParsed(loadavg_.path(), parseLoadAverage(*text)))
                 entities = line->schedulingEntities;
     }
     const auto names = directoryNames(root_.join("proc"));
@@ -56,11 +57,11 @@ std::optional<std::vector<ProcessRecord>> LinuxProcessSource::scanProcesses()
             // A process may end between the listing and this read; it is simply left out. A pid
             // reused since the last scan reads through a fresh open of the same name.
             if (const auto text = file.read())
-                record = parseProcessStat(*text);
+                record = acceptParsed(file.path(), parseProcessStat(*text));
             if (record)
                 kept.emplace(pid, std::move(file));
         } else if (const auto text = ProcFile::readOnce(proc / name / "stat")) {
-            record = parseProcessStat(*text);
+            record = acceptParsed(proc / name / "stat", parseProcessStat(*text));
         }
         if (record)
             records.push_back(std::move(*record));

@@ -3,14 +3,15 @@
 
 #include "collect/linux/text_fields.h"
 
-std::optional<LoadAverageLine> parseLoadAverage(std::string_view text)
+Parsed<LoadAverageLine> parseLoadAverage(std::string_view text)
 {
+    const std::string_view whole = firstLine(text);
     LoadAverageLine line;
     const auto one = parseNumber<double>(takeField(text));
     const auto five = parseNumber<double>(takeField(text));
     const auto fifteen = parseNumber<double>(takeField(text));
     if (!one || !five || !fifteen)
-        return std::nullopt;
+        return rejectedLine("three load averages expected", whole, 1);
     line.averages = {*one, *five, *fifteen};
 
     const std::string_view entities = trimSpace(takeField(text));

@@ -2,6 +2,7 @@
 #pragma once
 
 #include "collect/cpu_source.h"
+#include "collect/parsed.h"
 
 #include <cstdint>
 #include <optional>
@@ -14,5 +15,5 @@ struct LoadAverageLine {
     std::optional<std::uint64_t> schedulingEntities;
 };
 
-// Empty unless the three averages are present.
-std::optional<LoadAverageLine> parseLoadAverage(std::string_view text);
+// Rejected unless the three averages are present.
+Parsed<LoadAverageLine> parseLoadAverage(std::string_view text);

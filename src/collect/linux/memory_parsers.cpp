@@ -3,6 +3,8 @@
 
 #include "collect/linux/text_fields.h"
 
+#include <algorithm>
+
 namespace {
 
 using Field = std::optional<std::uint64_t> MemoryCounters::*;
@@ -67,84 +69,96 @@ bool vmstatLine(std::string_view line, std::string_view& name, std::uint64_t& va
     return true;
 }
 
-// The whole line that starts with key; empty when no line does.
-std::optional<std::string_view> lineStartingWith(std::string_view text, std::string_view key)
+// Where the line that starts with key begins; npos when no line does.
+std::size_t lineStartingWith(std::string_view text, std::string_view key)
 {
     for (std::size_t at = text.find(key); at != std::string_view::npos; at = text.find(key, at + 1)) {
-        if (at == 0 || text[at - 1] == '\n') {
-            const auto end = text.find('\n', at);
-            return text.substr(at, end == std::string_view::npos ? std::string_view::npos : end - at);
-        }
+        if (at == 0 || text[at - 1] == '\n')
+            return at;
     }
-    return std::nullopt;
+    return std::string_view::npos;
 }
 
 // Looks for each wanted line rather than walking every line: vmstat has some two hundred, and
-// this runs every tick.
+// this runs every tick. Line numbers are counted only for a line to blame.
 template <std::size_t N>
-bool scanInto(std::string_view text, const NamedField (&fields)[N],
-              bool (*parseLine)(std::string_view, std::string_view&, std::uint64_t&), MemoryCounters& counters)
+Parsed<MemoryCounters> scanInto(std::string_view text, const NamedField (&fields)[N],
+                                bool (*parseLine)(std::string_view, std::string_view&, std::uint64_t&),
+                                MemoryCounters counters, std::string_view reason)
 {
     bool any = false;
+    std::size_t broken = std::string_view::npos;
     std::string_view name;
     std::uint64_t value = 0;
     for (const NamedField& field : fields) {
-        const auto line = lineStartingWith(text, field.key);
-        if (!line || !parseLine(*line, name, value))
+        const std::size_t at = lineStartingWith(text, field.key);
+        if (at == std::string_view::npos)
             continue;
+        if (!parseLine(firstLine(text.substr(at)), name, value)) {
+            broken = std::min(broken, at);
+            continue;
+        }
         counters.*(field.field) = value;
         any = true;
     }
-    return any;
+    if (any)
+        return counters;
+    if (broken == std::string_view::npos)
+        return rejectedText(reason);
+    const auto number = static_cast<std::size_t>(std::count(text.begin(), text.begin() + broken, '\n')) + 1;
+    return rejectedLine(reason, firstLine(text.substr(broken)), number);
+}
+
+// Every line that parseLine takes, by name; the last of a repeated name wins.
+Parsed<NamedCounters> parseTable(std::string_view text,
+                                 bool (*parseLine)(std::string_view, std::string_view&, std::uint64_t&),
+                                 std::string_view reason)
+{
+    NamedCounters counters;
+    FirstSkippedLine skipped;
+    std::string_view line;
+    std::string_view name;
+    std::uint64_t value = 0;
+    for (std::size_t number = 1; takeLine(text, line); ++number) {
+        if (parseLine(line, name, value))
+            counters.insert_or_assign(std::string(name), value);
+        else
+            skipped.note(line, number);
+    }
+    if (counters.empty())
+        return skipped.blame(reason);
+    return counters;
 }
 
 } // namespace
 
-std::optional<NamedCounters> parseMeminfo(std::string_view text)
+Parsed<NamedCounters> parseMeminfo(std::string_view text)
 {
-    NamedCounters counters;
-    std::string_view line;
-    std::string_view name;
-    std::uint64_t value = 0;
-    while (takeLine(text, line)) {
-        if (meminfoLine(line, name, value))
-            counters.insert_or_assign(std::string(name), value);
-    }
-    if (counters.empty())
-        return std::nullopt;
-    return counters;
+    return parseTable(text, meminfoLine, "no \"Name: value\" line");
 }
 
-std::optional<NamedCounters> parseVmstat(std::string_view text)
+Parsed<NamedCounters> parseVmstat(std::string_view text)
 {
-    NamedCounters counters;
-    std::string_view line;
-    std::string_view name;
-    std::uint64_t value = 0;
-    while (takeLine(text, line)) {
-        if (vmstatLine(line, name, value))
-            counters.insert_or_assign(std::string(name), value);
-    }
-    if (counters.empty())
-        return std::nullopt;
-    return counters;
+    return parseTable(text, vmstatLine, "no \"name value\" line");
 }
 
-bool scanMeminfo(std::string_view text, MemoryCounters& counters)
+Parsed<MemoryCounters> scanMeminfo(std::string_view text, MemoryCounters counters)
 {
-    return scanInto(text, kMeminfoFields, meminfoLine, counters);
+    return scanInto(text, kMeminfoFields, meminfoLine, counters, "no memory figure");
 }
 
-bool scanVmstat(std::string_view text, MemoryCounters& counters)
+Parsed<MemoryCounters> scanVmstat(std::string_view text, MemoryCounters counters)
 {
-    return scanInto(text, kVmstatFields, vmstatLine, counters);
+    return scanInto(text, kVmstatFields, vmstatLine, counters, "no paging figure");
 }
 
-std::optional<std::vector<SwapArea>> parseSwaps(std::string_view text)
+Parsed<std::vector<SwapArea>> parseSwaps(std::string_view text)
 {
     std::string_view line;
-    if (!takeLine(text, line) || !line.starts_with("Filename"))
-        return std::nullopt;
+    if (!takeLine(text, line))
+        return rejectedText("empty swap list");
+    if (!line.starts_with("Filename"))
+        return rejectedLine("header \"Filename Type Size Used Priority\" expected", line, 1);
     std::vector<SwapArea> areas;
     while (takeLine(text, line)) {
         std::string_view rest = line;

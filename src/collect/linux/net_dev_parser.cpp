@@ -16,11 +16,12 @@ constexpr std::size_t kSendPackets = 9;
 constexpr std::size_t kNeeded = 10;
 } // namespace
 
-std::optional<std::vector<InterfaceCounters>> parseNetDev(std::string_view text)
+Parsed<std::vector<InterfaceCounters>> parseNetDev(std::string_view text)
 {
     std::vector<InterfaceCounters> rows;
+    FirstSkippedLine skipped;
     std::string_view line;
-    while (takeLine(text, line)) {
+    for (std::size_t lineNumber = 1; takeLine(text, line); ++lineNumber) {
         const auto colon = line.rfind(':');
         if (colon == std::string_view::npos)
             continue;
@@ -37,12 +38,14 @@ std::optional<std::vector<InterfaceCounters>> parseNetDev(std::string_view text)
             if (number)
                 value[i] = *number;
         }
-        if (!complete)
+        if (!complete) {
+            skipped.note(line, lineNumber);
             continue;
+        }
         rows.push_back(
             {std::string(name), value[kReceiveBytes], value[kReceivePackets], value[kSendBytes], value[kSendPackets]});
     }
     if (rows.empty())
-        return std::nullopt;
+        return skipped.blame("no interface row with ten counters");
     return rows;
 }

@@ -2,11 +2,11 @@
 #pragma once
 
 #include "collect/network_source.h"
+#include "collect/parsed.h"
 
-#include <optional>
 #include <string_view>
 #include <vector>
 
-// One record per interface row, in file order; the two header lines are skipped. Empty when
-// the text has no interface row at all.
-std::optional<std::vector<InterfaceCounters>> parseNetDev(std::string_view text);
+// One record per interface row, in file order; the two header lines are skipped. Rejected when
+// the text has no interface row at all, blaming the first row short of its counters.
+Parsed<std::vector<InterfaceCounters>> parseNetDev(std::string_view text);

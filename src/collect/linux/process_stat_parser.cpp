@@ -11,17 +11,18 @@ constexpr int kThreads = 17;
 constexpr int kRss = 21;
 }
 
-std::optional<ProcessRecord> parseProcessStat(std::string_view text)
+Parsed<ProcessRecord> parseProcessStat(std::string_view text)
 {
+    const auto reject = [line = firstLine(text)](std::string_view reason) { return rejectedLine(reason, line, 1); };
     const auto open = text.find('(');
     const auto close = text.rfind(')');
     if (open == std::string_view::npos || close == std::string_view::npos || close < open)
-        return std::nullopt;
+        return reject("no command name in parentheses");
 
     ProcessRecord record;
     const auto pid = parseNumber<std::int64_t>(trimSpace(text.substr(0, open)));
     if (!pid)
-        return std::nullopt;
+        return reject("process id is not a number");
     record.pid = *pid;
     record.command = std::string(text.substr(open + 1, close - open - 1));
 
@@ -31,7 +32,7 @@ std::optional<ProcessRecord> parseProcessStat(std::string_view text)
     for (int index = 0; index <= kRss; ++index) {
         const std::string_view field = trimSpace(takeField(rest));
         if (field.empty())
-            return std::nullopt;
+            return reject("line ends before the resident set size");
         switch (index) {
         case kUtime: utime = parseNumber<std::uint64_t>(field); break;
         case kStime: stime = parseNumber<std::uint64_t>(field); break;
@@ -47,7 +48,7 @@ std::optional<ProcessRecord> parseProcessStat(std::string_view text)
         }
     }
     if (!utime || !stime || !threads || !rss)
-        return std::nullopt;
+        return reject("times, thread count or resident set size not a number");
     record.cpuTicks = *utime + *stime;
     record.threads = *threads;
     record.residentPages = *rss;

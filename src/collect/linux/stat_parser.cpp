@@ -21,19 +21,23 @@ bool isProcessorLabel(std::string_view label)
 }
 }
 
-std::optional<std::vector<ProcessorTicks>> parseProcessorTicks(std::string_view text)
+Parsed<std::vector<ProcessorTicks>> parseProcessorTicks(std::string_view text)
 {
     std::vector<ProcessorTicks> processors;
+    FirstSkippedLine skipped;
     std::string_view line;
-    while (takeLine(text, line)) {
+    for (std::size_t number = 1; takeLine(text, line); ++number) {
         if (!line.starts_with("cpu")) {
             if (!processors.empty())
                 break;
+            skipped.note(line, number);
             continue;
         }
         std::string_view rest = line;
-        if (!isProcessorLabel(takeField(rest)))
+        if (!isProcessorLabel(takeField(rest))) {
+            skipped.note(line, number);
             continue;
+        }
         std::array<std::uint64_t, kColumns> column{};
         for (std::size_t i = 0; i < kColumns; ++i) {
             const auto value = parseNumber<std::uint64_t>(takeField(rest));
@@ -49,20 +53,22 @@ std::optional<std::vector<ProcessorTicks>> parseProcessorTicks(std::string_view 
         processors.push_back(ticks);
     }
     if (processors.empty())
-        return std::nullopt;
+        return skipped.blame("no per-processor \"cpuN\" line");
     return processors;
 }
 
-std::optional<std::int64_t> parseBootTime(std::string_view text)
+Parsed<std::int64_t> parseBootTime(std::string_view text)
 {
     std::string_view line;
-    while (takeLine(text, line)) {
+    for (std::size_t number = 1; takeLine(text, line); ++number) {
         if (!line.starts_with("btime"))
             continue;
         std::string_view rest = line;
         if (takeField(rest) != "btime")
             continue;
-        return parseNumber<std::int64_t>(takeField(rest));
+        if (const auto seconds = parseNumber<std::int64_t>(takeField(rest)))
+            return *seconds;
+        return rejectedLine("boot time is not a whole number", line, number);
     }
-    return std::nullopt;
+    return rejectedText("no \"btime\" line");
 }

@@ -28,6 +28,11 @@ bool takeLine(std::string_view& text, std::string_view& line)
     return true;
 }
 
+std::string_view firstLine(std::string_view text)
+{
+    return text.substr(0, text.find('\n'));
+}
+
 std::string_view takeField(std::string_view& text)
 {
     std::size_t start = 0;

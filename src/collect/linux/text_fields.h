@@ -1,6 +1,8 @@
 // Small allocation-free scanners for the kernel's line- and blank-separated text.
 #pragma once
 
+#include "collect/parsed.h"
+
 #include <charconv>
 #include <optional>
 #include <string>
@@ -31,3 +33,27 @@ std::optional<Number> parseNumber(std::string_view text)
 
 // Decodes the kernel's octal escapes of blanks and backslashes in paths ("\040" is a blank).
 std::string unescapeOctal(std::string_view text);
+
+// The first line a parser passed over, to blame when the text yields nothing at all.
+class FirstSkippedLine {
+public:
+    void note(std::string_view line, std::size_t lineNumber)
+    {
+        if (number_ == 0) {
+            line_ = line;
+            number_ = lineNumber;
+        }
+    }
+    // The rejection, blaming the noted line or, with none noted, the text as a whole.
+    ParseError blame(std::string_view reason) const
+    {
+        return number_ != 0 ? rejectedLine(reason, line_, number_) : rejectedText(reason);
+    }
+
+private:
+    std::string_view line_;
+    std::size_t number_ = 0;
+};
+
+// The first line of text, without its line feed.
+std::string_view firstLine(std::string_view text);

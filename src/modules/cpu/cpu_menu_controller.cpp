@@ -2,6 +2,7 @@
 #include "modules/cpu/cpu_menu_controller.h"
 
 #include "collect/load_system_information.h"
+#include "modules/cpu/cpu_option_texts.h"
 #include "modules/cpu/cpu_panel_facts.h"
 #include "modules/cpu/cpu_panel_values.h"
 #include "modules/panel_labels.h"
@@ -166,7 +167,7 @@ void CPU_MenuController::replaceData(qint64, const ModuleDefaults& myDefaults, c
         return;
     detailsInFlight_ = true;
     pool_.start([this, names = procDict] {
-        const QStringList options = loadInfo_.cpuGetOptionData();
+        const QStringList options = cpuGetOptionData(loadInfo_.cpuOptionFigures());
         const QStringList processes =
             loadInfo_.psGetProccessAsKv(QStringLiteral("%cpu"), names, 10, -1).value_or(QStringList());
         QMetaObject::invokeMethod(

@@ -2,6 +2,7 @@
 #include "modules/cpu/cpu_snapshot.h"
 
 #include "collect/load_system_information.h"
+#include "modules/cpu/cpu_option_texts.h"
 #include "modules/cpu/cpu_panel_facts.h"
 #include "modules/cpu/cpu_usage_text.h"
 
@@ -50,7 +51,7 @@ QString CpuSnapshot::text(const SnapshotContext& context)
         for (std::size_t i = 0; i + 1 < newest.size(); ++i)
             out += QStringLiteral("  cpu%1 ").arg(i, -3) + cpuUsageText(newest[i]) + QLatin1Char('\n');
     }
-    const QStringList options = loadInfo_.cpuGetOptionData();
+    const QStringList options = cpuGetOptionData(loadInfo_.cpuOptionFigures());
     for (qsizetype i = 0; i < options.size() && i < 5; ++i)
         out += QStringLiteral("  %1 %2\n").arg(QString::fromLatin1(kOptionKeys[i]), -6).arg(options.at(i));
     const QString processor = cpuKindText(loadInfo_);
@@ -69,7 +70,7 @@ void CpuSnapshot::addJson(const SnapshotContext& context, QJsonObject& root)
     if (!history.empty())
         root.insert(QLatin1String(context.key), cpuSampleJson(history.back()));
     QJsonObject rows;
-    const QStringList options = loadInfo_.cpuGetOptionData();
+    const QStringList options = cpuGetOptionData(loadInfo_.cpuOptionFigures());
     for (qsizetype i = 0; i < options.size() && i < 5; ++i)
         rows.insert(QLatin1String(kOptionKeys[i]), options.at(i));
     rows.insert(QLatin1String("processor"), cpuKindText(loadInfo_));

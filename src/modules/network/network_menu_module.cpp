@@ -216,9 +216,8 @@ void Network_MenuModule::lookUpNames()
         const QString location = LoadSystemInformation::getCurrentNetworkLocation();
         QHash<QString, QString> names;
         for (const QString& address : addresses) {
-            const QString host = LoadSystemInformation::getHostNameFromIpAddress(address);
-            if (host != QLatin1String("(Unknown Host)"))
-                names.insert(address, host);
+            if (const auto host = LoadSystemInformation::getHostNameFromIpAddress(address))
+                names.insert(address, *host);
         }
         QMetaObject::invokeMethod(
             this,
