@@ -129,9 +129,11 @@ protected:
         return *processes_.back();
     }
 
+    QString settingsPath() const { return dir_.filePath(QStringLiteral("settings.plist")); }
+
     QStringList tarvelArguments(const QStringList& more) const
     {
-        return QStringList{QStringLiteral("--settings"), dir_.filePath(QStringLiteral("settings.plist"))} + more;
+        return QStringList{QStringLiteral("--settings"), settingsPath()} + more;
     }
 
     // The module's picture at scale 1, as the render command draws it with the same settings.
