@@ -55,7 +55,7 @@ void AppDelegate::setCycleExecutor(std::unique_ptr<CycleExecutor> executor)
     executor_ = std::move(executor);
 }
 
-void AppDelegate::applicationDidFinishLaunching(bool startTimer)
+void AppDelegate::prepareSettingsStore()
 {
     SettingsStore& store = *userDefaults_;
 
@@ -70,13 +70,6 @@ void AppDelegate::applicationDidFinishLaunching(bool startTimer)
         store.synchronize();
     }
     // (The translucent preferences background exists on macOS only.)
-
-    loadSysInfoTimerFinishedBool = false;
-    changeColorPool = false;
-    changeRebootPool = false;
-    swapfilesLimitCheckCounter = 0;
-    openedTabNum = 1;
-    chkNowGlobalIpAddrCount = 1;
 
     store.setBool(PrefKey::UpdateAlerting, false);
     store.synchronize();
@@ -93,6 +86,18 @@ void AppDelegate::applicationDidFinishLaunching(bool startTimer)
         store.synchronize();
     }
     // (The file manager's path-in-title default is a macOS setting.)
+}
+
+void AppDelegate::applicationDidFinishLaunching(bool startTimer)
+{
+    SettingsStore& store = *userDefaults_;
+    loadSysInfoTimerFinishedBool = false;
+    changeColorPool = false;
+    changeRebootPool = false;
+    swapfilesLimitCheckCounter = 0;
+    openedTabNum = 1;
+    chkNowGlobalIpAddrCount = 1;
+    prepareSettingsStore();
 
     TvlClasses::checkMyApplicationSupportDir();
     if (MachineSource* machine = loadInfo_->sources().machine.get())

@@ -134,6 +134,8 @@ Q_SIGNALS:
     void allModulesReloaded();
 
 private:
+    // The launch's first steps on the store: the Shift reset, first-run values, the version.
+    void prepareSettingsStore();
     // Takes a module's reloaded settings; its interval reaches the schedule at once.
     void setModuleDefaults(ModuleId id, ModuleDefaults defaults);
     void reloadModuleDefaults(ModuleId id);

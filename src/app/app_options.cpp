@@ -42,34 +42,26 @@ OptionsResult usageError(const QString& why)
 
 } // namespace
 
-OptionsResult parseAppOptions(const QStringList& arguments, const QString& environmentRoot)
+namespace {
+
+struct OptionSet {
+    QCommandLineOption root{QStringLiteral("root"), QString(), QStringLiteral("DIR")};
+    QCommandLineOption settings{QStringLiteral("settings"), QString(), QStringLiteral("FILE")};
+    QCommandLineOption json{QStringLiteral("json")};
+    QCommandLineOption cycles{QStringLiteral("cycles"), QString(), QStringLiteral("N")};
+    QCommandLineOption bar{QStringLiteral("bar")};
+    QCommandLineOption prefs{QStringLiteral("preferences")};
+    QCommandLineOption out{QStringLiteral("out"), QString(), QStringLiteral("DIR")};
+    QCommandLineOption scale{QStringLiteral("scale"), QString(), QStringLiteral("S")};
+    QCommandLineOption help{QStringList{QStringLiteral("h"), QStringLiteral("help")}};
+    QCommandLineOption version{QStringList{QStringLiteral("v"), QStringLiteral("version")}};
+};
+
+// The command and the tab of --preferences from the positional arguments; an error text or none.
+QString readPositional(const QCommandLineParser& parser, const OptionSet& o, AppOptions& options)
 {
-    QCommandLineParser parser;
-    parser.setSingleDashWordOptionMode(QCommandLineParser::ParseAsLongOptions);
-    const QCommandLineOption rootOpt(QStringLiteral("root"), QString(), QStringLiteral("DIR"));
-    const QCommandLineOption settingsOpt(QStringLiteral("settings"), QString(), QStringLiteral("FILE"));
-    const QCommandLineOption jsonOpt(QStringLiteral("json"));
-    const QCommandLineOption cyclesOpt(QStringLiteral("cycles"), QString(), QStringLiteral("N"));
-    const QCommandLineOption barOpt(QStringLiteral("bar"));
-    const QCommandLineOption prefsOpt(QStringLiteral("preferences"));
-    const QCommandLineOption outOpt(QStringLiteral("out"), QString(), QStringLiteral("DIR"));
-    const QCommandLineOption scaleOpt(QStringLiteral("scale"), QString(), QStringLiteral("S"));
-    const QCommandLineOption helpOpt(QStringList{QStringLiteral("h"), QStringLiteral("help")});
-    const QCommandLineOption versionOpt(QStringList{QStringLiteral("v"), QStringLiteral("version")});
-    parser.addOptions(
-        {rootOpt, settingsOpt, jsonOpt, cyclesOpt, barOpt, prefsOpt, outOpt, scaleOpt, helpOpt, versionOpt});
-    parser.addPositionalArgument(QStringLiteral("command"), QString());
-
-    if (!parser.parse(arguments))
-        return usageError(parser.errorText());
-    if (parser.isSet(helpOpt))
-        return {std::nullopt, 0, usageText()};
-    if (parser.isSet(versionOpt))
-        return {std::nullopt, 0, QStringLiteral("tarvel %1\n").arg(QStringLiteral(TARVEL_VERSION))};
-
-    AppOptions options;
     QStringList positional = parser.positionalArguments();
-    if (parser.isSet(prefsOpt)) {
+    if (parser.isSet(o.prefs)) {
         // The module named after --preferences is its value, not a command.
         options.preferencesTab = 0;
         if (!positional.isEmpty()) {
@@ -80,56 +72,93 @@ OptionsResult parseAppOptions(const QStringList& arguments, const QString& envir
         }
     }
     if (positional.size() > 1)
-        return usageError(QStringLiteral("unexpected argument '%1'").arg(positional.at(1)));
+        return QStringLiteral("unexpected argument '%1'").arg(positional.at(1));
     if (positional.size() == 1) {
         if (positional.front() == QLatin1String("snapshot"))
             options.command = AppOptions::Command::Snapshot;
         else if (positional.front() == QLatin1String("render"))
             options.command = AppOptions::Command::Render;
         else
-            return usageError(QStringLiteral("unknown command '%1'").arg(positional.front()));
+            return QStringLiteral("unknown command '%1'").arg(positional.front());
     }
+    return {};
+}
 
+// Each option belongs to some commands only, and numbers have their ranges.
+QString readCommandOptions(const QCommandLineParser& parser, const OptionSet& o, AppOptions& options)
+{
     const bool snapshot = options.command == AppOptions::Command::Snapshot;
     const bool render = options.command == AppOptions::Command::Render;
-    if (!snapshot && parser.isSet(jsonOpt))
-        return usageError(QStringLiteral("--json belongs to the snapshot command"));
-    if (!snapshot && !render && parser.isSet(cyclesOpt))
-        return usageError(QStringLiteral("--cycles belongs to the snapshot and render commands"));
-    if (!render && (parser.isSet(outOpt) || parser.isSet(scaleOpt)))
-        return usageError(QStringLiteral("--out and --scale belong to the render command"));
-    if ((parser.isSet(barOpt) || parser.isSet(prefsOpt)) && options.command != AppOptions::Command::Run)
-        return usageError(QStringLiteral("--bar and --preferences are for running the monitor"));
-    options.bar = parser.isSet(barOpt);
-    options.json = parser.isSet(jsonOpt);
+    if (!snapshot && parser.isSet(o.json))
+        return QStringLiteral("--json belongs to the snapshot command");
+    if (!snapshot && !render && parser.isSet(o.cycles))
+        return QStringLiteral("--cycles belongs to the snapshot and render commands");
+    if (!render && (parser.isSet(o.out) || parser.isSet(o.scale)))
+        return QStringLiteral("--out and --scale belong to the render command");
+    if ((parser.isSet(o.bar) || parser.isSet(o.prefs)) && options.command != AppOptions::Command::Run)
+        return QStringLiteral("--bar and --preferences are for running the monitor");
+    options.bar = parser.isSet(o.bar);
+    options.json = parser.isSet(o.json);
     if (render) {
-        options.outDir = parser.value(outOpt);
+        options.outDir = parser.value(o.out);
         if (options.outDir.isEmpty())
-            return usageError(QStringLiteral("render needs --out DIR"));
-        if (parser.isSet(scaleOpt)) {
-            bool ok = false;
-            options.scale = parser.value(scaleOpt).toDouble(&ok);
-            if (!ok || options.scale < 0.5 || options.scale > 8)
-                return usageError(QStringLiteral("--scale takes a number from 0.5 to 8"));
-        }
+            return QStringLiteral("render needs --out DIR");
+        bool ok = true;
+        if (parser.isSet(o.scale))
+            options.scale = parser.value(o.scale).toDouble(&ok);
+        if (!ok || options.scale < 0.5 || options.scale > 8)
+            return QStringLiteral("--scale takes a number from 0.5 to 8");
     }
-    if (parser.isSet(cyclesOpt)) {
+    if (parser.isSet(o.cycles)) {
         bool ok = false;
-        options.cycles = parser.value(cyclesOpt).toInt(&ok);
+        options.cycles = parser.value(o.cycles).toInt(&ok);
         if (!ok || options.cycles < 1 || options.cycles > 86400)
-            return usageError(QStringLiteral("--cycles takes a whole number from 1 to 86400"));
+            return QStringLiteral("--cycles takes a whole number from 1 to 86400");
     }
+    return {};
+}
 
-    const QString root = parser.isSet(rootOpt) ? parser.value(rootOpt) : environmentRoot;
+// The tree to read and the settings file; an error text or none.
+QString readPaths(const QCommandLineParser& parser, const OptionSet& o, const QString& environmentRoot,
+                  AppOptions& options)
+{
+    const QString root = parser.isSet(o.root) ? parser.value(o.root) : environmentRoot;
     if (!root.isEmpty()) {
         if (!QFileInfo(root).isDir())
-            return usageError(QStringLiteral("the root '%1' is not a folder").arg(root));
+            return QStringLiteral("the root '%1' is not a folder").arg(root);
         options.root = root;
     }
-    if (parser.isSet(settingsOpt)) {
-        options.settingsFile = parser.value(settingsOpt);
+    if (parser.isSet(o.settings)) {
+        options.settingsFile = parser.value(o.settings);
         if (options.settingsFile.isEmpty() || QFileInfo(options.settingsFile).isDir())
-            return usageError(QStringLiteral("--settings takes a file name"));
+            return QStringLiteral("--settings takes a file name");
     }
+    return {};
+}
+
+} // namespace
+
+OptionsResult parseAppOptions(const QStringList& arguments, const QString& environmentRoot)
+{
+    QCommandLineParser parser;
+    parser.setSingleDashWordOptionMode(QCommandLineParser::ParseAsLongOptions);
+    const OptionSet o;
+    parser.addOptions({o.root, o.settings, o.json, o.cycles, o.bar, o.prefs, o.out, o.scale, o.help, o.version});
+    parser.addPositionalArgument(QStringLiteral("command"), QString());
+
+    if (!parser.parse(arguments))
+        return usageError(parser.errorText());
+    if (parser.isSet(o.help))
+        return {std::nullopt, 0, usageText()};
+    if (parser.isSet(o.version))
+        return {std::nullopt, 0, QStringLiteral("tarvel %1\n").arg(QStringLiteral(TARVEL_VERSION))};
+
+    AppOptions options;
+    for (const auto& step : {readPositional, readCommandOptions}) {
+        if (const QString error = step(parser, o, options); !error.isEmpty())
+            return usageError(error);
+    }
+    if (const QString error = readPaths(parser, o, environmentRoot, options); !error.isEmpty())
+        return usageError(error);
     return {options, 0, QString()};
 }
