@@ -38,7 +38,15 @@ public:
     MenuModule(MenuModuleDelegate* delegate, int preferenceTab, QObject* parent = nullptr);
     ~MenuModule() override;
 
-    void setMyDefaults(const ModuleDefaults& defaults) { myDefaults = defaults; }
+    // Handed the same dictionary every cycle: the typed settings are rebuilt only when it changed.
+    void setMyDefaults(const ModuleDefaults& defaults)
+    {
+        if (settingsRead_ && defaults.sharesDataWith(myDefaults))
+            return;
+        myDefaults = defaults;
+        settingsRead_ = true;
+        settingsChanged();
+    }
     // Takes this module's history from the sampled data; modules without one ignore it.
     virtual void setHistory(const InfoDict& info) { Q_UNUSED(info) }
     // Device pixels per point of the pictures: the screen's ratio unless set (renders choose theirs).
@@ -78,6 +86,8 @@ protected:
     virtual void redrawStatusItem() {}
     // Extra work when the menu opens, before its contents are redrawn.
     virtual void prepareMenuOpening() {}
+    // The settings or the theme changed: the module reads its typed settings again.
+    virtual void settingsChanged() {}
     // The in-menu graph with the given settings.
     virtual QImage drawMenuGraph(const ModuleDefaults& defaults)
     {
@@ -104,6 +114,7 @@ protected:
 private:
     int preferenceTab_;
     bool menuOpened_ = false;
+    bool settingsRead_ = false;
     qreal pictureScale_ = 0; // 0: the screen's
     QImage shownImage_;
 };
