@@ -104,7 +104,7 @@ QString diskText(const AppDelegate& app)
 {
     const DiskBaseDict& disks = app.volumeTracker().diskBaseDict();
     const auto& history = app.infoDict().disk;
-    const std::vector<DiskBarSet> sets = diskBarSets(app.defaults(ModuleId::Disk), disks);
+    const std::vector<StorageBarSet> sets = diskBarSets(diskPictureSettings(app.defaults(ModuleId::Disk)), disks);
     QString out = QStringLiteral("Disk\n  bar    ") + diskBarText(sets, disks, history) + QLatin1Char('\n');
     if (history.size() < 2)
         out += QStringLiteral("  (rates need two samples; sample more cycles)\n");
@@ -122,12 +122,10 @@ QString volumeText(const AppDelegate& app)
 {
     const VolumeBaseDict& volumes = app.volumeTracker().volumeBaseDict();
     const auto& history = app.infoDict().volume;
-    const ModuleDefaults& settings = app.defaults(ModuleId::Volume);
-    const std::vector<VolumeBarSet> sets = volumeBarSets(settings, volumes);
-    QString out =
-        QStringLiteral("Volume\n  bar    ") +
-        volumeBarText(sets, volumes, history, volumePercentKind(settings.intValue(PrefKey::Vlms_Percent_Mode))) +
-        QLatin1Char('\n');
+    const VolumePictureSettings settings = volumePictureSettings(app.defaults(ModuleId::Volume));
+    const std::vector<StorageBarSet> sets = volumeBarSets(settings, volumes);
+    QString out = QStringLiteral("Volume\n  bar    ") + volumeBarText(sets, volumes, history, settings.percentKind) +
+                  QLatin1Char('\n');
     static const VolumeSample noSample;
     const VolumeSample& newest = history.empty() ? noSample : history.back();
     for (const auto& [path, volume] : volumes)

@@ -28,9 +28,9 @@ VolumeSample usageSample()
     return s;
 }
 
-Drawn draw(const ModuleDefaults& defaults, const History<VolumeSample>& history, const VolumeBaseDict& volumes)
+Drawn draw(const VolumePictureSettings& defaults, const History<VolumeSample>& history, const VolumeBaseDict& volumes)
 {
-    const std::vector<VolumeBarSet> sets = volumeBarSets(defaults, volumes);
+    const std::vector<StorageBarSet> sets = volumeBarSets(defaults, volumes);
     const double width = volumeBarWidth(defaults, sets.size(), kBarHeight);
     ImageVolumeBar bar;
     bar.redrawWithSize(QSizeF(width, kBarHeight), TvlClasses::retStatusMenuInsets(volumeShownElementCount(defaults)),
@@ -60,16 +60,16 @@ QStringList textsOf(const Drawn& drawn)
 TEST(VolumePicture, WidthRuleIsWhereTheDrawingEndsForEveryCombination)
 {
     // The bar chart alone: 7 points, spacing 3 replaced by the 4-point end margin.
-    EXPECT_DOUBLE_EQ(volumeBarWidth(volumePictureDefaults(kBar, false), 1, kBarHeight), 11);
-    EXPECT_DOUBLE_EQ(volumeBarWidth(volumePictureDefaults(kBar, true, true), 2, kBarHeight), 10 + 7 + 4 + 12);
-    EXPECT_DOUBLE_EQ(volumeBarWidth(volumePictureDefaults(0), 2, kBarHeight), 0);
+    EXPECT_DOUBLE_EQ(volumeBarWidth(volumeSettings(kBar, false), 1, kBarHeight), 11);
+    EXPECT_DOUBLE_EQ(volumeBarWidth(volumeSettings(kBar, true, true), 2, kBarHeight), 10 + 7 + 4 + 12);
+    EXPECT_DOUBLE_EQ(volumeBarWidth(volumeSettings(0), 2, kBarHeight), 0);
 
     const History<VolumeSample> history = historyOf<VolumeSample>({usageSample(), usageSample()});
     for (int mask = 1; mask < 32; ++mask) {
         for (const bool each : {false, true}) {
             for (const bool label : {false, true}) {
                 SCOPED_TRACE(testing::Message() << "elements " << mask << " each " << each << " label " << label);
-                const ModuleDefaults d = volumePictureDefaults(mask, each, label);
+                const VolumePictureSettings d = volumeSettings(mask, each, label);
                 const double spacing =
                     TvlClasses::retStatusMenuInsets(std::popcount(static_cast<unsigned>(mask))).spacing;
                 const std::size_t sets = each ? 2 : 1;
@@ -83,19 +83,20 @@ TEST(VolumePicture, PercentageShowsTheChosenShareOfEachVolumeOrOfAll)
 {
     const History<VolumeSample> history = historyOf<VolumeSample>({usageSample()});
     ModuleDefaults d = volumePictureDefaults(kPercent);
-    EXPECT_EQ(textsOf(draw(d, history, twoVolumes())), QStringList({"25%", "90%"}));
+    const auto percentages = [&] { return textsOf(draw(volumePictureSettings(d), history, twoVolumes())); };
+    EXPECT_EQ(percentages(), QStringList({"25%", "90%"}));
     d.set(PrefKey::Vlms_Percent_Mode, qint64{2});
-    EXPECT_EQ(textsOf(draw(d, history, twoVolumes())), QStringList({"75%", "10%"}));
+    EXPECT_EQ(percentages(), QStringList({"75%", "10%"}));
     d.set(PrefKey::Vlms_ShowEachDisk, false);
-    EXPECT_EQ(textsOf(draw(d, history, twoVolumes())), QStringList({"26%"})); // 1050 of 4000 free
+    EXPECT_EQ(percentages(), QStringList({"26%"})); // 1050 of 4000 free
     d.set(PrefKey::Vlms_Percent_Mode, qint64{1});
-    EXPECT_EQ(textsOf(draw(d, history, twoVolumes())), QStringList({"74%"}));
+    EXPECT_EQ(percentages(), QStringList({"74%"}));
 
     // Coloured figures warn by fill, whichever share they show; plain ones keep their colour.
     ModuleDefaults coloured = volumePictureDefaults(kPercent);
     coloured.set(PrefKey::Vlms_Percent_Mode, qint64{2});
     coloured.set(PrefKey::Vlms_ColoredValue, true);
-    const auto inks = texts(draw(coloured, history, twoVolumes()));
+    const auto inks = texts(draw(volumePictureSettings(coloured), history, twoVolumes()));
     ASSERT_EQ(inks.size(), 2U);
     EXPECT_EQ(inks[0].pen, coloured.color("E01"));
     EXPECT_EQ(inks[1].pen, coloured.color("E03"));
@@ -104,7 +105,7 @@ TEST(VolumePicture, PercentageShowsTheChosenShareOfEachVolumeOrOfAll)
     VolumeBaseDict three = twoVolumes();
     three[QStringLiteral("/mnt/new")] = volumeEntry("new", "sdc1", "/dev/sdc1", "ext4");
     EXPECT_EQ(
-        textsOf(draw(volumePictureDefaults(kText), history, three)),
+        textsOf(draw(volumeSettings(kText), history, three)),
         QStringList({"U:", "F:", "250.0MB", "750.0MB", "U:", "F:", "2.7GB", "300.0MB", "U:", "F:", "0Byte", "0Byte"}));
 }
 
@@ -116,7 +117,7 @@ TEST(VolumePicture, GraphLeavesAGapWhereAVolumeWasNotMeasured)
     ModuleDefaults d = volumePictureDefaults(kGraph, false);
     d.set(PrefKey::Vlms_ShowEachDisk, true);
     std::vector<QRectF> columns;
-    for (const DrawCall& call : draw(d, history, twoVolumes()).calls)
+    for (const DrawCall& call : draw(volumePictureSettings(d), history, twoVolumes()).calls)
         if (call.kind == DrawCall::Rect && call.brush == d.color("E03"))
             columns.push_back(call.rect);
     // The stick's graph: its newest and oldest samples, one point apart from the missing one.

@@ -25,15 +25,20 @@ protected:
     void drawBaseStatusBar() override;
     void redrawStatusItem() override;
     void prepareMenuOpening() override;
+    void settingsChanged() override;
+    QImage drawMenuGraph() override { return menuGraph(menuSettings_); }
 
 private:
     static constexpr double kMenuGraphHeight = 20;
 
-    QImage drawMenuGraph(const ModuleDefaults& defaults) override;
+    QImage menuGraph(const CpuPictureSettings& settings);
 
     ImageCpuBar imageCpuBar;
     ImageCpuBar imageCpuMenu;
     QLabel* menuGraph_ = nullptr;                    // owned by the menu through its widget action
     CPU_MenuController* cpuMenuController = nullptr; // likewise
     History<CpuSample> resumeArray;
+    CpuPictureSettings settings_;
+    CpuPictureSettings menuSettings_;     // with the in-menu graph's layout
+    CpuPictureSettings openMenuSettings_; // as they were when the menu opened
 };

@@ -7,11 +7,9 @@
 #include "collect/storage_descriptions.h"
 #include "modules/disk/disk_menu_controller.h"
 #include "modules/disk/image_disk_bar.h"
-#include "modules/menu_module.h"
+#include "modules/storage_menu_module.h"
 
-class QLabel;
-
-class Disk_MenuModule final : public MenuModule {
+class Disk_MenuModule final : public StorageMenuModule {
     Q_OBJECT
 public:
     explicit Disk_MenuModule(MenuModuleDelegate* delegate, QObject* parent = nullptr);
@@ -23,26 +21,24 @@ public:
     const DiskBaseDict& diskBaseDict() const { return diskBaseDict_; }
     void refreshBar() override;
 
-    bool checkcMenuOpened() const { return menuOpened(); }
-    // Draws again from the disks now described (after a mount or an unmount).
-    void resetAndRefreshBar();
-
     // The panel of disk blocks; none before the menu is built.
     Disk_MenuController* controller() const { return diskMenuController; }
 
 protected:
     void drawBaseStatusBar() override;
-    void redrawStatusItem() override;
+    void settingsChanged() override;
+    void prepareMenuOpening() override { openMenuSettings_ = menuSettings_; }
+    QImage drawMenuGraph() override { return drawStorageMenuGraph(imageDiskMenu, menuSettings_, resumeArray); }
+    QImage openMenuGraph() override { return drawStorageMenuGraph(imageDiskMenu, openMenuSettings_, resumeArray); }
+    void replacePanelData() override;
 
 private:
-    static constexpr double kMenuGraphHeight = 20;
-
-    QImage drawMenuGraph(const ModuleDefaults& defaults) override;
-
     ImageDiskBar imageDiskBar;
     ImageDiskBar imageDiskMenu;
-    QLabel* menuGraph_ = nullptr;                      // owned by the menu through its widget action
-    Disk_MenuController* diskMenuController = nullptr; // likewise
+    Disk_MenuController* diskMenuController = nullptr; // owned by the menu through its widget action
+    DiskPictureSettings settings_;
+    DiskPictureSettings menuSettings_;     // with the in-menu graph's layout
+    DiskPictureSettings openMenuSettings_; // as they were when the menu opened
     History<DiskSample> resumeArray;
     DiskBaseDict diskBaseDict_;
 };

@@ -126,30 +126,37 @@ void Network_MenuModule::drawBaseStatusBar()
 
 void Network_MenuModule::refreshBar()
 {
-    if (myDefaults.isEmpty() || myDefaults.intList(NetworkItemSortArray).isEmpty() || !statusItem)
+    if (!settings_.loaded || settings_.order.isEmpty() || !statusItem)
         return;
     const double height = TvlClasses::retRootMenuHeight();
     const NetworkRates now = retNowUpDwBytes();
-    imageNetworkBar.redrawWithSize(QSizeF(networkBarWidth(myDefaults), height),
-                                   TvlClasses::retStatusMenuInsets(networkShownElementCount(myDefaults)), menuOpened(),
-                                   true, myDefaults, resumeArray, now);
+    imageNetworkBar.redrawWithSize(QSizeF(networkBarWidth(settings_), height),
+                                   TvlClasses::retStatusMenuInsets(networkShownElementCount(settings_)), menuOpened(),
+                                   true, settings_, resumeArray, now);
     showImage(imageNetworkBar.image(pictureScale()));
     if (!resumeArray.empty())
-        statusItem->setText(networkBarText(now, networkRatesInBits(myDefaults)));
+        statusItem->setText(networkBarText(now, settings_.bits));
+}
+
+void Network_MenuModule::settingsChanged()
+{
+    settings_ = networkPictureSettings(myDefaults);
+    menuSettings_ = networkPictureSettings(withMenuLayout());
 }
 
 void Network_MenuModule::prepareMenuOpening()
 {
+    openMenuSettings_ = menuSettings_;
     if (myDelegate != nullptr)
         networkBaseDict = myDelegate->collector().networkBaseDict();
     lookUpNames();
 }
 
-QImage Network_MenuModule::drawMenuGraph(const ModuleDefaults& defaults)
+QImage Network_MenuModule::menuGraph(const NetworkPictureSettings& settings)
 {
-    imageNetworkMenu.redrawWithSize(
-        QSizeF(static_cast<double>(mnDefaults.intValue(Network_GraphWidth)), kMenuGraphHeight),
-        TvlClasses::retMenuPullDownInsets(), false, true, defaults, resumeArray, retNowUpDwBytes());
+    imageNetworkMenu.redrawWithSize(QSizeF(menuSettings_.graphWidth, kMenuGraphHeight),
+                                    TvlClasses::retMenuPullDownInsets(), false, true, settings, resumeArray,
+                                    retNowUpDwBytes());
     return imageNetworkMenu.image(pictureScale());
 }
 
@@ -158,9 +165,9 @@ void Network_MenuModule::redrawStatusItem()
     if (!menuOpened())
         return;
     if (menuGraph_ != nullptr)
-        menuGraph_->setPixmap(QPixmap::fromImage(drawMenuGraph(mnDefaultsTmp)));
+        menuGraph_->setPixmap(QPixmap::fromImage(menuGraph(openMenuSettings_)));
     if (networkCurrent != nullptr)
-        networkCurrent->replaceData(retNowInterval(), myDefaults, resumeArray);
+        networkCurrent->replaceData(retNowInterval(), settings_, resumeArray);
     if (myDelegate != nullptr)
         networkBaseDict = myDelegate->collector().networkBaseDict();
     // The base is replaced, never changed, when an interface changes: a new one means new rows.
@@ -185,8 +192,7 @@ void Network_MenuModule::addtionalNicMenus()
     listedBase_ = networkBaseDict;
     if (statusMenu == nullptr || !networkBaseDict)
         return;
-    for (const NicRow& row :
-         networkInterfaceRows(*networkBaseDict, myDefaults.boolValue(Network_ShowAllNic), hostNames_)) {
+    for (const NicRow& row : networkInterfaceRows(*networkBaseDict, settings_.showAllNic, hostNames_)) {
         auto* menu = new QMenu(row.title, statusMenu);
         for (const auto& [title, value] : row.lines) {
             // Choosing a line copies its value, an address most often.

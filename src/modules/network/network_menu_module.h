@@ -52,13 +52,15 @@ protected:
     void drawBaseStatusBar() override;
     void redrawStatusItem() override;
     void prepareMenuOpening() override;
+    void settingsChanged() override;
+    QImage drawMenuGraph() override { return menuGraph(menuSettings_); }
 
 private:
     static constexpr double kMenuGraphHeight = 20;
 
     // Seconds the newest sample covers.
     double retNowInterval() const;
-    QImage drawMenuGraph(const ModuleDefaults& defaults) override;
+    QImage menuGraph(const NetworkPictureSettings& settings);
     void removeNicMenus();
     void addtionalNicMenus();
     void lookUpNames();
@@ -71,6 +73,9 @@ private:
     QList<QMenu*> nicMenus_;
     History<NetworkSample> resumeArray;
     SampleArrivals arrivals_;
+    NetworkPictureSettings settings_;
+    NetworkPictureSettings menuSettings_;     // with the in-menu graph's layout
+    NetworkPictureSettings openMenuSettings_; // as they were when the menu opened
     std::shared_ptr<const NetworkBase> networkBaseDict;
     std::shared_ptr<const NetworkBase> listedBase_;
     QHash<QString, QString> hostNames_;

@@ -5,16 +5,14 @@
 #include "collect/disk_sample.h"
 #include "collect/history.h"
 #include "collect/storage_descriptions.h"
-#include "modules/menu_module.h"
+#include "modules/storage_menu_module.h"
 #include "modules/volume/image_volume_bar.h"
 #include "modules/volume/volume_ejector.h"
 #include "modules/volume/volume_menu_controller.h"
 
 #include <memory>
 
-class QLabel;
-
-class Volume_MenuModule final : public MenuModule {
+class Volume_MenuModule final : public StorageMenuModule {
     Q_OBJECT
 public:
     explicit Volume_MenuModule(MenuModuleDelegate* delegate, QObject* parent = nullptr);
@@ -26,30 +24,29 @@ public:
     const VolumeBaseDict& volumeBaseDict() const { return *volumeBaseDict_; }
     void refreshBar() override;
 
-    bool checkcMenuOpened() const { return menuOpened(); }
-    // Draws again from the volumes now described (after a mount or an unmount).
-    void resetAndRefreshBar();
-
     // The panel of volume blocks; none before the menu is built.
     Volume_MenuController* controller() const { return volumeMenuController; }
     VolumeEjector& ejector() { return *ejector_; }
 
 protected:
     void drawBaseStatusBar() override;
-    void redrawStatusItem() override;
+    void settingsChanged() override;
+    void prepareMenuOpening() override { openMenuSettings_ = menuSettings_; }
+    QImage drawMenuGraph() override { return drawStorageMenuGraph(imageVolumeMenu, menuSettings_, resumeArray); }
+    QImage openMenuGraph() override { return drawStorageMenuGraph(imageVolumeMenu, openMenuSettings_, resumeArray); }
+    void replacePanelData() override;
 
 private:
-    static constexpr double kMenuGraphHeight = 20;
-
     void addVolumeItems();
     void ejectFinished(const QString& path, bool ejected, const QString& message);
-    QImage drawMenuGraph(const ModuleDefaults& defaults) override;
 
     ImageVolumeBar imageVolumeBar;
     ImageVolumeBar imageVolumeMenu;
-    QLabel* menuGraph_ = nullptr;                          // owned by the menu through its widget action
-    Volume_MenuController* volumeMenuController = nullptr; // likewise
+    Volume_MenuController* volumeMenuController = nullptr; // owned by the menu through its widget action
     VolumeEjector* ejector_;                               // a child of this module
     History<VolumeSample> resumeArray;
     std::shared_ptr<const VolumeBaseDict> volumeBaseDict_;
+    VolumePictureSettings settings_;
+    VolumePictureSettings menuSettings_;     // with the in-menu graph's layout
+    VolumePictureSettings openMenuSettings_; // as they were when the menu opened
 };
