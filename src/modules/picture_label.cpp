@@ -21,6 +21,24 @@ PictureBasics pictureBasics(const ModuleDefaults& defaults, const char* showKey,
     return basics;
 }
 
+void readSettings(const ModuleDefaults& defaults, std::initializer_list<SettingField<bool>> fields)
+{
+    for (const auto& [field, key] : fields)
+        *field = defaults.boolValue(QLatin1String(key));
+}
+
+void readSettings(const ModuleDefaults& defaults, std::initializer_list<SettingField<double>> fields)
+{
+    for (const auto& [field, key] : fields)
+        *field = defaults.doubleValue(QLatin1String(key));
+}
+
+void readSettings(const ModuleDefaults& defaults, std::initializer_list<SettingField<QColor>> fields)
+{
+    for (const auto& [field, key] : fields)
+        *field = defaults.color(QLatin1String(key));
+}
+
 double drawModuleLabel(QPainter& painter, const PictureBasics& basics)
 {
     if (!basics.showLabel)

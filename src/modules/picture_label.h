@@ -7,6 +7,8 @@
 #include <QColor>
 #include <QList>
 
+#include <initializer_list>
+
 class QPainter;
 
 // Room the label takes at the picture's left edge, whatever the label picture's own width.
@@ -22,6 +24,17 @@ struct PictureBasics {
     int fontAdjust = 0;                        // points the texts move up
     QColor emptyLine;                          // Z03, under a graph that has no history yet
 };
+
+// A field of a module's typed settings and the key it is read from.
+template <class T> struct SettingField {
+    T* field;
+    const char* key;
+};
+
+// Reads each field from the dictionary: switches, sizes in points, colours.
+void readSettings(const ModuleDefaults& defaults, std::initializer_list<SettingField<bool>> fields);
+void readSettings(const ModuleDefaults& defaults, std::initializer_list<SettingField<double>> fields);
+void readSettings(const ModuleDefaults& defaults, std::initializer_list<SettingField<QColor>> fields);
 
 // Reads the basics: showKey switches the label picture pictureKey on, orderKey lists the elements.
 PictureBasics pictureBasics(const ModuleDefaults& defaults, const char* showKey, const char* pictureKey,

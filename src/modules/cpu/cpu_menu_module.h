@@ -6,6 +6,7 @@
 #include "modules/cpu/cpu_menu_controller.h"
 #include "modules/cpu/image_cpu_bar.h"
 #include "modules/menu_module.h"
+#include "modules/module_settings.h"
 
 class QLabel;
 
@@ -25,8 +26,8 @@ protected:
     void drawBaseStatusBar() override;
     void redrawStatusItem() override;
     void prepareMenuOpening() override;
-    void settingsChanged() override;
-    QImage drawMenuGraph() override { return menuGraph(menuSettings_); }
+    void settingsChanged() override { settings_.read(cpuPictureSettings, myDefaults, withMenuLayout()); }
+    QImage drawMenuGraph() override { return menuGraph(settings_.menu); }
 
 private:
     static constexpr double kMenuGraphHeight = 20;
@@ -38,7 +39,5 @@ private:
     QLabel* menuGraph_ = nullptr;                    // owned by the menu through its widget action
     CPU_MenuController* cpuMenuController = nullptr; // likewise
     History<CpuSample> resumeArray;
-    CpuPictureSettings settings_;
-    CpuPictureSettings menuSettings_;     // with the in-menu graph's layout
-    CpuPictureSettings openMenuSettings_; // as they were when the menu opened
+    ModuleSettings<CpuPictureSettings> settings_;
 };

@@ -37,27 +37,21 @@ void Disk_MenuModule::setDiskBaseDict(const DiskBaseDict& diskBaseDict)
 void Disk_MenuModule::drawBaseStatusBar()
 {
     addBaseItems(Disk_EnaMenu_Amon, Disk_EnaMenu_Cnsl, Disk_EnaMenu_Tmnl,
-                 settings_.pictures[StoragePicture::MenuInternal]);
+                 settings_.bar.pictures[StoragePicture::MenuInternal]);
     diskMenuController = new Disk_MenuController();
-    diskMenuController->loadBaseData(settings_.pictures, diskBaseDict_);
+    diskMenuController->loadBaseData(settings_.bar.pictures, diskBaseDict_);
     addPanel(diskMenuController);
     menuItemRefresh = false;
     redrawStatusItem();
 }
 
-void Disk_MenuModule::settingsChanged()
-{
-    settings_ = diskPictureSettings(myDefaults);
-    menuSettings_ = diskPictureSettings(withMenuLayout());
-}
-
 void Disk_MenuModule::refreshBar()
 {
-    if (!settings_.loaded || settings_.order.isEmpty() || !statusItem)
+    if (!settings_.barDrawable() || !statusItem)
         return;
-    const std::vector<StorageBarSet> sets = diskBarSets(settings_, diskBaseDict_);
-    showStoragePicture(imageDiskBar, settings_, resumeArray, sets, diskBarWidth(settings_, sets.size()),
-                       diskShownElementCount(settings_), diskBarText(sets, diskBaseDict_, resumeArray));
+    const std::vector<StorageBarSet> sets = diskBarSets(settings_.bar, diskBaseDict_);
+    showStoragePicture(imageDiskBar, settings_.bar, resumeArray, sets, diskBarWidth(settings_.bar, sets.size()),
+                       diskShownElementCount(settings_.bar), diskBarText(sets, diskBaseDict_, resumeArray));
 }
 
 void Disk_MenuModule::replacePanelData()

@@ -7,6 +7,7 @@
 #include "collect/storage_descriptions.h"
 #include "modules/disk/disk_menu_controller.h"
 #include "modules/disk/image_disk_bar.h"
+#include "modules/module_settings.h"
 #include "modules/storage_menu_module.h"
 
 class Disk_MenuModule final : public StorageMenuModule {
@@ -26,19 +27,17 @@ public:
 
 protected:
     void drawBaseStatusBar() override;
-    void settingsChanged() override;
-    void prepareMenuOpening() override { openMenuSettings_ = menuSettings_; }
-    QImage drawMenuGraph() override { return drawStorageMenuGraph(imageDiskMenu, menuSettings_, resumeArray); }
-    QImage openMenuGraph() override { return drawStorageMenuGraph(imageDiskMenu, openMenuSettings_, resumeArray); }
+    void settingsChanged() override { settings_.read(diskPictureSettings, myDefaults, withMenuLayout()); }
+    void prepareMenuOpening() override { settings_.keepForOpenMenu(); }
+    QImage drawMenuGraph() override { return drawStorageMenuGraph(imageDiskMenu, settings_.menu, resumeArray); }
+    QImage openMenuGraph() override { return drawStorageMenuGraph(imageDiskMenu, settings_.openMenu, resumeArray); }
     void replacePanelData() override;
 
 private:
     ImageDiskBar imageDiskBar;
     ImageDiskBar imageDiskMenu;
     Disk_MenuController* diskMenuController = nullptr; // owned by the menu through its widget action
-    DiskPictureSettings settings_;
-    DiskPictureSettings menuSettings_;     // with the in-menu graph's layout
-    DiskPictureSettings openMenuSettings_; // as they were when the menu opened
+    ModuleSettings<DiskPictureSettings> settings_;
     History<DiskSample> resumeArray;
     DiskBaseDict diskBaseDict_;
 };

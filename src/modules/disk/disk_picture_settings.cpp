@@ -20,18 +20,16 @@ DiskPictureSettings diskPictureSettings(const ModuleDefaults& d)
     DiskPictureSettings s;
     static_cast<StorageBasics&>(s) = storageBasics(d, Disk_ShowMyLabel, DiskThemeKey::L04, DiskItemSortArray,
                                                    Disk_ShowEachDisk, DiskInnerIconAbleToBeBol);
-    s.indicator = d.boolValue(Disk_Display_Indicator);
-    s.graph = d.boolValue(Disk_Display_Graph);
-    s.text = d.boolValue(Disk_Display_Text);
+    readSettings(
+        d, {{&s.indicator, Disk_Display_Indicator}, {&s.graph, Disk_Display_Graph}, {&s.text, Disk_Display_Text}});
     s.indicatorLabels = labelColumn(d, Disk_Indicator_LabelAry, DiskInnerIndicatorLabelWidth);
     s.graphLabels = labelColumn(d, Disk_Graph_LabelAry, DiskInnerGraphLabelWidth);
     s.textLabels = labelColumn(d, Disk_Text_LabelAry, DiskInnerTextLabelWidth);
     s.graphWidth = static_cast<double>(d.intValue(Disk_GraphWidth));
-    s.textValueWidth = d.doubleValue(DiskInnerTextValueWidth);
-    s.graphStyle = {TvlClasses::diskGraphKind(d.intValue(Disk_Graph_Mode)),
-                    TvlClasses::diskGraphScale(d.intValue(Disk_Percent_Mode)), d.color(DiskThemeKey::D01),
-                    d.color(DiskThemeKey::D02)};
-    s.lampFrame = d.color(DiskThemeKey::D03);
-    s.lampOff = d.color(DiskThemeKey::D04);
+    readSettings(d, {{&s.textValueWidth, DiskInnerTextValueWidth}});
+    s.graphStyle.kind = TvlClasses::diskGraphKind(d.intValue(Disk_Graph_Mode));
+    s.graphStyle.scale = TvlClasses::diskGraphScale(d.intValue(Disk_Percent_Mode));
+    using namespace DiskThemeKey;
+    readSettings(d, {{&s.graphStyle.read, D01}, {&s.graphStyle.write, D02}, {&s.lampFrame, D03}, {&s.lampOff, D04}});
     return s;
 }

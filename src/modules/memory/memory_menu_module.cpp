@@ -60,15 +60,14 @@ const MemoryTextWidths& Memory_MenuModule::textWidths()
     if (widthsStale_ || totalBytes != widthsTotalBytes_) {
         widthsStale_ = false;
         widthsTotalBytes_ = totalBytes;
-        widths_ = memoryTextWidths(settings_, totalBytes);
+        widths_ = memoryTextWidths(settings_.bar, totalBytes);
     }
     return widths_;
 }
 
 void Memory_MenuModule::settingsChanged()
 {
-    settings_ = memoryPictureSettings(myDefaults);
-    menuSettings_ = memoryPictureSettings(withMenuLayout());
+    settings_.read(memoryPictureSettings, myDefaults, withMenuLayout());
     widthsStale_ = true;
 }
 
@@ -96,25 +95,25 @@ void Memory_MenuModule::drawBaseStatusBar()
 
 void Memory_MenuModule::refreshBar()
 {
-    if (!settings_.loaded || settings_.order.isEmpty() || !statusItem)
+    if (!settings_.barDrawable() || !statusItem)
         return;
     takeMemorySize();
     const double height = TvlClasses::retRootMenuHeight();
     const MemoryTextWidths& widths = textWidths();
     imageMemoryBar.setMemorySize(memoryPageSize_, memoryTotalPages_);
-    imageMemoryBar.redrawWithSize(QSizeF(memoryBarWidth(settings_, widths, height), height),
-                                  TvlClasses::retStatusMenuInsets(memoryShownElementCount(settings_)), menuOpened(),
-                                  true, settings_, resumeArray, widths);
+    imageMemoryBar.redrawWithSize(QSizeF(memoryBarWidth(settings_.bar, widths, height), height),
+                                  TvlClasses::retStatusMenuInsets(memoryShownElementCount(settings_.bar)), menuOpened(),
+                                  true, settings_.bar, resumeArray, widths);
     showImage(imageMemoryBar.image(pictureScale()));
     if (!resumeArray.empty()) {
-        const MemoryBreakdown parts = memoryBreakdown(resumeArray.back(), memoryTotalPages_, settings_.traditional);
-        statusItem->setText(memoryBarText(parts, memoryPageSize_, settings_.unit));
+        const MemoryBreakdown parts = memoryBreakdown(resumeArray.back(), memoryTotalPages_, settings_.bar.traditional);
+        statusItem->setText(memoryBarText(parts, memoryPageSize_, settings_.bar.unit));
     }
 }
 
 void Memory_MenuModule::prepareMenuOpening()
 {
-    openMenuSettings_ = menuSettings_;
+    settings_.keepForOpenMenu();
     // Application names are only looked up for a menu that is shown.
     if (memoryMenuController != nullptr)
         memoryMenuController->reloadProcDict();
@@ -123,7 +122,7 @@ void Memory_MenuModule::prepareMenuOpening()
 QImage Memory_MenuModule::menuGraph(const MemoryPictureSettings& settings)
 {
     imageMemoryMenu.setMemorySize(memoryPageSize_, memoryTotalPages_);
-    imageMemoryMenu.redrawWithSize(QSizeF(menuSettings_.graphWidth, kMenuGraphHeight),
+    imageMemoryMenu.redrawWithSize(QSizeF(settings_.menu.graphWidth, kMenuGraphHeight),
                                    TvlClasses::retMenuPullDownInsets(), false, true, settings, resumeArray, widths_);
     return imageMemoryMenu.image(pictureScale());
 }
@@ -131,10 +130,10 @@ QImage Memory_MenuModule::menuGraph(const MemoryPictureSettings& settings)
 void Memory_MenuModule::redrawStatusItem()
 {
     if (menuGraph_ != nullptr && menuOpened())
-        menuGraph_->setPixmap(QPixmap::fromImage(menuGraph(openMenuSettings_)));
+        menuGraph_->setPixmap(QPixmap::fromImage(menuGraph(settings_.openMenu)));
     // The swap and process scans behind the panel run only while someone looks at it.
     if (memoryMenuController != nullptr && menuOpened()) {
-        const double seconds = arrivals_.secondsBetweenNewest(static_cast<double>(settings_.updateInterval));
-        memoryMenuController->replaceData(seconds, settings_, resumeArray, memoryPageSize_, memoryTotalPages_);
+        const double seconds = arrivals_.secondsBetweenNewest(static_cast<double>(settings_.bar.updateInterval));
+        memoryMenuController->replaceData(seconds, settings_.bar, resumeArray, memoryPageSize_, memoryTotalPages_);
     }
 }

@@ -7,6 +7,7 @@
 #include "modules/memory/memory_bar_width.h"
 #include "modules/memory/memory_menu_controller.h"
 #include "modules/menu_module.h"
+#include "modules/module_settings.h"
 #include "modules/sample_arrivals.h"
 
 class QLabel;
@@ -36,7 +37,7 @@ protected:
     void redrawStatusItem() override;
     void prepareMenuOpening() override;
     void settingsChanged() override;
-    QImage drawMenuGraph() override { return menuGraph(menuSettings_); }
+    QImage drawMenuGraph() override { return menuGraph(settings_.menu); }
 
 private:
     static constexpr double kMenuGraphHeight = 20;
@@ -54,9 +55,7 @@ private:
     SampleArrivals arrivals_;
     std::size_t memoryPageSize_ = 4096;
     std::int64_t memoryTotalPages_ = 0;
-    MemoryPictureSettings settings_;
-    MemoryPictureSettings menuSettings_;     // with the in-menu graph's layout
-    MemoryPictureSettings openMenuSettings_; // as they were when the menu opened
+    ModuleSettings<MemoryPictureSettings> settings_;
     // The text widths, and the memory size they were measured for; stale after a settings change.
     MemoryTextWidths widths_;
     std::int64_t widthsTotalBytes_ = -1;

@@ -10,27 +10,24 @@ MemoryPictureSettings memoryPictureSettings(const ModuleDefaults& d)
 {
     MemoryPictureSettings s;
     static_cast<PictureBasics&>(s) = pictureBasics(d, Memory_ShowMyLabel, MemoryThemeKey::L02, MemoryItemSortArray);
-    s.traditional = d.boolValue(Memory_TradMemoryInfo);
-    s.graph = d.boolValue(Memory_Display_Graph);
-    s.levelBar = d.boolValue(Memory_Display_LevelBar);
-    s.meter = d.boolValue(Memory_Display_CircleMeter);
-    s.text = d.boolValue(Memory_Display_Text);
-    s.detailText = d.boolValue(Memory_Display_DetailText);
+    readSettings(d, {{&s.traditional, Memory_TradMemoryInfo},
+                     {&s.graph, Memory_Display_Graph},
+                     {&s.levelBar, Memory_Display_LevelBar},
+                     {&s.meter, Memory_Display_CircleMeter},
+                     {&s.text, Memory_Display_Text},
+                     {&s.detailText, Memory_Display_DetailText},
+                     {&s.longText, Memory_Text_WithLongLabel},
+                     {&s.longDetail, Memory_DetailText_WithLongLabel}});
     s.graphWidth = static_cast<double>(d.intValue(Memory_GraphWidth));
     s.unit = static_cast<int>(d.intValue(Memory_Unit));
-    s.longText = d.boolValue(Memory_Text_WithLongLabel);
-    s.longDetail = d.boolValue(Memory_DetailText_WithLongLabel);
+    s.updateInterval = d.intValue(Memory_UpdateInterval);
     s.fontName = d.stringValue(_FontPostScriptName);
     s.fontSize = 9 + d.doubleValue(_FontSizeDiff);
-    s.textHeaderWidth = d.doubleValue(MemoryInnerTextHeaderWidth);
-    s.detailLeftHeaderWidth = d.doubleValue(MemoryInnerDetailLHeaderWidth);
-    s.detailRightHeaderWidth = d.doubleValue(MemoryInnerDetailRHeaderWidth);
-    s.frame = d.color(MemoryThemeKey::B06);
-    s.textColor = d.color(MemoryThemeKey::B07);
-    s.low = d.color(MemoryThemeKey::B08);
-    s.warning = d.color(MemoryThemeKey::B09);
-    s.critical = d.color(MemoryThemeKey::B10);
-    s.updateInterval = d.intValue(Memory_UpdateInterval);
+    readSettings(d, {{&s.textHeaderWidth, MemoryInnerTextHeaderWidth},
+                     {&s.detailLeftHeaderWidth, MemoryInnerDetailLHeaderWidth},
+                     {&s.detailRightHeaderWidth, MemoryInnerDetailRHeaderWidth}});
+    using namespace MemoryThemeKey;
+    readSettings(d, {{&s.frame, B06}, {&s.textColor, B07}, {&s.low, B08}, {&s.warning, B09}, {&s.critical, B10}});
     for (const MemoryPart part : {MemoryPart::Wired, MemoryPart::Active, MemoryPart::Inactive, MemoryPart::Compressed,
                                   MemoryPart::Other, MemoryPart::Free, MemoryPart::Application, MemoryPart::Cached})
         s.partColors[static_cast<std::size_t>(part)] = memoryPartColor(d, part);

@@ -126,27 +126,21 @@ void Network_MenuModule::drawBaseStatusBar()
 
 void Network_MenuModule::refreshBar()
 {
-    if (!settings_.loaded || settings_.order.isEmpty() || !statusItem)
+    if (!settings_.barDrawable() || !statusItem)
         return;
     const double height = TvlClasses::retRootMenuHeight();
     const NetworkRates now = retNowUpDwBytes();
-    imageNetworkBar.redrawWithSize(QSizeF(networkBarWidth(settings_), height),
-                                   TvlClasses::retStatusMenuInsets(networkShownElementCount(settings_)), menuOpened(),
-                                   true, settings_, resumeArray, now);
+    imageNetworkBar.redrawWithSize(QSizeF(networkBarWidth(settings_.bar), height),
+                                   TvlClasses::retStatusMenuInsets(networkShownElementCount(settings_.bar)),
+                                   menuOpened(), true, settings_.bar, resumeArray, now);
     showImage(imageNetworkBar.image(pictureScale()));
     if (!resumeArray.empty())
-        statusItem->setText(networkBarText(now, settings_.bits));
-}
-
-void Network_MenuModule::settingsChanged()
-{
-    settings_ = networkPictureSettings(myDefaults);
-    menuSettings_ = networkPictureSettings(withMenuLayout());
+        statusItem->setText(networkBarText(now, settings_.bar.bits));
 }
 
 void Network_MenuModule::prepareMenuOpening()
 {
-    openMenuSettings_ = menuSettings_;
+    settings_.keepForOpenMenu();
     if (myDelegate != nullptr)
         networkBaseDict = myDelegate->collector().networkBaseDict();
     lookUpNames();
@@ -154,7 +148,7 @@ void Network_MenuModule::prepareMenuOpening()
 
 QImage Network_MenuModule::menuGraph(const NetworkPictureSettings& settings)
 {
-    imageNetworkMenu.redrawWithSize(QSizeF(menuSettings_.graphWidth, kMenuGraphHeight),
+    imageNetworkMenu.redrawWithSize(QSizeF(settings_.menu.graphWidth, kMenuGraphHeight),
                                     TvlClasses::retMenuPullDownInsets(), false, true, settings, resumeArray,
                                     retNowUpDwBytes());
     return imageNetworkMenu.image(pictureScale());
@@ -165,9 +159,9 @@ void Network_MenuModule::redrawStatusItem()
     if (!menuOpened())
         return;
     if (menuGraph_ != nullptr)
-        menuGraph_->setPixmap(QPixmap::fromImage(menuGraph(openMenuSettings_)));
+        menuGraph_->setPixmap(QPixmap::fromImage(menuGraph(settings_.openMenu)));
     if (networkCurrent != nullptr)
-        networkCurrent->replaceData(retNowInterval(), settings_, resumeArray);
+        networkCurrent->replaceData(retNowInterval(), settings_.bar, resumeArray);
     if (myDelegate != nullptr)
         networkBaseDict = myDelegate->collector().networkBaseDict();
     // The base is replaced, never changed, when an interface changes: a new one means new rows.
@@ -192,7 +186,7 @@ void Network_MenuModule::addtionalNicMenus()
     listedBase_ = networkBaseDict;
     if (statusMenu == nullptr || !networkBaseDict)
         return;
-    for (const NicRow& row : networkInterfaceRows(*networkBaseDict, settings_.showAllNic, hostNames_)) {
+    for (const NicRow& row : networkInterfaceRows(*networkBaseDict, settings_.bar.showAllNic, hostNames_)) {
         auto* menu = new QMenu(row.title, statusMenu);
         for (const auto& [title, value] : row.lines) {
             // Choosing a line copies its value, an address most often.

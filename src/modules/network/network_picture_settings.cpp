@@ -11,21 +11,18 @@ NetworkPictureSettings networkPictureSettings(const ModuleDefaults& d)
 {
     NetworkPictureSettings s;
     static_cast<PictureBasics&>(s) = pictureBasics(d, Network_ShowMyLabel, NetworkThemeKey::L03, NetworkItemSortArray);
-    s.udLabel = d.boolValue(Network_Display_UdLabel);
-    s.lamps = d.boolValue(Network_Display_UdCircle);
-    s.graph = d.boolValue(Network_Display_Graph);
-    s.text = d.boolValue(Network_Display_Text);
-    s.udLabelWidth = d.doubleValue(NetworkInnerUdLabelWidth);
+    readSettings(d, {{&s.udLabel, Network_Display_UdLabel},
+                     {&s.lamps, Network_Display_UdCircle},
+                     {&s.graph, Network_Display_Graph},
+                     {&s.text, Network_Display_Text},
+                     {&s.showAllNic, Network_ShowAllNic}});
+    readSettings(d, {{&s.udLabelWidth, NetworkInnerUdLabelWidth}, {&s.textWidth, NetworkInnerTextWidth}});
     s.udLabels = d.stringList(Network_UdLabel_ModeAry);
     s.graphWidth = static_cast<double>(d.intValue(Network_GraphWidth));
     s.graphKind = networkGraphKind(d.intValue(Network_Graph_Mode));
     s.limen = networkLimenBytes(d);
     s.bits = networkRatesInBits(d);
-    s.textWidth = d.doubleValue(NetworkInnerTextWidth);
-    s.up = d.color(NetworkThemeKey::C01);
-    s.down = d.color(NetworkThemeKey::C02);
-    s.lampFrame = d.color(NetworkThemeKey::C03);
-    s.lampOff = d.color(NetworkThemeKey::C04);
-    s.showAllNic = d.boolValue(Network_ShowAllNic);
+    using namespace NetworkThemeKey;
+    readSettings(d, {{&s.up, C01}, {&s.down, C02}, {&s.lampFrame, C03}, {&s.lampOff, C04}});
     return s;
 }

@@ -57,9 +57,9 @@ void Volume_MenuModule::setVolumeBaseDict(std::shared_ptr<const VolumeBaseDict> 
 void Volume_MenuModule::drawBaseStatusBar()
 {
     addBaseItems(Volume_EnaMenu_Amon, Volume_EnaMenu_Cnsl, Volume_EnaMenu_Tmnl,
-                 settings_.pictures[StoragePicture::MenuInternal]);
+                 settings_.bar.pictures[StoragePicture::MenuInternal]);
     volumeMenuController = new Volume_MenuController();
-    volumeMenuController->loadBaseData(settings_.pictures, *volumeBaseDict_);
+    volumeMenuController->loadBaseData(settings_.bar.pictures, *volumeBaseDict_);
     addPanel(volumeMenuController);
     addVolumeItems();
     menuItemRefresh = false;
@@ -72,8 +72,8 @@ void Volume_MenuModule::addVolumeItems()
         return;
     statusMenu->addSeparator();
     // Items, not buttons in the panel: choosing one closes the menu before any dialog shows.
-    const QIcon open = storageMenuIcon(settings_.openIcon);
-    const QIcon eject = storageMenuIcon(settings_.ejectIcon);
+    const QIcon open = storageMenuIcon(settings_.bar.openIcon);
+    const QIcon eject = storageMenuIcon(settings_.bar.ejectIcon);
     for (const auto& [path, volume] : *volumeBaseDict_) {
         QAction* item = statusMenu->addAction(open, quoted("Open \"%@\"", volume.volumeName));
         item->setData(path);
@@ -97,21 +97,15 @@ void Volume_MenuModule::ejectFinished(const QString& path, bool ejected, const Q
         QMessageBox::warning(nullptr, localized("Eject"), message);
 }
 
-void Volume_MenuModule::settingsChanged()
-{
-    settings_ = volumePictureSettings(myDefaults);
-    menuSettings_ = volumePictureSettings(withMenuLayout());
-}
-
 void Volume_MenuModule::refreshBar()
 {
-    if (!settings_.loaded || settings_.order.isEmpty() || !statusItem)
+    if (!settings_.barDrawable() || !statusItem)
         return;
-    const std::vector<StorageBarSet> sets = volumeBarSets(settings_, *volumeBaseDict_);
-    showStoragePicture(imageVolumeBar, settings_, resumeArray, sets,
-                       volumeBarWidth(settings_, sets.size(), TvlClasses::retRootMenuHeight()),
-                       volumeShownElementCount(settings_),
-                       volumeBarText(sets, *volumeBaseDict_, resumeArray, settings_.percentKind));
+    const std::vector<StorageBarSet> sets = volumeBarSets(settings_.bar, *volumeBaseDict_);
+    showStoragePicture(imageVolumeBar, settings_.bar, resumeArray, sets,
+                       volumeBarWidth(settings_.bar, sets.size(), TvlClasses::retRootMenuHeight()),
+                       volumeShownElementCount(settings_.bar),
+                       volumeBarText(sets, *volumeBaseDict_, resumeArray, settings_.bar.percentKind));
 }
 
 void Volume_MenuModule::replacePanelData()

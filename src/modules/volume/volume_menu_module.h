@@ -5,6 +5,7 @@
 #include "collect/disk_sample.h"
 #include "collect/history.h"
 #include "collect/storage_descriptions.h"
+#include "modules/module_settings.h"
 #include "modules/storage_menu_module.h"
 #include "modules/volume/image_volume_bar.h"
 #include "modules/volume/volume_ejector.h"
@@ -30,10 +31,10 @@ public:
 
 protected:
     void drawBaseStatusBar() override;
-    void settingsChanged() override;
-    void prepareMenuOpening() override { openMenuSettings_ = menuSettings_; }
-    QImage drawMenuGraph() override { return drawStorageMenuGraph(imageVolumeMenu, menuSettings_, resumeArray); }
-    QImage openMenuGraph() override { return drawStorageMenuGraph(imageVolumeMenu, openMenuSettings_, resumeArray); }
+    void settingsChanged() override { settings_.read(volumePictureSettings, myDefaults, withMenuLayout()); }
+    void prepareMenuOpening() override { settings_.keepForOpenMenu(); }
+    QImage drawMenuGraph() override { return drawStorageMenuGraph(imageVolumeMenu, settings_.menu, resumeArray); }
+    QImage openMenuGraph() override { return drawStorageMenuGraph(imageVolumeMenu, settings_.openMenu, resumeArray); }
     void replacePanelData() override;
 
 private:
@@ -46,7 +47,5 @@ private:
     VolumeEjector* ejector_;                               // a child of this module
     History<VolumeSample> resumeArray;
     std::shared_ptr<const VolumeBaseDict> volumeBaseDict_;
-    VolumePictureSettings settings_;
-    VolumePictureSettings menuSettings_;     // with the in-menu graph's layout
-    VolumePictureSettings openMenuSettings_; // as they were when the menu opened
+    ModuleSettings<VolumePictureSettings> settings_;
 };
