@@ -6,6 +6,9 @@
 
 #include <QGridLayout>
 #include <QLabel>
+#include <QPixmap>
+
+#include <algorithm>
 
 StoragePanel::StoragePanel(QWidget* parent)
     : QWidget(parent)
@@ -35,6 +38,27 @@ void StoragePanel::addBlock(const QString& key, QLabel* picture, const QList<QLa
     for (QLabel* line : lines)
         grid_->addWidget(line, nextLine_++, 1);
     blocks_.push_back({key, lines});
+}
+
+QLabel* StoragePanel::pictureLabel(const ThemePicture& picture, double side)
+{
+    auto* label = new QLabel(this);
+    label->setAlignment(side > 0 ? Qt::AlignCenter : Qt::AlignTop | Qt::AlignHCenter);
+    if (side > 0)
+        label->setFixedWidth(static_cast<int>(side));
+    if (picture.image.isNull())
+        return label;
+    QImage image = picture.image;
+    if (side > 0) {
+        const qreal ratio = devicePixelRatioF();
+        image =
+            image.scaled(QSizeF(side * ratio, side * ratio).toSize(), Qt::KeepAspectRatio, Qt::SmoothTransformation);
+        image.setDevicePixelRatio(ratio);
+    } else {
+        image.setDevicePixelRatio(image.width() / std::max(1.0, picture.size.width()));
+    }
+    label->setPixmap(QPixmap::fromImage(image));
+    return label;
 }
 
 QString StoragePanel::rowText(int row) const

@@ -2,19 +2,11 @@
 #pragma once
 
 #include "collect/disk_sample.h"
-#include "collect/history.h"
 #include "collect/storage_descriptions.h"
 #include "modules/storage_panel.h"
-#include "modules/storage_pictures.h"
 
-class Disk_MenuController final : public StoragePanel {
-    Q_OBJECT
-public:
-    explicit Disk_MenuController(QWidget* parent = nullptr);
+using Disk_MenuController = StoragePanelOf<DiskBaseDict, DiskSample>;
 
-    // One block per disk: its picture, name and model, hardware facts. Rates and totals are
-    // filled by replaceData.
-    void loadBaseData(const StoragePictures& pictures, const DiskBaseDict& diskBaseDict);
-    // Every tick while the menu is open.
-    void replaceData(const History<DiskSample>& resumeArray);
-};
+// One block per disk: its picture, name and model, hardware facts; rates and totals below.
+template <> void Disk_MenuController::loadBaseData(const StoragePictures& pictures, const DiskBaseDict& diskBaseDict);
+template <> void Disk_MenuController::replaceData(const History<DiskSample>& resumeArray);

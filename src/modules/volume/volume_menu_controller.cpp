@@ -4,34 +4,15 @@
 #include "modules/volume/volume_menu_rows.h"
 
 #include <QLabel>
-#include <QPixmap>
 
 namespace {
 
 // The kind pictures at the size the menu shows them.
 constexpr double kPictureSize = 36;
 
-QLabel* pictureLabel(QWidget* parent, const ThemePicture& picture)
-{
-    auto* label = new QLabel(parent);
-    label->setAlignment(Qt::AlignCenter);
-    label->setFixedWidth(static_cast<int>(kPictureSize));
-    if (!picture.image.isNull()) {
-        const qreal ratio = parent->devicePixelRatioF();
-        QImage image = picture.image.scaled(QSizeF(kPictureSize * ratio, kPictureSize * ratio).toSize(),
-                                            Qt::KeepAspectRatio, Qt::SmoothTransformation);
-        image.setDevicePixelRatio(ratio);
-        label->setPixmap(QPixmap::fromImage(image));
-    }
-    return label;
-}
-
 } // namespace
 
-Volume_MenuController::Volume_MenuController(QWidget* parent)
-    : StoragePanel(parent)
-{}
-
+template <>
 void Volume_MenuController::loadBaseData(const StoragePictures& pictures, const VolumeBaseDict& volumeBaseDict)
 {
     if (!startBlocks(volumeBaseDict.empty(), "No volume mounted"))
@@ -39,12 +20,12 @@ void Volume_MenuController::loadBaseData(const StoragePictures& pictures, const 
     for (const auto& [path, volume] : volumeBaseDict) {
         const StoragePicture kind = volumePicture(volume.iconKind, volume.bsdName, volume.isRemovable);
         addBlock(
-            path, pictureLabel(this, pictures[kind]),
+            path, pictureLabel(pictures[kind], kPictureSize),
             {new QLabel(volume.volumeName, this), new QLabel(volumeFactsText(path, volume), this), new QLabel(this)});
     }
 }
 
-void Volume_MenuController::replaceData(const History<VolumeSample>& resumeArray)
+template <> void Volume_MenuController::replaceData(const History<VolumeSample>& resumeArray)
 {
     static const VolumeSample noSample;
     const VolumeSample& newest = resumeArray.empty() ? noSample : resumeArray.back();

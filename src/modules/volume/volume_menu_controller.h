@@ -2,19 +2,12 @@
 #pragma once
 
 #include "collect/disk_sample.h"
-#include "collect/history.h"
 #include "collect/storage_descriptions.h"
 #include "modules/storage_panel.h"
-#include "modules/storage_pictures.h"
 
-class Volume_MenuController final : public StoragePanel {
-    Q_OBJECT
-public:
-    explicit Volume_MenuController(QWidget* parent = nullptr);
+using Volume_MenuController = StoragePanelOf<VolumeBaseDict, VolumeSample>;
 
-    // One block per volume: its picture, name, file system, device and mount point. The space
-    // is filled by replaceData.
-    void loadBaseData(const StoragePictures& pictures, const VolumeBaseDict& volumeBaseDict);
-    // Every tick while the menu is open.
-    void replaceData(const History<VolumeSample>& resumeArray);
-};
+// One block per volume: its picture, name, file system, device and mount point; the space below.
+template <>
+void Volume_MenuController::loadBaseData(const StoragePictures& pictures, const VolumeBaseDict& volumeBaseDict);
+template <> void Volume_MenuController::replaceData(const History<VolumeSample>& resumeArray);
