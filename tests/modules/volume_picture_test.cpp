@@ -124,3 +124,45 @@ TEST(VolumePicture, GraphLeavesAGapWhereAVolumeWasNotMeasured)
     ASSERT_EQ(columns.size(), 2U);
     EXPECT_DOUBLE_EQ(columns[0].left() - columns[1].left(), 2);
 }
+
+TEST(StoragePictures, KindPictureStandsFaintlyBehindEachVolumesSet)
+{
+    // The kernel's name tells optical drives and disk images apart; the flag tells a stick.
+    EXPECT_EQ(volumePicture(VolumeIconKind::Network, QStringLiteral("sr0")), StoragePicture::Network);
+    EXPECT_EQ(volumePicture(VolumeIconKind::External, QStringLiteral("sr0")), StoragePicture::Optical);
+    EXPECT_EQ(volumePicture(VolumeIconKind::Internal, QStringLiteral("loop3")), StoragePicture::DiskImage);
+    EXPECT_EQ(volumePicture(VolumeIconKind::External, QStringLiteral("sdb1"), true), StoragePicture::Removable);
+    EXPECT_EQ(volumePicture(VolumeIconKind::External, QStringLiteral("sdb1")), StoragePicture::External);
+    EXPECT_EQ(diskMenuPicture(VolumeIconKind::Network), StoragePicture::MenuExternal);
+
+    // "/" is internal (M01, red here), the stick removable (M03, blue); the graph leaves the
+    // left of each set empty, so the picture shows there.
+    ModuleDefaults d = volumePictureDefaults(kGraph);
+    d.set(PrefKey::VlmsInnerIconAbleToBeBol, true);
+    for (const auto& [key, colour] : {std::pair{"M01", Qt::red}, std::pair{"M03", Qt::blue}}) {
+        QImage picture(28, 28, QImage::Format_ARGB32_Premultiplied);
+        picture.fill(colour);
+        d.set(QLatin1String(key), QVariant::fromValue(ThemePicture{picture, QSizeF(14, 14)}));
+    }
+    const auto shownAt = [&](const VolumePictureSettings& settings, double x) {
+        const std::vector<StorageBarSet> sets = volumeBarSets(settings, twoVolumes());
+        ImageVolumeBar bar;
+        bar.redrawWithSize(QSizeF(volumeBarWidth(settings, sets.size(), kBarHeight), kBarHeight),
+                           TvlClasses::retStatusMenuInsets(1), false, false, settings,
+                           historyOf<VolumeSample>({usageSample()}), sets);
+        return bar.image(1).pixelColor(static_cast<int>(x), static_cast<int>(kBarHeight / 2));
+    };
+    const VolumePictureSettings each = volumePictureSettings(d);
+    const double setWidth = 30 + TvlClasses::retStatusMenuInsets(1).spacing;
+    const QColor root = shownAt(each, 3);
+    const QColor stick = shownAt(each, setWidth + 3);
+    EXPECT_GT(root.red(), 0);
+    EXPECT_EQ(root.blue(), 0);
+    EXPECT_GT(stick.blue(), 0);
+    EXPECT_EQ(stick.red(), 0);
+    EXPECT_LT(root.alpha(), 255); // faint, so the elements over it stay readable
+
+    // All volumes together have no kind: no picture behind them.
+    d.set(PrefKey::Vlms_ShowEachDisk, false);
+    EXPECT_EQ(shownAt(volumePictureSettings(d), 3).alpha(), 0);
+}
