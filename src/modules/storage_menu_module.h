@@ -1,7 +1,9 @@
 // What the Disk and Volume status items share: the menu's frame, its graph and the redraws.
 #pragma once
 
+#include "collect/history.h"
 #include "modules/menu_module.h"
+#include "modules/module_settings.h"
 #include "modules/storage_pictures.h"
 
 #include <QSizeF>
@@ -50,6 +52,42 @@ protected:
 
 private:
     QLabel* menuGraph_ = nullptr; // owned by the menu through its widget action
+};
+
+// What differs between Disk and Volume only in its types: the settings and their builder, the
+// picture, the samples, and the panel of blocks.
+template <class Settings, Settings (*readSettings)(const ModuleDefaults&), class Bar, class Sample, class Panel>
+class StorageMenuModuleOf : public StorageMenuModule {
+public:
+    void setResumeArray(const History<Sample>& history) { resumeArray = history; }
+    // The panel of blocks; none before the menu is built.
+    Panel* controller() const { return panel_; }
+
+protected:
+    using StorageMenuModule::StorageMenuModule;
+
+    void settingsChanged() override { settings_.read(readSettings, myDefaults, withMenuLayout()); }
+    void prepareMenuOpening() override { settings_.keepForOpenMenu(); }
+    QImage drawMenuGraph() override { return drawStorageMenuGraph(menuBar_, settings_.menu, resumeArray); }
+    QImage openMenuGraph() override { return drawStorageMenuGraph(menuBar_, settings_.openMenu, resumeArray); }
+    void replacePanelData() override
+    {
+        if (panel_ != nullptr)
+            panel_->replaceData(resumeArray);
+    }
+    // Shows the bar's picture of sets, width wide, and its words.
+    void showPicture(const std::vector<StorageBarSet>& sets, double width, int shownElements, const QString& words)
+    {
+        showStoragePicture(bar_, settings_.bar, resumeArray, sets, width, shownElements, words);
+    }
+
+    ModuleSettings<Settings> settings_;
+    History<Sample> resumeArray;
+    Panel* panel_ = nullptr; // owned by the menu through its widget action
+
+private:
+    Bar bar_;
+    Bar menuBar_;
 };
 
 template <class Bar, class Settings, class History>

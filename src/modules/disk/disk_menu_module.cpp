@@ -8,7 +8,7 @@
 using namespace PrefKey;
 
 Disk_MenuModule::Disk_MenuModule(MenuModuleDelegate* delegate, QObject* parent)
-    : StorageMenuModule(delegate, 4, parent)
+    : DiskMenuModuleBase(delegate, 4, parent)
 {
     setObjectName(QStringLiteral("Disk"));
     // The menu always shows every disk together in one graph, 400 points wide, without labels.
@@ -38,9 +38,9 @@ void Disk_MenuModule::drawBaseStatusBar()
 {
     addBaseItems(Disk_EnaMenu_Amon, Disk_EnaMenu_Cnsl, Disk_EnaMenu_Tmnl,
                  settings_.bar.pictures[StoragePicture::MenuInternal]);
-    diskMenuController = new Disk_MenuController();
-    diskMenuController->loadBaseData(settings_.bar.pictures, diskBaseDict_);
-    addPanel(diskMenuController);
+    panel_ = new Disk_MenuController();
+    panel_->loadBaseData(settings_.bar.pictures, diskBaseDict_);
+    addPanel(panel_);
     menuItemRefresh = false;
     redrawStatusItem();
 }
@@ -50,12 +50,6 @@ void Disk_MenuModule::refreshBar()
     if (!settings_.barDrawable() || !statusItem)
         return;
     const std::vector<StorageBarSet> sets = diskBarSets(settings_.bar, diskBaseDict_);
-    showStoragePicture(imageDiskBar, settings_.bar, resumeArray, sets, diskBarWidth(settings_.bar, sets.size()),
-                       diskShownElementCount(settings_.bar), diskBarText(sets, diskBaseDict_, resumeArray));
-}
-
-void Disk_MenuModule::replacePanelData()
-{
-    if (diskMenuController != nullptr)
-        diskMenuController->replaceData(resumeArray);
+    showPicture(sets, diskBarWidth(settings_.bar, sets.size()), diskShownElementCount(settings_.bar),
+                diskBarText(sets, diskBaseDict_, resumeArray));
 }

@@ -24,7 +24,7 @@ QString quoted(const char* key, const QString& name)
 } // namespace
 
 Volume_MenuModule::Volume_MenuModule(MenuModuleDelegate* delegate, QObject* parent)
-    : StorageMenuModule(delegate, 5, parent)
+    : VolumeMenuModuleBase(delegate, 5, parent)
     , ejector_(new VolumeEjector(this))
     , volumeBaseDict_(std::make_shared<const VolumeBaseDict>())
 {
@@ -58,9 +58,9 @@ void Volume_MenuModule::drawBaseStatusBar()
 {
     addBaseItems(Volume_EnaMenu_Amon, Volume_EnaMenu_Cnsl, Volume_EnaMenu_Tmnl,
                  settings_.bar.pictures[StoragePicture::MenuInternal]);
-    volumeMenuController = new Volume_MenuController();
-    volumeMenuController->loadBaseData(settings_.bar.pictures, *volumeBaseDict_);
-    addPanel(volumeMenuController);
+    panel_ = new Volume_MenuController();
+    panel_->loadBaseData(settings_.bar.pictures, *volumeBaseDict_);
+    addPanel(panel_);
     addVolumeItems();
     menuItemRefresh = false;
     redrawStatusItem();
@@ -102,14 +102,7 @@ void Volume_MenuModule::refreshBar()
     if (!settings_.barDrawable() || !statusItem)
         return;
     const std::vector<StorageBarSet> sets = volumeBarSets(settings_.bar, *volumeBaseDict_);
-    showStoragePicture(imageVolumeBar, settings_.bar, resumeArray, sets,
-                       volumeBarWidth(settings_.bar, sets.size(), TvlClasses::retRootMenuHeight()),
-                       volumeShownElementCount(settings_.bar),
-                       volumeBarText(sets, *volumeBaseDict_, resumeArray, settings_.bar.percentKind));
-}
-
-void Volume_MenuModule::replacePanelData()
-{
-    if (volumeMenuController != nullptr)
-        volumeMenuController->replaceData(resumeArray);
+    showPicture(sets, volumeBarWidth(settings_.bar, sets.size(), TvlClasses::retRootMenuHeight()),
+                volumeShownElementCount(settings_.bar),
+                volumeBarText(sets, *volumeBaseDict_, resumeArray, settings_.bar.percentKind));
 }
