@@ -7,6 +7,9 @@
 #include <QColor>
 #include <QList>
 
+#include <algorithm>
+#include <array>
+#include <cstddef>
 #include <initializer_list>
 
 class QPainter;
@@ -35,6 +38,23 @@ template <class T> struct SettingField {
 void readSettings(const ModuleDefaults& defaults, std::initializer_list<SettingField<bool>> fields);
 void readSettings(const ModuleDefaults& defaults, std::initializer_list<SettingField<double>> fields);
 void readSettings(const ModuleDefaults& defaults, std::initializer_list<SettingField<QColor>> fields);
+
+// Calls draw(code) for each element code of order whose element is switched on, shown[code - 1],
+// so the elements follow the user's order. Codes of later versions, beyond shown, are skipped.
+template <std::size_t N, class Draw>
+void forEachShownElement(const QList<qint64>& order, const std::array<bool, N>& shown, Draw draw)
+{
+    for (const qint64 code : order) {
+        if (code >= 1 && code <= static_cast<qint64>(N) && shown[static_cast<std::size_t>(code - 1)])
+            draw(code);
+    }
+}
+
+// How many elements are switched on.
+template <std::size_t N> int shownElementCount(const std::array<bool, N>& shown)
+{
+    return static_cast<int>(std::count(shown.begin(), shown.end(), true));
+}
 
 // Reads the basics: showKey switches the label picture pictureKey on, orderKey lists the elements.
 PictureBasics pictureBasics(const ModuleDefaults& defaults, const char* showKey, const char* pictureKey,

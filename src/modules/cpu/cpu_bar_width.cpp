@@ -5,10 +5,7 @@
 
 int cpuShownElementCount(const CpuPictureSettings& settings)
 {
-    int shown = 0;
-    for (const bool on : {settings.graph, settings.levelBar, settings.meter, settings.text})
-        shown += on ? 1 : 0;
-    return shown;
+    return shownElementCount(settings.shownElements());
 }
 
 double cpuBarWidth(const CpuPictureSettings& settings, std::size_t coreCount, double height)

@@ -24,6 +24,9 @@ struct CpuPictureSettings : PictureBasics {
     QColor averageText;
     // The panel's swatches: the share colours the dictionary holds, invalid where it has none.
     std::array<QColor, 4> swatches;
+
+    // By element code: graph, level bar, meter, text.
+    std::array<bool, 4> shownElements() const { return {graph, levelBar, meter, text}; }
 };
 
 CpuPictureSettings cpuPictureSettings(const ModuleDefaults& defaults);

@@ -63,46 +63,40 @@ double ImageCpuBar::drawRect(QPainter& painter) const
     for (qsizetype record = first; record <= last; ++record) {
         const auto core = static_cast<std::size_t>(record);
         const std::array<double, 4> f = fractionsOf(newest[core]);
-        for (const qint64 code : order) {
+        forEachShownElement(order, s.shownElements(), [&](qint64 code) {
             switch (code) {
             case Graph:
-                if (s.graph)
-                    drawGraph(painter, core, x);
+                drawGraph(painter, core, x);
                 break;
             case LevelBar:
-                if (s.levelBar) {
-                    // Shares stack from the bottom; the frame colour comes last, over them.
-                    tvlDrawLevelBar(painter,
-                                    {{s.shares[0], f[CpuUser]},
-                                     {s.shares[1], f[CpuSystem]},
-                                     {s.shares[2], f[CpuNice]},
-                                     {s.shares[3], f[CpuIdle]},
-                                     {s.frame, {}}},
-                                    QRectF(x, insets.top, kLevelBarWidth, innerHeight), drawInWhite);
-                    x += kLevelBarWidth + insets.spacing;
-                }
+                // Shares stack from the bottom; the frame colour comes last, over them.
+                tvlDrawLevelBar(painter,
+                                {{s.shares[0], f[CpuUser]},
+                                 {s.shares[1], f[CpuSystem]},
+                                 {s.shares[2], f[CpuNice]},
+                                 {s.shares[3], f[CpuIdle]},
+                                 {s.frame, {}}},
+                                QRectF(x, insets.top, kLevelBarWidth, innerHeight), drawInWhite);
+                x += kLevelBarWidth + insets.spacing;
                 break;
             case CycleMeter:
-                if (s.meter) {
-                    // The meter walks its list backwards, so here the frame colour comes first.
-                    tvlDrawCicleBar(painter,
-                                    {{s.frame, {}},
-                                     {s.shares[0], f[CpuUser]},
-                                     {s.shares[1], f[CpuSystem]},
-                                     {s.shares[2], f[CpuNice]},
-                                     {s.shares[3], f[CpuIdle]}},
-                                    QRectF(x, insets.top, innerHeight, innerHeight), isHighLighted, drawInWhite);
-                    x += innerHeight + insets.spacing;
-                }
+                // The meter walks its list backwards, so here the frame colour comes first.
+                tvlDrawCicleBar(painter,
+                                {{s.frame, {}},
+                                 {s.shares[0], f[CpuUser]},
+                                 {s.shares[1], f[CpuSystem]},
+                                 {s.shares[2], f[CpuNice]},
+                                 {s.shares[3], f[CpuIdle]}},
+                                QRectF(x, insets.top, innerHeight, innerHeight), isHighLighted, drawInWhite);
+                x += innerHeight + insets.spacing;
                 break;
             case Text:
-                if (s.text)
-                    drawText(painter, attributes, f[CpuUser], f[CpuSystem], x);
+                drawText(painter, attributes, f[CpuUser], f[CpuSystem], x);
                 break;
-            default: // codes of later versions are skipped
+            default:
                 break;
             }
-        }
+        });
     }
     return x;
 }

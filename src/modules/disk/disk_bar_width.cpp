@@ -18,10 +18,7 @@ std::vector<StorageBarSet> diskBarSets(const DiskPictureSettings& settings, cons
 
 int diskShownElementCount(const DiskPictureSettings& settings)
 {
-    int shown = 0;
-    for (const bool on : {settings.indicator, settings.graph, settings.text})
-        shown += on ? 1 : 0;
-    return shown;
+    return shownElementCount(settings.shownElements());
 }
 
 double diskIndicatorWidth(const DiskPictureSettings& settings)

@@ -8,6 +8,8 @@
 #include <QColor>
 #include <QStringList>
 
+#include <array>
+
 // Each element may have a column of read and write labels before it; no column when its width is 0.
 struct DiskLabelColumn {
     QStringList labels; // read, write
@@ -26,6 +28,9 @@ struct DiskPictureSettings : StorageBasics {
     TvlClasses::DiskGraphStyle graphStyle; // with the read and write colours
     QColor lampFrame;
     QColor lampOff;
+
+    // By element code: lamps, graph, text.
+    std::array<bool, 3> shownElements() const { return {indicator, graph, text}; }
 };
 
 DiskPictureSettings diskPictureSettings(const ModuleDefaults& defaults);

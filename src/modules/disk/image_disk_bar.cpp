@@ -30,24 +30,21 @@ void ImageDiskBar::drawSet(QPainter& painter, const StorageBarSet& set, TextAttr
     const DiskPictureSettings& settings = mySettings;
     // Before two samples every rate is 0: the lamps are off and the texts read 0.
     const DiskRates rates = newestDiskRates(resumeArray, set.key);
-    for (const qint64 code : settings.order) {
+    forEachShownElement(settings.order, settings.shownElements(), [&](qint64 code) {
         switch (code) {
         case Indicator:
-            if (settings.indicator)
-                drawIndicator(painter, attributes, rates, x);
+            drawIndicator(painter, attributes, rates, x);
             break;
         case Graph:
-            if (settings.graph)
-                drawGraph(painter, attributes, set.key, x);
+            drawGraph(painter, attributes, set.key, x);
             break;
         case Text:
-            if (settings.text)
-                drawText(painter, attributes, rates, x);
+            drawText(painter, attributes, rates, x);
             break;
-        default: // codes of later versions are skipped
+        default:
             break;
         }
-    }
+    });
 }
 
 double ImageDiskBar::drawLabels(QPainter& painter, TextAttributes& attributes, const DiskLabelColumn& column,

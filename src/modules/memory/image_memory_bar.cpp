@@ -88,43 +88,38 @@ double ImageMemoryBar::drawRect(QPainter& painter) const
     TextAttributes attributes = settings.textAttributes;
 
     const double innerHeight = mySize.height() - insets.top - insets.bottom;
-    for (const qint64 code : settings.order) {
+    forEachShownElement(settings.order, settings.shownElements(), [&](qint64 code) {
         switch (code) {
         case Graph:
-            if (settings.graph)
-                drawGraph(painter, x);
+            drawGraph(painter, x);
             break;
-        case LevelBar:
-            if (settings.levelBar) {
-                // Shares stack from the bottom; the frame colour comes last, over them.
-                ColorList bar = shares;
-                bar.push_back(frameColor);
-                tvlDrawLevelBar(painter, bar, QRectF(x, insets.top, kLevelBarWidth, innerHeight), drawInWhite);
-                x += kLevelBarWidth + insets.spacing;
-            }
-            break;
-        case CycleMeter:
-            if (settings.meter) {
-                // The meter walks its list backwards: frame first, so it is stroked last.
-                ColorList meter{frameColor};
-                meter.insert(meter.end(), shares.begin(), shares.end());
-                tvlDrawCicleBar(painter, meter, QRectF(x, insets.top, innerHeight, innerHeight), isHighLighted,
-                                drawInWhite);
-                x += innerHeight + insets.spacing;
-            }
-            break;
-        case Text:
-            if (settings.text)
-                drawText(painter, attributes, parts, x);
-            break;
-        case DetailText:
-            if (settings.detailText)
-                drawDetailText(painter, attributes, parts, x);
-            break;
-        default: // codes of later versions are skipped
+        case LevelBar: {
+            // Shares stack from the bottom; the frame colour comes last, over them.
+            ColorList bar = shares;
+            bar.push_back(frameColor);
+            tvlDrawLevelBar(painter, bar, QRectF(x, insets.top, kLevelBarWidth, innerHeight), drawInWhite);
+            x += kLevelBarWidth + insets.spacing;
             break;
         }
-    }
+        case CycleMeter: {
+            // The meter walks its list backwards: frame first, so it is stroked last.
+            ColorList meter{frameColor};
+            meter.insert(meter.end(), shares.begin(), shares.end());
+            tvlDrawCicleBar(painter, meter, QRectF(x, insets.top, innerHeight, innerHeight), isHighLighted,
+                            drawInWhite);
+            x += innerHeight + insets.spacing;
+            break;
+        }
+        case Text:
+            drawText(painter, attributes, parts, x);
+            break;
+        case DetailText:
+            drawDetailText(painter, attributes, parts, x);
+            break;
+        default:
+            break;
+        }
+    });
     return x;
 }
 

@@ -42,10 +42,7 @@ MemoryTextWidths memoryTextWidths(const MemoryPictureSettings& d, std::int64_t t
 
 int memoryShownElementCount(const MemoryPictureSettings& d)
 {
-    int shown = 0;
-    for (const bool on : {d.graph, d.levelBar, d.meter, d.text, d.detailText})
-        shown += on ? 1 : 0;
-    return shown;
+    return shownElementCount(d.shownElements());
 }
 
 double memoryBarWidth(const MemoryPictureSettings& d, const MemoryTextWidths& widths, double height)

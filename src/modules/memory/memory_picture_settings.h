@@ -35,6 +35,8 @@ struct MemoryPictureSettings : PictureBasics {
     qint64 updateInterval = 0;        // seconds between samples, as set
     std::array<QColor, 8> partColors; // by MemoryPart
 
+    // By element code: graph, level bar, meter, text, detail text.
+    std::array<bool, 5> shownElements() const { return {graph, levelBar, meter, text, detailText}; }
     const QColor& partColor(MemoryPart part) const { return partColors[static_cast<std::size_t>(part)]; }
 };
 

@@ -36,28 +36,24 @@ double ImageNetworkBar::drawRect(QPainter& painter) const
     x += drawModuleLabel(painter, settings);
 
     TextAttributes attributes = settings.textAttributes;
-    for (const qint64 code : settings.order) {
+    forEachShownElement(settings.order, settings.shownElements(), [&](qint64 code) {
         switch (code) {
         case UdLabel:
-            if (settings.udLabel)
-                drawUdLabel(painter, attributes, x);
+            drawUdLabel(painter, attributes, x);
             break;
         case UdCircle:
-            if (settings.lamps)
-                drawIndicator(painter, x);
+            drawIndicator(painter, x);
             break;
         case Graph:
-            if (settings.graph)
-                drawGraph(painter, x);
+            drawGraph(painter, x);
             break;
         case Text:
-            if (settings.text)
-                drawText(painter, attributes, x);
+            drawText(painter, attributes, x);
             break;
-        default: // codes of later versions are skipped
+        default:
             break;
         }
-    }
+    });
     return x;
 }
 

@@ -6,10 +6,7 @@
 
 int networkShownElementCount(const NetworkPictureSettings& d)
 {
-    int shown = 0;
-    for (const bool on : {d.udLabel, d.lamps, d.graph, d.text})
-        shown += on ? 1 : 0;
-    return shown;
+    return shownElementCount(d.shownElements());
 }
 
 double networkBarWidth(const NetworkPictureSettings& d)

@@ -8,6 +8,8 @@
 #include <QColor>
 #include <QStringList>
 
+#include <array>
+
 struct NetworkPictureSettings : PictureBasics {
     bool udLabel = false;
     bool lamps = false;
@@ -25,6 +27,9 @@ struct NetworkPictureSettings : PictureBasics {
     QColor lampFrame;
     QColor lampOff;
     bool showAllNic = false; // the menu lists interfaces whose link is down as well
+
+    // By element code: labels, lamps, graph, text.
+    std::array<bool, 4> shownElements() const { return {udLabel, lamps, graph, text}; }
 };
 
 NetworkPictureSettings networkPictureSettings(const ModuleDefaults& defaults);

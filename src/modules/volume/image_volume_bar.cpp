@@ -33,40 +33,33 @@ void ImageVolumeBar::drawSet(QPainter& painter, const StorageBarSet& set, TextAt
     const double used = usedFraction(usage);
     const double free = freeFraction(usage);
     const QColor usedInk = usedColor(used, settings.graphStyle);
-    for (const qint64 code : settings.order) {
+    forEachShownElement(settings.order, settings.shownElements(), [&](qint64 code) {
         switch (code) {
         case BarChart:
-            if (settings.barChart) {
-                // Used space from the bottom, free space above it, the frame over both.
-                tvlDrawLevelBar(painter, {{usedInk, used}, {settings.freeColor, free}, {settings.frame, {}}},
-                                QRectF(x, insets.top, kVolumeBarChartWidth, innerHeight), drawInWhite);
-                x += kVolumeBarChartWidth + insets.spacing;
-            }
+            // Used space from the bottom, free space above it, the frame over both.
+            tvlDrawLevelBar(painter, {{usedInk, used}, {settings.freeColor, free}, {settings.frame, {}}},
+                            QRectF(x, insets.top, kVolumeBarChartWidth, innerHeight), drawInWhite);
+            x += kVolumeBarChartWidth + insets.spacing;
             break;
         case CycleChart:
-            if (settings.cycleChart) {
-                // The meter walks its list backwards: used space starts at the top.
-                tvlDrawCicleBar(painter, {{settings.frame, {}}, {settings.freeColor, free}, {usedInk, used}},
-                                QRectF(x, insets.top, innerHeight, innerHeight), isHighLighted, drawInWhite);
-                x += innerHeight + insets.spacing;
-            }
+            // The meter walks its list backwards: used space starts at the top.
+            tvlDrawCicleBar(painter, {{settings.frame, {}}, {settings.freeColor, free}, {usedInk, used}},
+                            QRectF(x, insets.top, innerHeight, innerHeight), isHighLighted, drawInWhite);
+            x += innerHeight + insets.spacing;
             break;
         case Graph:
-            if (settings.graph)
-                drawGraph(painter, set.key, x);
+            drawGraph(painter, set.key, x);
             break;
         case Text:
-            if (settings.text)
-                drawText(painter, attributes, usage, x);
+            drawText(painter, attributes, usage, x);
             break;
         case Percent:
-            if (settings.percent)
-                drawPercent(painter, attributes, usage, x);
+            drawPercent(painter, attributes, usage, x);
             break;
-        default: // codes of later versions are skipped
+        default:
             break;
         }
-    }
+    });
 }
 
 void ImageVolumeBar::drawGraph(QPainter& painter, const QString& path, double& x) const

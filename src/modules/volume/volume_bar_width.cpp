@@ -12,10 +12,7 @@ std::vector<StorageBarSet> volumeBarSets(const VolumePictureSettings& settings, 
 
 int volumeShownElementCount(const VolumePictureSettings& settings)
 {
-    int shown = 0;
-    for (const bool on : {settings.barChart, settings.cycleChart, settings.graph, settings.text, settings.percent})
-        shown += on ? 1 : 0;
-    return shown;
+    return shownElementCount(settings.shownElements());
 }
 
 double volumeTextWidth(const VolumePictureSettings& settings)

@@ -9,6 +9,8 @@
 #include <QColor>
 #include <QStringList>
 
+#include <array>
+
 struct VolumePictureSettings : StorageBasics {
     bool barChart = false;
     bool cycleChart = false;
@@ -29,6 +31,9 @@ struct VolumePictureSettings : StorageBasics {
     VolumePercentKind percentKind = VolumePercentKind::Used;
     ThemePicture openIcon;
     ThemePicture ejectIcon;
+
+    // By element code: bar chart, cycle chart, graph, text, percentage.
+    std::array<bool, 5> shownElements() const { return {barChart, cycleChart, graph, text, percent}; }
 };
 
 VolumePictureSettings volumePictureSettings(const ModuleDefaults& defaults);
