@@ -7,7 +7,7 @@
 #include "modules/network/network_bar_width.h"
 #include "prefs/plist_io.h"
 #include "prefs/plist_settings_store.h"
-#include "modules/module_settings.h"
+#include "modules/module_prefs.h"
 #include "prefs/pref_functions.h"
 #include "prefs/pref_keys.h"
 #include "prefs/theme_files.h"
@@ -43,15 +43,13 @@ History<CpuSample> fullHistory()
 
 void measure(const char* label, const ModuleDefaults& defaults, const History<CpuSample>& history, int pictures)
 {
+    const CpuPictureSettings settings = cpuPictureSettings(defaults);
     const double height = TvlClasses::retRootMenuHeight();
-    const double width = cpuBarWidth(defaults, kCores, height);
-    int shown = 0;
-    for (const char* key : {PrefKey::Cpu_Display_Graph, PrefKey::Cpu_Display_LevelBar, PrefKey::Cpu_Display_CircleMeter,
-                            PrefKey::Cpu_Display_Text})
-        shown += defaults.boolValue(key) ? 1 : 0;
+    const double width = cpuBarWidth(settings, kCores, height);
 
     ImageCpuBar bar;
-    bar.redrawWithSize(QSizeF(width, height), TvlClasses::retStatusMenuInsets(shown), false, true, defaults, history);
+    bar.redrawWithSize(QSizeF(width, height), TvlClasses::retStatusMenuInsets(cpuShownElementCount(settings)), false,
+                       true, settings, history);
     QImage last = bar.image(kScale); // warm-up: fonts and glyph caches
     const auto start = std::chrono::steady_clock::now();
     for (int i = 0; i < pictures; ++i)
@@ -94,8 +92,10 @@ History<NetworkSample> networkHistory()
     return History<NetworkSample>::fromSamples(std::move(samples));
 }
 
-void measureMemory(const char* label, const ModuleDefaults& d, const History<MemorySample>& history, int pictures)
+void measureMemory(const char* label, const ModuleDefaults& defaults, const History<MemorySample>& history,
+                   int pictures)
 {
+    const MemoryPictureSettings d = memoryPictureSettings(defaults);
     const double height = TvlClasses::retRootMenuHeight();
     const std::int64_t totalPages = 4 << 20;
     const MemoryTextWidths widths = memoryTextWidths(d, totalPages * 4096);
@@ -106,8 +106,10 @@ void measureMemory(const char* label, const ModuleDefaults& d, const History<Mem
     time(label, size, pictures, [&bar] { return bar.image(kScale); });
 }
 
-void measureNetwork(const char* label, const ModuleDefaults& d, const History<NetworkSample>& history, int pictures)
+void measureNetwork(const char* label, const ModuleDefaults& defaults, const History<NetworkSample>& history,
+                    int pictures)
 {
+    const NetworkPictureSettings d = networkPictureSettings(defaults);
     const double height = TvlClasses::retRootMenuHeight();
     const QSizeF size(networkBarWidth(d), height);
     ImageNetworkBar bar;

@@ -6,7 +6,7 @@
 #include "modules/volume/image_volume_bar.h"
 #include "modules/volume/volume_bar_width.h"
 #include "prefs/plist_settings_store.h"
-#include "modules/module_settings.h"
+#include "modules/module_prefs.h"
 #include "prefs/pref_functions.h"
 #include "prefs/pref_keys.h"
 #include "toolkit/menu_geometry.h"
@@ -73,27 +73,33 @@ Storage fullStorage()
     return s;
 }
 
-void measureDisk(const char* label, const ModuleDefaults& d, const Storage& s, int pictures)
+// One picture of Bar for the sets, width wide at the bar's height.
+template <class Bar, class Settings, class History>
+void measurePicture(const char* label, const Settings& settings, const History& history,
+                    const std::vector<StorageBarSet>& sets, double width, int shownElements, int pictures)
 {
-    const std::vector<DiskBarSet> sets = diskBarSets(d, s.disks);
-    const QSizeF size(diskBarWidth(d, sets.size()), TvlClasses::retRootMenuHeight());
-    ImageDiskBar bar;
-    bar.redrawWithSize(size, TvlClasses::retStatusMenuInsets(diskShownElementCount(d)), false, true, d, s.diskHistory,
-                       sets);
+    const QSizeF size(width, TvlClasses::retRootMenuHeight());
+    Bar bar;
+    bar.redrawWithSize(size, TvlClasses::retStatusMenuInsets(shownElements), false, true, settings, history, sets);
     measure(
         label, [&] { return bar.image(kScale); }, size, pictures);
 }
 
-void measureVolume(const char* label, const ModuleDefaults& d, const Storage& s, int pictures)
+void measureDisk(const char* label, const ModuleDefaults& defaults, const Storage& s, int pictures)
 {
-    const std::vector<VolumeBarSet> sets = volumeBarSets(d, s.volumes);
-    const double height = TvlClasses::retRootMenuHeight();
-    const QSizeF size(volumeBarWidth(d, sets.size(), height), height);
-    ImageVolumeBar bar;
-    bar.redrawWithSize(size, TvlClasses::retStatusMenuInsets(volumeShownElementCount(d)), false, true, d,
-                       s.volumeHistory, sets);
-    measure(
-        label, [&] { return bar.image(kScale); }, size, pictures);
+    const DiskPictureSettings d = diskPictureSettings(defaults);
+    const std::vector<StorageBarSet> sets = diskBarSets(d, s.disks);
+    measurePicture<ImageDiskBar>(label, d, s.diskHistory, sets, diskBarWidth(d, sets.size()), diskShownElementCount(d),
+                                 pictures);
+}
+
+void measureVolume(const char* label, const ModuleDefaults& defaults, const Storage& s, int pictures)
+{
+    const VolumePictureSettings v = volumePictureSettings(defaults);
+    const std::vector<StorageBarSet> sets = volumeBarSets(v, s.volumes);
+    measurePicture<ImageVolumeBar>(label, v, s.volumeHistory, sets,
+                                   volumeBarWidth(v, sets.size(), TvlClasses::retRootMenuHeight()),
+                                   volumeShownElementCount(v), pictures);
 }
 
 } // namespace

@@ -9,7 +9,7 @@
 #include "app/sampling_cycle.h"
 #include "app/volume_tracker.h"
 #include "modules/module_registry.h"
-#include "modules/module_settings.h"
+#include "modules/module_prefs.h"
 #include "prefs/pref_functions.h"
 #include "net/ddns_settings.h"
 #include "preferences/preferences_window.h"

@@ -2,7 +2,6 @@
 #pragma once
 
 #include "collect/history.h"
-#include "prefs/module_defaults.h"
 #include "toolkit/menu_geometry.h"
 #include "toolkit/point_canvas.h"
 
@@ -11,8 +10,9 @@
 #include <QSizeF>
 
 // A view keeps its own copies of settings and history, so the module may replace its own at any
-// time, and a picture can be drawn on another thread from what was last handed over.
-template <class Sample> class ImageBar {
+// time, and a picture can be drawn on another thread from what was last handed over. Settings is
+// the module's typed picture settings, read from its dictionary once per change.
+template <class Sample, class Settings> class ImageBar {
 public:
     virtual ~ImageBar() = default;
 
@@ -33,18 +33,18 @@ public:
     QSizeF size() const { return mySize; }
 
 protected:
-    void setFrame(QSizeF size, TvlClasses::Insets newInsets, bool highLighted, bool emptyLine,
-                  const ModuleDefaults& defaults, const History<Sample>& history)
+    void setFrame(QSizeF size, TvlClasses::Insets newInsets, bool highLighted, bool emptyLine, const Settings& settings,
+                  const History<Sample>& history)
     {
         mySize = size;
         insets = newInsets;
         isHighLighted = highLighted;
         drawEmptyLine = emptyLine;
-        myDefaults = defaults;
+        mySettings = settings;
         resumeArray = history;
     }
 
-    ModuleDefaults myDefaults;
+    Settings mySettings;
     History<Sample> resumeArray;
     bool isHighLighted = false;
     bool drawEmptyLine = false;

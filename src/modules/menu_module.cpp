@@ -47,8 +47,6 @@ void MenuModule::menuWillOpen()
     }
     menuOpened_ = true;
     refreshBar();
-    // The open menu's graph keeps the settings of this moment until it closes.
-    mnDefaultsTmp = withMenuLayout();
     prepareMenuOpening();
     redrawStatusItem();
 }

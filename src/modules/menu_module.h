@@ -41,7 +41,15 @@ public:
     MenuModule(MenuModuleDelegate* delegate, ModuleId id, QObject* parent = nullptr);
     ~MenuModule() override;
 
-    void setMyDefaults(const ModuleDefaults& defaults) { myDefaults = defaults; }
+    // Handed the same dictionary every cycle: the typed settings are rebuilt only when it changed.
+    void setMyDefaults(const ModuleDefaults& defaults)
+    {
+        if (settingsRead_ && defaults.sharesDataWith(myDefaults))
+            return;
+        myDefaults = defaults;
+        settingsRead_ = true;
+        settingsChanged();
+    }
     // Takes this module's history from the sampled data; modules without one ignore it.
     virtual void setHistory(const InfoDict& info) { Q_UNUSED(info) }
     // The volume and disk descriptions, for modules that draw one set per disk or volume; the
@@ -74,7 +82,7 @@ public:
     StatusItem* item() const { return statusItem.get(); }
 
     // The graph the open menu shows, drawn now; a null image for a module whose menu has none.
-    QImage menuGraphImage() { return drawMenuGraph(withMenuLayout()); }
+    QImage menuGraphImage() { return drawMenuGraph(); }
 
     // Closes an open menu whose rows no longer match what they describe (disks, volumes).
     void menuAutoClose();
@@ -88,14 +96,13 @@ protected:
     virtual void drawBaseStatusBar() = 0;
     // Redraws what the open menu shows.
     virtual void redrawStatusItem() {}
-    // Extra work when the menu opens, before its contents are redrawn.
+    // Extra work when the menu opens, before its contents are redrawn; a module with an in-menu
+    // graph keeps the settings of this moment for it until the menu closes.
     virtual void prepareMenuOpening() {}
-    // The in-menu graph with the given settings.
-    virtual QImage drawMenuGraph(const ModuleDefaults& defaults)
-    {
-        Q_UNUSED(defaults)
-        return {};
-    }
+    // The settings or the theme changed: the module reads its typed settings again.
+    virtual void settingsChanged() {}
+    // The in-menu graph with the settings in force now.
+    virtual QImage drawMenuGraph() { return {}; }
 
     void openTab();
     qreal pictureScale() const;
@@ -109,13 +116,13 @@ protected:
     QPointer<QMenu> statusMenu;
     std::unique_ptr<StatusItem> statusItem;
     bool menuItemRefresh = false;
-    // The in-menu graph's own layout, and the settings it was drawn with when the menu opened.
+    // The in-menu graph's own layout; each module keeps the settings its open menu was drawn with.
     ModuleDefaults mnDefaults;
-    ModuleDefaults mnDefaultsTmp;
 
 private:
     ModuleId id_;
     bool menuOpened_ = false;
+    bool settingsRead_ = false;
     qreal pictureScale_ = 0; // 0: the screen's
     QImage shownImage_;
 };

@@ -1,38 +1,23 @@
-// Loading and first-run values of a module's settings, by module, through the registry.
+// A module's typed settings in the three states its pictures are drawn in.
 #pragma once
 
 #include "prefs/module_defaults.h"
-#include "prefs/module_id.h"
 
-#include <QVariantMap>
+// The bar's settings; the in-menu graph's, which are the bar's with the menu's fixed layout laid
+// over them; and a copy of the latter taken when the menu opened, which the open menu's graph
+// keeps until it closes. Settings has a builder reading it from a dictionary once.
+template <class Settings> struct ModuleSettings {
+    Settings bar;
+    Settings menu;
+    Settings openMenu;
 
-class SettingsStore;
-
-namespace PrefFunctions {
-
-// The module's working dictionary from the store and the theme (see the schema overload).
-ModuleDefaults loadModuleDefaults(ModuleId id, SettingsStore& store, const QVariantMap& theme);
-// The module's first-run values, written and synchronised.
-void initializeModulePreference(ModuleId id, SettingsStore& store);
-
-void initializeGeneralPreference(SettingsStore& store);
-void initializeCpuPreference(SettingsStore& store);
-void initializeMemoryPreference(SettingsStore& store);
-void initializeNetworkPreference(SettingsStore& store);
-void initializeDiskPreference(SettingsStore& store);
-void initializeVolumePreference(SettingsStore& store);
-void initializeTempPreference(SettingsStore& store);
-void initializeFanPreference(SettingsStore& store);
-void initializeVncPreference(SettingsStore& store);
-
-ModuleDefaults loadGeneralDefaults(SettingsStore& store, const QVariantMap& theme);
-ModuleDefaults loadCpuDefaults(SettingsStore& store, const QVariantMap& theme);
-ModuleDefaults loadMemoryDefaults(SettingsStore& store, const QVariantMap& theme);
-ModuleDefaults loadNetworkDefaults(SettingsStore& store, const QVariantMap& theme);
-ModuleDefaults loaddiskDefaults(SettingsStore& store, const QVariantMap& theme);
-ModuleDefaults loadvolumeDefaults(SettingsStore& store, const QVariantMap& theme);
-ModuleDefaults loadTempDefaults(SettingsStore& store, const QVariantMap& theme);
-ModuleDefaults loadFanDefaults(SettingsStore& store, const QVariantMap& theme);
-ModuleDefaults loadVncDefaults(SettingsStore& store, const QVariantMap& theme);
-
-} // namespace PrefFunctions
+    void read(Settings (*build)(const ModuleDefaults&), const ModuleDefaults& defaults,
+              const ModuleDefaults& withMenuLayout)
+    {
+        bar = build(defaults);
+        menu = build(withMenuLayout);
+    }
+    void keepForOpenMenu() { openMenu = menu; }
+    // Settings were read, and they put some element in the bar.
+    bool barDrawable() const { return bar.loaded && !bar.order.isEmpty(); }
+};

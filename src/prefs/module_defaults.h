@@ -29,6 +29,8 @@ public:
     void clear() { values_.clear(); }
     bool isEmpty() const { return values_.isEmpty(); }
     const QVariantHash& values() const { return values_; }
+    // A cheap identity test: true for copies of one dictionary that neither has changed since.
+    bool sharesDataWith(const ModuleDefaults& other) const { return values_.isSharedWith(other.values_); }
 
     bool boolValue(const QString& key) const;
     qint64 intValue(const QString& key) const;

@@ -18,14 +18,12 @@ constexpr double kBarHeight = 22;
 
 TEST(CpuBarWidth, WorkedExamples)
 {
-    EXPECT_DOUBLE_EQ(cpuBarWidth(cpuPictureDefaults({.graph = true, .levelBar = true}), 8, kBarHeight), 55);
-    EXPECT_DOUBLE_EQ(cpuBarWidth(cpuPictureDefaults({.meter = true}), 8, kBarHeight), 23);
+    EXPECT_DOUBLE_EQ(cpuBarWidth(cpuSettings({.graph = true, .levelBar = true}), 8, kBarHeight), 55);
+    EXPECT_DOUBLE_EQ(cpuBarWidth(cpuSettings({.meter = true}), 8, kBarHeight), 23);
     // Per core, every element repeats for each of the 8 cores.
-    EXPECT_DOUBLE_EQ(cpuBarWidth(cpuPictureDefaults({.graph = true, .levelBar = true}, false), 8, kBarHeight),
-                     (44 + 11) * 8);
-    EXPECT_DOUBLE_EQ(cpuBarWidth(cpuPictureDefaults({.graph = true, .levelBar = true}, true, true), 8, kBarHeight),
-                     55 + 12);
-    EXPECT_DOUBLE_EQ(cpuBarWidth(cpuPictureDefaults({}, true, true), 8, kBarHeight), 0);
+    EXPECT_DOUBLE_EQ(cpuBarWidth(cpuSettings({.graph = true, .levelBar = true}, false), 8, kBarHeight), (44 + 11) * 8);
+    EXPECT_DOUBLE_EQ(cpuBarWidth(cpuSettings({.graph = true, .levelBar = true}, true, true), 8, kBarHeight), 55 + 12);
+    EXPECT_DOUBLE_EQ(cpuBarWidth(cpuSettings({}, true, true), 8, kBarHeight), 0);
     EXPECT_DOUBLE_EQ(TvlClasses::retRootMenuHeight(), 20);
 }
 
@@ -39,7 +37,7 @@ TEST(CpuBarWidth, EqualsThePictureForEveryCombinationOfElements)
         for (const bool average : {true, false}) {
             for (const bool label : {false, true}) {
                 SCOPED_TRACE(testing::Message() << "elements " << mask << " average " << average << " label " << label);
-                const ModuleDefaults defaults = cpuPictureDefaults(shown, average, label);
+                const CpuPictureSettings defaults = cpuSettings(shown, average, label);
                 const double width = cpuBarWidth(defaults, 8, kBarHeight);
                 ImageCpuBar bar;
                 bar.redrawWithSize(QSizeF(width, kBarHeight), insets, false, true, defaults, history);

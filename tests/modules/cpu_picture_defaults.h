@@ -1,8 +1,9 @@
-// CPU working dictionaries and histories for the picture tests.
+// CPU working dictionaries, the settings read from them, and histories for the picture tests.
 #pragma once
 
 #include "collect/cpu_sample.h"
 #include "collect/history.h"
+#include "modules/cpu/cpu_picture_settings.h"
 #include "modules/cpu/cpu_theme_keys.h"
 #include "prefs/module_defaults.h"
 #include "prefs/pref_keys.h"
@@ -40,6 +41,11 @@ inline ModuleDefaults cpuPictureDefaults(CpuElements shown, bool average = true,
     color(CpuThemeKey::A07, 30, 30, 30);
     color(CpuThemeKey::Z03, 40, 40, 40);
     return d;
+}
+
+inline CpuPictureSettings cpuSettings(CpuElements shown, bool average = true, bool label = false)
+{
+    return cpuPictureSettings(cpuPictureDefaults(shown, average, label));
 }
 
 // A history of count samples, each with the given records.

@@ -117,12 +117,12 @@ TEST(CpuTab, PreviewIsTheBarPictureOfTheTabsSettingsOverLightAndDarkPanels)
     TabFixture f(settings);
     // Before the first sample every processor of this machine shows at 0%.
     const auto processors = static_cast<std::size_t>(std::max(1, QThread::idealThreadCount()));
-    EXPECT_DOUBLE_EQ(f.previewWidth(), cpuBarWidth(settings, processors, height));
+    EXPECT_DOUBLE_EQ(f.previewWidth(), cpuBarWidth(cpuPictureSettings(settings), processors, height));
 
     InfoDict info;
     info.setHistory(moduleIndex(ModuleId::Cpu), cpuHistory(CpuSample(5, CpuRecord{3, 2, 1, 4}), 3));
     f.tab.setLiveHistory(info);
-    EXPECT_DOUBLE_EQ(f.previewWidth(), cpuBarWidth(settings, 4, height));
+    EXPECT_DOUBLE_EQ(f.previewWidth(), cpuBarWidth(cpuPictureSettings(settings), 4, height));
 
     // Changes show at once, before the application hands the reloaded settings back.
     f.find<ElementOrderList>(CpuItemSortArray)->item(1)->setCheckState(Qt::Checked);
@@ -130,7 +130,7 @@ TEST(CpuTab, PreviewIsTheBarPictureOfTheTabsSettingsOverLightAndDarkPanels)
     const ModuleDefaults stored = f.stored();
     EXPECT_TRUE(stored.boolValue(Cpu_Display_LevelBar));
     EXPECT_EQ(stored.intValue(Cpu_GraphWidth), 60);
-    EXPECT_DOUBLE_EQ(f.previewWidth(), cpuBarWidth(stored, 4, height));
+    EXPECT_DOUBLE_EQ(f.previewWidth(), cpuBarWidth(cpuPictureSettings(stored), 4, height));
 
     PicturePreview preview;
     QImage red(10, 20, QImage::Format_ARGB32_Premultiplied);

@@ -35,9 +35,9 @@ History<DiskSample> busyHistory()
                                               {"/dev/loop0", {500, 0}}})});
 }
 
-Drawn draw(const ModuleDefaults& defaults, const History<DiskSample>& history, const DiskBaseDict& disks)
+Drawn draw(const DiskPictureSettings& defaults, const History<DiskSample>& history, const DiskBaseDict& disks)
 {
-    const std::vector<DiskBarSet> sets = diskBarSets(defaults, disks);
+    const std::vector<StorageBarSet> sets = diskBarSets(defaults, disks);
     const double width = diskBarWidth(defaults, sets.size());
     ImageDiskBar bar;
     bar.redrawWithSize(QSizeF(width, kBarHeight), TvlClasses::retStatusMenuInsets(diskShownElementCount(defaults)),
@@ -50,19 +50,19 @@ Drawn draw(const ModuleDefaults& defaults, const History<DiskSample>& history, c
 TEST(DiskPicture, WidthRuleIsWhereTheDrawingEndsForEveryCombination)
 {
     // Lamps alone, no labels: 7 points, spacing 3 replaced by the 4-point end margin.
-    ModuleDefaults lamps = diskPictureDefaults(true, false, false, false);
-    lamps.set(PrefKey::DiskInnerIndicatorLabelWidth, qint64{0});
+    DiskPictureSettings lamps = diskSettings(true, false, false, false);
+    lamps.indicatorLabels.width = 0;
     EXPECT_DOUBLE_EQ(diskBarWidth(lamps, 1), 11);
     EXPECT_DOUBLE_EQ(diskBarWidth(lamps, 2), 21);
-    EXPECT_DOUBLE_EQ(diskBarWidth(diskPictureDefaults(false, false, false), 2), 0);
+    EXPECT_DOUBLE_EQ(diskBarWidth(diskSettings(false, false, false), 2), 0);
 
     const History<DiskSample> history = busyHistory();
     for (int mask = 1; mask < 8; ++mask) {
         for (const bool each : {false, true}) {
             for (const bool label : {false, true}) {
                 SCOPED_TRACE(testing::Message() << "elements " << mask << " each " << each << " label " << label);
-                const ModuleDefaults d =
-                    diskPictureDefaults((mask & 1) != 0, (mask & 2) != 0, (mask & 4) != 0, each, label);
+                const DiskPictureSettings d =
+                    diskSettings((mask & 1) != 0, (mask & 2) != 0, (mask & 4) != 0, each, label);
                 const double spacing =
                     TvlClasses::retStatusMenuInsets(std::popcount(static_cast<unsigned>(mask))).spacing;
                 const std::size_t sets = each ? 2 : 1;
@@ -77,19 +77,19 @@ TEST(DiskPicture, EachDiskShowsItsOwnRatesAndTheCombinedSetCountsOnlyDisks)
 {
     const History<DiskSample> history = busyHistory();
     // Key order: nvme0n1, then sda; read above write.
-    EXPECT_EQ(textsOf(draw(diskPictureDefaults(false, false, true), history, twoDisks()).calls),
+    EXPECT_EQ(textsOf(draw(diskSettings(false, false, true), history, twoDisks()).calls),
               QStringList({"R:", "W:", "0.0B/s", "1000.0KB/s", "R:", "W:", "2.0KB/s", "0.0B/s"}));
     // dm-0 and loop0 pass their transfers on to disks that are counted already.
-    EXPECT_EQ(textsOf(draw(diskPictureDefaults(false, false, true, false), history, twoDisks()).calls),
+    EXPECT_EQ(textsOf(draw(diskSettings(false, false, true, false), history, twoDisks()).calls),
               QStringList({"R:", "W:", "2.0KB/s", "1000.0KB/s"}));
     // Without any disk described, the combined set stands in for the per-disk ones.
-    EXPECT_EQ(diskBarSets(diskPictureDefaults(true, false, false), {}).size(), 1U);
+    EXPECT_EQ(diskBarSets(diskSettings(true, false, false), {}).size(), 1U);
 
     // The lamps light for what the disk did between the two samples: nvme0n1 wrote, sda read.
     ModuleDefaults lamps = diskPictureDefaults(true, false, false);
     lamps.set(PrefKey::DiskInnerIndicatorLabelWidth, qint64{0});
     QList<QColor> fills;
-    for (const DrawCall& call : draw(lamps, history, twoDisks()).calls)
+    for (const DrawCall& call : draw(diskPictureSettings(lamps), history, twoDisks()).calls)
         if (call.kind == DrawCall::Path && call.brush.isValid() && call.brush != lamps.color("D03"))
             fills << call.brush;
     EXPECT_EQ(fills, (QList<QColor>{lamps.color("D04"), lamps.color("D02"), lamps.color("D01"), lamps.color("D04")}));

@@ -108,9 +108,9 @@ TEST(DiskVolumeTabs, VolumeLabelsCountFromZeroAndThePreviewFollowsAtOnce)
             .width();
     };
     // Before the descriptions arrive, one combined set.
-    EXPECT_DOUBLE_EQ(previewWidth(), volumeBarWidth(settings, 1, height));
+    EXPECT_DOUBLE_EQ(previewWidth(), volumeBarWidth(volumePictureSettings(settings), 1, height));
     f.tab.setVolumeBaseDict(std::make_shared<const VolumeBaseDict>(twoVolumes()));
-    EXPECT_DOUBLE_EQ(previewWidth(), volumeBarWidth(settings, 2, height));
+    EXPECT_DOUBLE_EQ(previewWidth(), volumeBarWidth(volumePictureSettings(settings), 2, height));
 
     auto* labels = f.find<QComboBox>(Vlms_Text_Label);
     EXPECT_EQ(labels->currentIndex(), 1);
@@ -119,7 +119,7 @@ TEST(DiskVolumeTabs, VolumeLabelsCountFromZeroAndThePreviewFollowsAtOnce)
     // The label column is measured again at once: the preview loses it before any reload.
     const ModuleDefaults without = PrefFunctions::loadModuleDefaults(ModuleId::Volume, f.store, f.theme);
     EXPECT_EQ(without.intValue(VlmsInnerTextLabelWidth), 0);
-    EXPECT_DOUBLE_EQ(previewWidth(), volumeBarWidth(without, 2, height));
+    EXPECT_DOUBLE_EQ(previewWidth(), volumeBarWidth(volumePictureSettings(without), 2, height));
 
     f.find<QComboBox>(Vlms_Percent_Mode)->setCurrentIndex(1);
     EXPECT_EQ(f.store.integerForKey(Vlms_Percent_Mode), 2);

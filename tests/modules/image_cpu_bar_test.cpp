@@ -16,7 +16,8 @@ std::vector<DrawCall> drawPicture(const ModuleDefaults& defaults, const History<
                                   double* end = nullptr)
 {
     ImageCpuBar bar;
-    bar.redrawWithSize(QSizeF(400, kBarHeight), TvlClasses::retStatusMenuInsets(2), false, true, defaults, history);
+    bar.redrawWithSize(QSizeF(400, kBarHeight), TvlClasses::retStatusMenuInsets(2), false, true,
+                       cpuPictureSettings(defaults), history);
     const Drawn drawn = recordPicture(bar, QSize(400, static_cast<int>(kBarHeight)));
     if (end != nullptr)
         *end = drawn.end;

@@ -4,7 +4,9 @@
 #include "collect/history.h"
 #include "collect/memory_sample.h"
 #include "collect/network_sample.h"
+#include "modules/memory/memory_picture_settings.h"
 #include "modules/memory/memory_theme_keys.h"
+#include "modules/network/network_picture_settings.h"
 #include "modules/network/network_theme_keys.h"
 #include "prefs/module_defaults.h"
 #include "prefs/pref_keys.h"
@@ -52,6 +54,11 @@ inline ModuleDefaults memoryPictureDefaults(unsigned shown, bool label = false)
     return d;
 }
 
+inline MemoryPictureSettings memorySettings(unsigned shown, bool label = false)
+{
+    return memoryPictureSettings(memoryPictureDefaults(shown, label));
+}
+
 // Bit i of shown switches element i + 1 on: labels, lamps, graph, text.
 inline ModuleDefaults networkPictureDefaults(unsigned shown, bool label = false)
 {
@@ -78,6 +85,11 @@ inline ModuleDefaults networkPictureDefaults(unsigned shown, bool label = false)
     setTestColor(d, C04, 100, 100, 100, 0.2);
     setTestColor(d, Z03, 40, 40, 40);
     return d;
+}
+
+inline NetworkPictureSettings networkSettings(unsigned shown, bool label = false)
+{
+    return networkPictureSettings(networkPictureDefaults(shown, label));
 }
 
 template <class Sample> History<Sample> historyOf(std::vector<Sample> samples)

@@ -126,14 +126,17 @@ TEST(MemoryTab, PreviewFollowsChangesAtOnce)
     TabFixture<MemoryTabViewController> f(ModuleId::Memory, settings, [](SettingsStore& s, PrefNotificationCenter& c) {
         return new MemoryTabViewController(nullptr, s, c);
     });
-    EXPECT_DOUBLE_EQ(f.previewWidth("MemoryPreview"), memoryBarWidth(settings, memoryTextWidths(settings, 0), height));
+    EXPECT_DOUBLE_EQ(
+        f.previewWidth("MemoryPreview"),
+        memoryBarWidth(memoryPictureSettings(settings), memoryTextWidths(memoryPictureSettings(settings), 0), height));
 
     InfoDict info;
     info.setHistory(moduleIndex(ModuleId::Memory), historyOf<MemorySample>({{100, 300, 200, 250, 0, 0, -1, -1, 350, 150}}));
     f.tab->setLiveHistory(info);
     f.find<ElementOrderList>(MemoryItemSortArray)->item(0)->setCheckState(Qt::Checked);
-    const ModuleDefaults stored = PrefFunctions::loadModuleDefaults(ModuleId::Memory, f.store, f.theme);
-    EXPECT_TRUE(stored.boolValue(Memory_Display_Graph));
+    const MemoryPictureSettings stored =
+        memoryPictureSettings(PrefFunctions::loadModuleDefaults(ModuleId::Memory, f.store, f.theme));
+    EXPECT_TRUE(stored.graph);
     EXPECT_DOUBLE_EQ(f.previewWidth("MemoryPreview"), memoryBarWidth(stored, memoryTextWidths(stored, 0), height));
 }
 
@@ -175,7 +178,7 @@ TEST(NetworkTab, PreviewTakesTheNewLabelsWidthBeforeTheSettingsComeBack)
         ModuleId::Network, networkPictureDefaults(1 | 8),
         [](SettingsStore& s, PrefNotificationCenter& c) { return new NetworkTabViewController(s, c); });
     const double shortLabels = f.previewWidth("NetworkPreview");
-    EXPECT_DOUBLE_EQ(shortLabels, networkBarWidth(networkPictureDefaults(1 | 8)));
+    EXPECT_DOUBLE_EQ(shortLabels, networkBarWidth(networkSettings(1 | 8)));
     f.find<QComboBox>(Network_UdLabel_Mode)->setCurrentIndex(3); // "Send" / "Receive"
     EXPECT_GT(f.previewWidth("NetworkPreview"), shortLabels);
 }

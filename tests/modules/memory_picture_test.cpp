@@ -27,9 +27,11 @@ const MemorySample kSample{100, 300, 200, 250, 7, 3, -1, 50, 350, 150};
 
 std::vector<DrawCall> drawPicture(const ModuleDefaults& d, const History<MemorySample>& history, double* end = nullptr)
 {
-    const MemoryTextWidths widths = memoryTextWidths(d, 1000 * static_cast<std::int64_t>(kMiB));
+    const MemoryPictureSettings settings = memoryPictureSettings(d);
+    const MemoryTextWidths widths = memoryTextWidths(settings, 1000 * static_cast<std::int64_t>(kMiB));
     ImageMemoryBar bar(kMiB, 1000);
-    bar.redrawWithSize(QSizeF(400, kBarHeight), TvlClasses::retStatusMenuInsets(2), false, true, d, history, widths);
+    bar.redrawWithSize(QSizeF(400, kBarHeight), TvlClasses::retStatusMenuInsets(2), false, true, settings, history,
+                       widths);
     const Drawn drawn = recordPicture(bar, QSize(400, static_cast<int>(kBarHeight)));
     if (end != nullptr)
         *end = drawn.end;
@@ -73,8 +75,9 @@ TEST(MemoryBarWidth, EqualsThePictureForEveryCombinationOfElements)
     for (unsigned mask = 1; mask < 32; ++mask) {
         for (const bool label : {false, true}) {
             SCOPED_TRACE(testing::Message() << "elements " << mask << " label " << label);
-            ModuleDefaults d = memoryPictureDefaults(mask, label);
-            d.set(Memory_Text_WithLongLabel, (mask & 4) != 0);
+            ModuleDefaults defaults = memoryPictureDefaults(mask, label);
+            defaults.set(Memory_Text_WithLongLabel, (mask & 4) != 0);
+            const MemoryPictureSettings d = memoryPictureSettings(defaults);
             const MemoryTextWidths widths = memoryTextWidths(d, 1000 * static_cast<std::int64_t>(kMiB));
             const double width = memoryBarWidth(d, widths, kBarHeight);
             const TvlClasses::Insets insets = TvlClasses::retStatusMenuInsets(std::popcount(mask));
@@ -94,7 +97,7 @@ TEST(MemoryBarWidth, EqualsThePictureForEveryCombinationOfElements)
                     ASSERT_EQ(image.pixelColor(x, y).alpha(), 0) << "at " << x << ", " << y;
         }
     }
-    EXPECT_DOUBLE_EQ(memoryBarWidth(memoryPictureDefaults(0, true), {}, kBarHeight), 0);
+    EXPECT_DOUBLE_EQ(memoryBarWidth(memorySettings(0, true), {}, kBarHeight), 0);
 }
 
 TEST(ImageMemoryBar, LevelBarStacksEveryPartUpToTheFullHeight)

@@ -24,7 +24,8 @@ std::vector<DrawCall> drawPicture(const ModuleDefaults& d, const History<Network
                                   const NetworkRates& now = {})
 {
     ImageNetworkBar bar;
-    bar.redrawWithSize(QSizeF(400, kBarHeight), TvlClasses::retStatusMenuInsets(2), false, false, d, history, now);
+    bar.redrawWithSize(QSizeF(400, kBarHeight), TvlClasses::retStatusMenuInsets(2), false, false,
+                       networkPictureSettings(d), history, now);
     return recordPicture(bar, QSize(400, static_cast<int>(kBarHeight))).calls;
 }
 
@@ -54,7 +55,7 @@ TEST(NetworkBarWidth, EqualsThePictureForEveryCombinationOfElements)
     for (unsigned mask = 1; mask < 16; ++mask) {
         for (const bool label : {false, true}) {
             SCOPED_TRACE(testing::Message() << "elements " << mask << " label " << label);
-            const ModuleDefaults d = networkPictureDefaults(mask, label);
+            const NetworkPictureSettings d = networkSettings(mask, label);
             const double width = networkBarWidth(d);
             const TvlClasses::Insets insets = TvlClasses::retStatusMenuInsets(std::popcount(mask));
             ImageNetworkBar bar;
@@ -72,7 +73,7 @@ TEST(NetworkBarWidth, EqualsThePictureForEveryCombinationOfElements)
                     ASSERT_EQ(image.pixelColor(x, y).alpha(), 0) << "at " << x << ", " << y;
         }
     }
-    EXPECT_DOUBLE_EQ(networkBarWidth(networkPictureDefaults(0, true)), 0);
+    EXPECT_DOUBLE_EQ(networkBarWidth(networkSettings(0, true)), 0);
 }
 
 TEST(ImageNetworkBar, LampsAndGraphIgnoreTrafficBelowTheThreshold)

@@ -15,7 +15,7 @@ struct Drawn {
 };
 
 // Draws the view, as redrawn last, on a recording device of deviceSize (the picture's height).
-template <class Sample> Drawn recordPicture(const ImageBar<Sample>& bar, QSize deviceSize)
+template <class Sample, class Settings> Drawn recordPicture(const ImageBar<Sample, Settings>& bar, QSize deviceSize)
 {
     RecordingPaintDevice device(deviceSize);
     QPainter painter(&device);

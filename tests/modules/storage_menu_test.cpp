@@ -26,17 +26,17 @@ TEST(DiskMenu, EachDiskShowsItsFactsRatesAndTotals)
     const auto history = historyOf<DiskSample>(
         {DiskSample{{{"/dev/sda", {1'000'000, 0}}}, 2}, DiskSample{{{"/dev/sda", {5'000'000, 3'000'000}}}, 2}});
     Disk_MenuController panel;
-    panel.loadBaseData(diskPictureDefaults(true, false, false), disks);
+    panel.loadBaseData(diskSettings(true, false, false).pictures, disks);
     panel.replaceData(history);
     ASSERT_EQ(panel.rowCount(), 2);
     EXPECT_EQ(panel.rowText(0), QStringLiteral("nvme0n1\nSolid State\nRead 0.0B/s  Write 0.0B/s\n"));
     EXPECT_EQ(panel.rowText(1), QStringLiteral("sda  WDC WD40EFRX\nATA · Serial WD-1234 · Rotational · 5400 rpm · "
                                                "4.00TB\nRead 2.0MB/s  Write 1.5MB/s\nRead 5.0MB  Written 3.0MB"));
 
-    const ModuleDefaults each = diskPictureDefaults(true, false, false);
+    const DiskPictureSettings each = diskSettings(true, false, false);
     EXPECT_EQ(diskBarText(diskBarSets(each, disks), disks, history),
               QStringLiteral("nvme0n1 read 0.0B/s  write 0.0B/s | sda read 2.0MB/s  write 1.5MB/s"));
-    const ModuleDefaults combined = diskPictureDefaults(true, false, false, false);
+    const DiskPictureSettings combined = diskSettings(true, false, false, false);
     EXPECT_EQ(diskBarText(diskBarSets(combined, disks), disks, history), QStringLiteral("read 2.0MB/s  write 1.5MB/s"));
 }
 
@@ -50,7 +50,7 @@ TEST(VolumeMenu, EachVolumeShowsItsFileSystemUsedAndFree)
     const auto history = historyOf<VolumeSample>({sample});
 
     Volume_MenuController panel;
-    panel.loadBaseData(volumePictureDefaults(1), volumes);
+    panel.loadBaseData(volumeSettings(1).pictures, volumes);
     panel.replaceData(history);
     ASSERT_EQ(panel.rowCount(), 3);
     EXPECT_EQ(panel.rowText(0), QStringLiteral("Root\next4 · /dev/vda1 · /\nNot measured yet"));
@@ -58,9 +58,8 @@ TEST(VolumeMenu, EachVolumeShowsItsFileSystemUsedAndFree)
                                                "Used 2.7GB (90%) · Free 300.0MB · of 3.0GB"));
     EXPECT_EQ(panel.rowText(2), QStringLiteral("nas\ncifs · nas/Public · /mnt/nas · Read only\nNot measured yet"));
 
-    EXPECT_EQ(
-        volumeBarText(volumeBarSets(volumePictureDefaults(1), volumes), volumes, history, VolumePercentKind::Free),
-        QStringLiteral("Root -- | STICK 10% free | nas --"));
+    EXPECT_EQ(volumeBarText(volumeBarSets(volumeSettings(1), volumes), volumes, history, VolumePercentKind::Free),
+              QStringLiteral("Root -- | STICK 10% free | nas --"));
 }
 
 TEST(VolumeEjector, NamesUdisksObjectsAndSaysWhenTheServiceIsMissing)

@@ -4,6 +4,8 @@
 #include "collect/disk_sample.h"
 #include "collect/history.h"
 #include "collect/storage_descriptions.h"
+#include "modules/disk/disk_picture_settings.h"
+#include "modules/volume/volume_picture_settings.h"
 #include "prefs/module_defaults.h"
 #include "prefs/pref_keys.h"
 
@@ -44,6 +46,11 @@ inline ModuleDefaults diskPictureDefaults(bool indicator, bool graph, bool text,
     return d;
 }
 
+inline DiskPictureSettings diskSettings(bool indicator, bool graph, bool text, bool eachDisk = true, bool label = false)
+{
+    return diskPictureSettings(diskPictureDefaults(indicator, graph, text, eachDisk, label));
+}
+
 // Every element in its default order, graph 30 points, labels 10, sizes 40, percentage 20.
 inline ModuleDefaults volumePictureDefaults(int elementMask, bool eachVolume = true, bool label = false)
 {
@@ -71,6 +78,11 @@ inline ModuleDefaults volumePictureDefaults(int elementMask, bool eachVolume = t
     setColor(d, "E07", 20, 20, 20);
     setColor(d, "Z03", 40, 40, 40);
     return d;
+}
+
+inline VolumePictureSettings volumeSettings(int elementMask, bool eachVolume = true, bool label = false)
+{
+    return volumePictureSettings(volumePictureDefaults(elementMask, eachVolume, label));
 }
 
 inline DiskBaseDict twoDisks()

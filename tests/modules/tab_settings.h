@@ -2,7 +2,7 @@
 #pragma once
 
 #include "modules/module_registry.h"
-#include "modules/module_settings.h"
+#include "modules/module_prefs.h"
 #include "prefs/pref_keys.h"
 #include "prefs/settings_store.h"
 

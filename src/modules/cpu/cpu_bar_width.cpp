@@ -1,42 +1,32 @@
 // The CPU status item's width rule.
 #include "modules/cpu/cpu_bar_width.h"
 
-#include "prefs/pref_keys.h"
 #include "toolkit/menu_geometry.h"
 
-using namespace PrefKey;
-
-int cpuShownElementCount(const ModuleDefaults& myDefaults)
+int cpuShownElementCount(const CpuPictureSettings& settings)
 {
-    int shown = 0;
-    for (const char* key : {Cpu_Display_Graph, Cpu_Display_LevelBar, Cpu_Display_CircleMeter, Cpu_Display_Text})
-        shown += myDefaults.boolValue(key) ? 1 : 0;
-    return shown;
+    return shownElementCount(settings.shownElements());
 }
 
-double cpuBarWidth(const ModuleDefaults& myDefaults, std::size_t coreCount, double height)
+double cpuBarWidth(const CpuPictureSettings& settings, std::size_t coreCount, double height)
 {
-    const bool graph = myDefaults.boolValue(Cpu_Display_Graph);
-    const bool levelBar = myDefaults.boolValue(Cpu_Display_LevelBar);
-    const bool meter = myDefaults.boolValue(Cpu_Display_CircleMeter);
-    const bool text = myDefaults.boolValue(Cpu_Display_Text);
-    const int shown = cpuShownElementCount(myDefaults);
+    const int shown = cpuShownElementCount(settings);
     if (shown == 0)
         return 0;
 
-    const double sets = myDefaults.boolValue(Cpu_AverageMultiProcessors) ? 1.0 : static_cast<double>(coreCount);
+    const double sets = settings.average ? 1.0 : static_cast<double>(coreCount);
     const TvlClasses::Insets insets = TvlClasses::retStatusMenuInsets(shown);
     const double s = insets.spacing;
     double width = 0;
-    if (graph)
-        width += (static_cast<double>(myDefaults.intValue(Cpu_GraphWidth)) + s) * sets;
-    if (levelBar)
+    if (settings.graph)
+        width += (settings.graphWidth + s) * sets;
+    if (settings.levelBar)
         width += (7 + s) * sets;
-    if (meter) // square, as high as the bar less the insets
+    if (settings.meter) // square, as high as the bar less the insets
         width += (height - insets.top - insets.bottom + s) * sets;
-    if (text)
-        width += (myDefaults.doubleValue(CpuInnerTextWidth) + s) * sets;
-    if (myDefaults.boolValue(Cpu_ShowMyLabel))
+    if (settings.text)
+        width += (settings.textWidth + s) * sets;
+    if (settings.showLabel)
         width += 12;
     return width - s + 4;
 }

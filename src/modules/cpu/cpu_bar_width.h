@@ -2,7 +2,7 @@
 #pragma once
 
 #include "collect/cpu_sample.h"
-#include "prefs/module_defaults.h"
+#include "modules/cpu/cpu_picture_settings.h"
 
 #include <cstddef>
 
@@ -10,9 +10,9 @@
 // once (averaged) or once per core, each followed by the spacing, plus 12 for the label; then
 // the last spacing becomes a 4-point end margin. 0 when no element is shown.
 // How many of the four elements (graph, level bar, meter, text) are switched on.
-int cpuShownElementCount(const ModuleDefaults& myDefaults);
+int cpuShownElementCount(const CpuPictureSettings& settings);
 
-double cpuBarWidth(const ModuleDefaults& myDefaults, std::size_t coreCount, double height);
+double cpuBarWidth(const CpuPictureSettings& settings, std::size_t coreCount, double height);
 
 // A sample of processors cores and the machine, every count 0: the picture then shows its
 // elements empty and its texts at 0% until the first measurement arrives.

@@ -23,7 +23,6 @@
 namespace {
 
 constexpr const char* kShareNames[] = {"User", "System", "Nice", "Idle"};
-constexpr const char* kShareColors[] = {"A01", "A02", "A03", "A04"};
 constexpr const char* kVirtualMachine = "(Probably VM)";
 constexpr const char* kDefaultSearchAddress = "https://duckduckgo.com/";
 
@@ -118,7 +117,7 @@ CPU_MenuController::~CPU_MenuController()
     pool_.waitForDone();
 }
 
-void CPU_MenuController::loadBaseData(const ModuleDefaults& myDefaults)
+void CPU_MenuController::loadBaseData(const ThemePicture& label)
 {
     const QString realName = defaults_.stringForKey(PrefKey::MacRealName);
     const QString rawName = defaults_.stringForKey(PrefKey::MacRawName);
@@ -130,11 +129,10 @@ void CPU_MenuController::loadBaseData(const ModuleDefaults& myDefaults)
     machinNameButton->setFont(font);
 
     // No vendor picture service here: the theme's processor picture stands for the machine.
-    const ThemePicture picture = myDefaults.picture(QStringLiteral("L01"));
-    if (!picture.image.isNull())
+    if (!label.image.isNull())
         machinImage->setPixmap(
-            QPixmap::fromImage(picture.image)
-                .scaledToHeight(static_cast<int>(picture.size.height()) * machinImage->devicePixelRatioF(),
+            QPixmap::fromImage(label.image)
+                .scaledToHeight(static_cast<int>(label.size.height()) * machinImage->devicePixelRatioF(),
                                 Qt::SmoothTransformation));
 
     cpuKindLabel->setText(cpuKindText(loadInfo_));
@@ -150,13 +148,12 @@ void CPU_MenuController::reloadProcDict()
         procDict = std::move(names);
 }
 
-void CPU_MenuController::replaceData(qint64, const ModuleDefaults& myDefaults, const History<CpuSample>& resumeArray)
+void CPU_MenuController::replaceData(qint64, const CpuPictureSettings& settings, const History<CpuSample>& resumeArray)
 {
     const auto shares = cpuPanelShares(resumeArray);
     for (std::size_t s = 0; s < 4; ++s) {
-        const QString key = QString::fromLatin1(kShareColors[s]);
-        if (myDefaults.contains(key))
-            swatches_[s]->setPixmap(swatch(myDefaults.color(key)));
+        if (settings.swatches[s].isValid())
+            swatches_[s]->setPixmap(swatch(settings.swatches[s]));
         shareLabels_[s]->setText(QStringLiteral("%1%").arg(shares[s]));
         setOpacity(shareLabels_[s], cpuPanelOpacity(shares[s]));
         setOpacity(swatches_[s], cpuPanelOpacity(shares[s]));

@@ -3,7 +3,7 @@
 
 #include "collect/cpu_sample.h"
 #include "collect/history.h"
-#include "prefs/module_defaults.h"
+#include "modules/cpu/cpu_picture_settings.h"
 
 #include <QThreadPool>
 #include <QVariantMap>
@@ -23,12 +23,13 @@ public:
     ~CPU_MenuController() override;
 
     // Static facts: the machine's name and picture, the processor, the graphics processors.
-    void loadBaseData(const ModuleDefaults& myDefaults);
+    // label is the theme's processor picture, the module's label.
+    void loadBaseData(const ThemePicture& label);
     // Refreshes the names of running desktop applications.
     void reloadProcDict();
     // Every tick while the menu is open: the shares now, and in the background the lines and
     // processes, which arrive a moment later.
-    void replaceData(qint64 interval, const ModuleDefaults& myDefaults, const History<CpuSample>& resumeArray);
+    void replaceData(qint64 interval, const CpuPictureSettings& settings, const History<CpuSample>& resumeArray);
 
     // The rows as shown, for tests and the snapshot.
     QString shareText(int state) const;

@@ -59,7 +59,7 @@ void CPU_MenuModule::drawBaseStatusBar()
 
 void CPU_MenuModule::refreshBar()
 {
-    if (myDefaults.isEmpty() || myDefaults.intList(CpuItemSortArray).isEmpty() || !statusItem)
+    if (!settings_.barDrawable() || !statusItem)
         return;
     if (resumeArray.empty() || resumeArray.back().empty()) {
         // Before the first sample the picture still shows its elements, at 0%.
@@ -70,34 +70,36 @@ void CPU_MenuModule::refreshBar()
     }
     const std::size_t cores = resumeArray.back().size() - 1;
     const double height = TvlClasses::retRootMenuHeight();
-    const double width = cpuBarWidth(myDefaults, cores, height);
-    imageCpuBar.redrawWithSize(QSizeF(width, height), TvlClasses::retStatusMenuInsets(cpuShownElementCount(myDefaults)),
-                               menuOpened(), true, myDefaults, resumeArray);
+    const double width = cpuBarWidth(settings_.bar, cores, height);
+    imageCpuBar.redrawWithSize(QSizeF(width, height),
+                               TvlClasses::retStatusMenuInsets(cpuShownElementCount(settings_.bar)), menuOpened(), true,
+                               settings_.bar, resumeArray);
     showImage(imageCpuBar.image(pictureScale()));
     statusItem->setText(cpuUsageText(resumeArray.back().back()));
 }
 
 void CPU_MenuModule::prepareMenuOpening()
 {
+    settings_.keepForOpenMenu();
     // Machine facts and application names are only looked up for a menu that is shown.
     if (cpuMenuController != nullptr) {
-        cpuMenuController->loadBaseData(myDefaults);
+        cpuMenuController->loadBaseData(settings_.bar.label);
         cpuMenuController->reloadProcDict();
     }
 }
 
-QImage CPU_MenuModule::drawMenuGraph(const ModuleDefaults& defaults)
+QImage CPU_MenuModule::menuGraph(const CpuPictureSettings& settings)
 {
-    imageCpuMenu.redrawWithSize(QSizeF(static_cast<double>(mnDefaults.intValue(Cpu_GraphWidth)), kMenuGraphHeight),
-                                TvlClasses::retMenuPullDownInsets(), false, true, defaults, resumeArray);
+    imageCpuMenu.redrawWithSize(QSizeF(settings_.menu.graphWidth, kMenuGraphHeight),
+                                TvlClasses::retMenuPullDownInsets(), false, true, settings, resumeArray);
     return imageCpuMenu.image(pictureScale());
 }
 
 void CPU_MenuModule::redrawStatusItem()
 {
     if (menuGraph_ != nullptr)
-        menuGraph_->setPixmap(QPixmap::fromImage(drawMenuGraph(mnDefaultsTmp)));
+        menuGraph_->setPixmap(QPixmap::fromImage(menuGraph(settings_.openMenu)));
     // The process scan behind the panel runs only while someone looks at it.
     if (cpuMenuController != nullptr && menuOpened())
-        cpuMenuController->replaceData(1, myDefaults, resumeArray);
+        cpuMenuController->replaceData(1, settings_.bar, resumeArray);
 }

@@ -6,6 +6,7 @@
 #include "modules/cpu/cpu_menu_controller.h"
 #include "modules/cpu/image_cpu_bar.h"
 #include "modules/menu_module.h"
+#include "modules/module_settings.h"
 
 class QLabel;
 
@@ -25,15 +26,18 @@ protected:
     void drawBaseStatusBar() override;
     void redrawStatusItem() override;
     void prepareMenuOpening() override;
+    void settingsChanged() override { settings_.read(cpuPictureSettings, myDefaults, withMenuLayout()); }
+    QImage drawMenuGraph() override { return menuGraph(settings_.menu); }
 
 private:
     static constexpr double kMenuGraphHeight = 20;
 
-    QImage drawMenuGraph(const ModuleDefaults& defaults) override;
+    QImage menuGraph(const CpuPictureSettings& settings);
 
     ImageCpuBar imageCpuBar;
     ImageCpuBar imageCpuMenu;
     QLabel* menuGraph_ = nullptr;                    // owned by the menu through its widget action
     CPU_MenuController* cpuMenuController = nullptr; // likewise
     History<CpuSample> resumeArray;
+    ModuleSettings<CpuPictureSettings> settings_;
 };

@@ -71,8 +71,9 @@ void CpuTabViewController::redrawPreview()
             zeroCpuSample(static_cast<std::size_t>(std::max(1, QThread::idealThreadCount()))));
     const std::size_t cores = history.back().size() - 1;
     const double height = TvlClasses::retRootMenuHeight();
+    const CpuPictureSettings settings = cpuPictureSettings(defaults);
     ImageCpuBar bar;
-    bar.redrawWithSize(QSizeF(cpuBarWidth(defaults, cores, height), height),
-                       TvlClasses::retStatusMenuInsets(cpuShownElementCount(defaults)), false, true, defaults, history);
+    bar.redrawWithSize(QSizeF(cpuBarWidth(settings, cores, height), height),
+                       TvlClasses::retStatusMenuInsets(cpuShownElementCount(settings)), false, true, settings, history);
     showPreview(bar.image(devicePixelRatioF() * PicturePreview::zoom()));
 }

@@ -5,7 +5,7 @@
 
 #include "collect/cpu_sample.h"
 #include "collect/history.h"
-#include "prefs/module_defaults.h"
+#include "modules/cpu/cpu_picture_settings.h"
 #include "toolkit/menu_geometry.h"
 #include "toolkit/text_attributes.h"
 
@@ -15,10 +15,10 @@
 
 #include <cstddef>
 
-class ImageCpuBar : public ImageBar<CpuSample> {
+class ImageCpuBar : public ImageBar<CpuSample, CpuPictureSettings> {
 public:
     void redrawWithSize(QSizeF size, TvlClasses::Insets insets, bool isHighLighted, bool drawEmptyLine,
-                        const ModuleDefaults& myDefaults, const History<CpuSample>& resumeArray);
+                        const CpuPictureSettings& settings, const History<CpuSample>& resumeArray);
 
     double drawRect(QPainter& painter) const override;
 

@@ -1,79 +1,55 @@
 // The Disk status item's width rule and its sets.
 #include "modules/disk/disk_bar_width.h"
 
-#include "modules/volume/storage_pictures.h"
-#include "prefs/pref_keys.h"
-#include "toolkit/menu_geometry.h"
-
-using namespace PrefKey;
-
 namespace {
 
-double labelColumn(const ModuleDefaults& d, const char* widthKey)
+double labelColumn(const DiskLabelColumn& column)
 {
-    const double width = d.doubleValue(widthKey);
-    return width > 0 ? width + 1 : 0;
+    return column.width > 0 ? column.width + 1 : 0;
 }
 
 } // namespace
 
-std::vector<DiskBarSet> diskBarSets(const ModuleDefaults& myDefaults, const DiskBaseDict& diskBaseDict)
+std::vector<StorageBarSet> diskBarSets(const DiskPictureSettings& settings, const DiskBaseDict& diskBaseDict)
 {
-    std::vector<DiskBarSet> sets;
-    if (myDefaults.boolValue(Disk_ShowEachDisk)) {
-        sets.reserve(diskBaseDict.size());
-        for (const auto& [key, disk] : diskBaseDict)
-            sets.push_back({key, volumePictureKey(disk.iconKind, disk.bsdName)});
-    }
-    if (sets.empty())
-        sets.push_back({QString(), volumePictureKey(VolumeIconKind::Internal, QString())});
-    return sets;
+    return storageBarSets(settings.eachSet, diskBaseDict,
+                          [](const DiskBaseEntry& disk) { return volumePicture(disk.iconKind, disk.bsdName); });
 }
 
-int diskShownElementCount(const ModuleDefaults& myDefaults)
+int diskShownElementCount(const DiskPictureSettings& settings)
 {
-    int shown = 0;
-    for (const char* key : {Disk_Display_Indicator, Disk_Display_Graph, Disk_Display_Text})
-        shown += myDefaults.boolValue(key) ? 1 : 0;
-    return shown;
+    return shownElementCount(settings.shownElements());
 }
 
-double diskIndicatorWidth(const ModuleDefaults& myDefaults)
+double diskIndicatorWidth(const DiskPictureSettings& settings)
 {
-    return labelColumn(myDefaults, DiskInnerIndicatorLabelWidth) + kDiskLampDiameter;
+    return labelColumn(settings.indicatorLabels) + kDiskLampDiameter;
 }
 
-double diskGraphElementWidth(const ModuleDefaults& myDefaults)
+double diskGraphElementWidth(const DiskPictureSettings& settings)
 {
-    return labelColumn(myDefaults, DiskInnerGraphLabelWidth) +
-           static_cast<double>(myDefaults.intValue(Disk_GraphWidth));
+    return labelColumn(settings.graphLabels) + settings.graphWidth;
 }
 
-double diskTextWidth(const ModuleDefaults& myDefaults)
+double diskTextWidth(const DiskPictureSettings& settings)
 {
-    return labelColumn(myDefaults, DiskInnerTextLabelWidth) + myDefaults.doubleValue(DiskInnerTextValueWidth);
+    return labelColumn(settings.textLabels) + settings.textValueWidth;
 }
 
-double diskSetWidth(const ModuleDefaults& myDefaults, double spacing)
+double diskSetWidth(const DiskPictureSettings& settings, double spacing)
 {
     double width = 0;
-    if (myDefaults.boolValue(Disk_Display_Indicator))
-        width += diskIndicatorWidth(myDefaults) + spacing;
-    if (myDefaults.boolValue(Disk_Display_Graph))
-        width += diskGraphElementWidth(myDefaults) + spacing;
-    if (myDefaults.boolValue(Disk_Display_Text))
-        width += diskTextWidth(myDefaults) + spacing;
+    if (settings.indicator)
+        width += diskIndicatorWidth(settings) + spacing;
+    if (settings.graph)
+        width += diskGraphElementWidth(settings) + spacing;
+    if (settings.text)
+        width += diskTextWidth(settings) + spacing;
     return width;
 }
 
-double diskBarWidth(const ModuleDefaults& myDefaults, std::size_t setCount)
+double diskBarWidth(const DiskPictureSettings& settings, std::size_t setCount)
 {
-    const int shown = diskShownElementCount(myDefaults);
-    if (shown == 0)
-        return 0;
-    const double s = TvlClasses::retStatusMenuInsets(shown).spacing;
-    double width = diskSetWidth(myDefaults, s) * static_cast<double>(setCount);
-    if (myDefaults.boolValue(Disk_ShowMyLabel))
-        width += 12;
-    return width - s + 4;
+    return storageBarWidth(diskShownElementCount(settings), setCount, settings.showLabel,
+                           [&settings](double spacing) { return diskSetWidth(settings, spacing); });
 }

@@ -2,41 +2,11 @@
 #pragma once
 
 #include "collect/disk_sample.h"
-#include "collect/history.h"
 #include "collect/storage_descriptions.h"
-#include "prefs/module_defaults.h"
+#include "modules/storage_panel.h"
 
-#include <QWidget>
+using Disk_MenuController = StoragePanelOf<DiskBaseDict, DiskSample>;
 
-#include <vector>
-
-class QGridLayout;
-class QLabel;
-
-class Disk_MenuController final : public QWidget {
-    Q_OBJECT
-public:
-    explicit Disk_MenuController(QWidget* parent = nullptr);
-
-    // One block per disk: its picture, name and model, hardware facts. Rates and totals are
-    // filled by replaceData.
-    void loadBaseData(const ModuleDefaults& myDefaults, const DiskBaseDict& diskBaseDict);
-    // Every tick while the menu is open.
-    void replaceData(const History<DiskSample>& resumeArray);
-
-    // The blocks as shown, one line per label, for tests and the snapshot.
-    int rowCount() const { return static_cast<int>(rows_.size()); }
-    QString rowText(int row) const;
-
-private:
-    struct Row {
-        QString key;
-        QLabel* title = nullptr;
-        QLabel* facts = nullptr;
-        QLabel* rates = nullptr;
-        QLabel* totals = nullptr;
-    };
-
-    QGridLayout* grid_ = nullptr;
-    std::vector<Row> rows_;
-};
+// One block per disk: its picture, name and model, hardware facts; rates and totals below.
+template <> void Disk_MenuController::loadBaseData(const StoragePictures& pictures, const DiskBaseDict& diskBaseDict);
+template <> void Disk_MenuController::replaceData(const History<DiskSample>& resumeArray);

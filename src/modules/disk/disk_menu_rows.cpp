@@ -69,11 +69,11 @@ QString diskTotalsText(const History<DiskSample>& history, const QString& key)
            TvlClasses::calcDiskSize(clampedBytes(device->second[1]));
 }
 
-QString diskBarText(const std::vector<DiskBarSet>& sets, const DiskBaseDict& diskBaseDict,
+QString diskBarText(const std::vector<StorageBarSet>& sets, const DiskBaseDict& diskBaseDict,
                     const History<DiskSample>& history)
 {
     QStringList parts;
-    for (const DiskBarSet& set : sets) {
+    for (const StorageBarSet& set : sets) {
         const DiskRates rates = newestDiskRates(history, set.key);
         QString part = QStringLiteral("read ") + rate(rates.read) + QStringLiteral("  write ") + rate(rates.write);
         if (const auto disk = diskBaseDict.find(set.key); disk != diskBaseDict.end())

@@ -26,5 +26,5 @@ QString diskTotalsText(const History<DiskSample>& history, const QString& key);
 
 // The menu bar's figures as words, per set: "sda read 1.2MB/s  write 0.0KB/s"; sets apart by
 // " | ". The combined set has no name.
-QString diskBarText(const std::vector<DiskBarSet>& sets, const DiskBaseDict& diskBaseDict,
+QString diskBarText(const std::vector<StorageBarSet>& sets, const DiskBaseDict& diskBaseDict,
                     const History<DiskSample>& history);

@@ -79,7 +79,7 @@ QString diskSnapshotText(const SnapshotContext& context)
 {
     const DiskBaseDict& disks = context.disks;
     const History<DiskSample> history = context.info.history<DiskSample>(context.slot);
-    const std::vector<DiskBarSet> sets = diskBarSets(context.settings, disks);
+    const std::vector<StorageBarSet> sets = diskBarSets(diskPictureSettings(context.settings), disks);
     QString out = QStringLiteral("Disk\n  bar    ") + diskBarText(sets, disks, history) + QLatin1Char('\n');
     if (history.size() < 2)
         out += QStringLiteral("  (rates need two samples; sample more cycles)\n");

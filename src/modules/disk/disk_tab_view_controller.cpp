@@ -89,12 +89,12 @@ void DiskTabViewController::loadViews()
 
 void DiskTabViewController::redrawPreview()
 {
-    const ModuleDefaults defaults = previewDefaults();
-    const std::vector<DiskBarSet> sets = diskBarSets(defaults, diskBaseDict_);
+    const DiskPictureSettings settings = diskPictureSettings(previewDefaults());
+    const std::vector<StorageBarSet> sets = diskBarSets(settings, diskBaseDict_);
     const double height = TvlClasses::retRootMenuHeight();
     ImageDiskBar bar;
-    bar.redrawWithSize(QSizeF(diskBarWidth(defaults, sets.size()), height),
-                       TvlClasses::retStatusMenuInsets(diskShownElementCount(defaults)), false, true, defaults,
+    bar.redrawWithSize(QSizeF(diskBarWidth(settings, sets.size()), height),
+                       TvlClasses::retStatusMenuInsets(diskShownElementCount(settings)), false, true, settings,
                        history_, sets);
     showPreview(bar.image(devicePixelRatioF() * PicturePreview::zoom()));
 }

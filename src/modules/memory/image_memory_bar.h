@@ -7,7 +7,7 @@
 #include "collect/memory_sample.h"
 #include "modules/memory/memory_bar_width.h"
 #include "modules/memory/memory_breakdown.h"
-#include "prefs/module_defaults.h"
+#include "modules/memory/memory_picture_settings.h"
 #include "toolkit/menu_geometry.h"
 #include "toolkit/text_attributes.h"
 
@@ -20,14 +20,14 @@
 
 // Element codes of MemoryItemSortArray: 1 graph, 2 level bar, 3 cycle meter, 4 text (in use
 // and free), 5 detail text (two columns of two parts of the chosen view).
-class ImageMemoryBar : public ImageBar<MemorySample> {
+class ImageMemoryBar : public ImageBar<MemorySample, MemoryPictureSettings> {
 public:
     // pageSize turns the sample's pages into bytes; totalPages is the machine's memory.
     explicit ImageMemoryBar(std::size_t pageSize = 4096, std::int64_t totalPages = 0);
     void setMemorySize(std::size_t pageSize, std::int64_t totalPages);
 
     void redrawWithSize(QSizeF size, TvlClasses::Insets insets, bool isHighLighted, bool drawEmptyLine,
-                        const ModuleDefaults& myDefaults, const History<MemorySample>& resumeArray,
+                        const MemoryPictureSettings& settings, const History<MemorySample>& resumeArray,
                         const MemoryTextWidths& widths);
 
     double drawRect(QPainter& painter) const override;

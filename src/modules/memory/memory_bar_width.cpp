@@ -1,7 +1,6 @@
 // The Memory status item's text boxes and width rule.
 #include "modules/memory/memory_bar_width.h"
 
-#include "prefs/pref_keys.h"
 #include "toolkit/menu_geometry.h"
 #include "toolkit/string_helpers.h"
 #include "toolkit/text_metrics.h"
@@ -10,8 +9,6 @@
 #include <algorithm>
 #include <cmath>
 
-using namespace PrefKey;
-
 namespace {
 
 // Below 1024 MB the automatic unit prints megabytes with up to four digits before the point.
@@ -19,11 +16,11 @@ constexpr std::int64_t kLargestMegabyteText = 1000LL * 1024 * 1024;
 
 } // namespace
 
-MemoryTextWidths memoryTextWidths(const ModuleDefaults& d, std::int64_t totalBytes)
+MemoryTextWidths memoryTextWidths(const MemoryPictureSettings& d, std::int64_t totalBytes)
 {
-    const QString font = d.stringValue(_FontPostScriptName);
-    const double size = 9 + d.doubleValue(_FontSizeDiff);
-    const auto unit = static_cast<int>(d.intValue(Memory_Unit));
+    const QString& font = d.fontName;
+    const double size = d.fontSize;
+    const int unit = d.unit;
     QStringList samples{TvlClasses::calcMemorySize(std::max<std::int64_t>(totalBytes, 0), unit)};
     if (unit != 2 && unit != 3 && totalBytes >= kLargestMegabyteText)
         samples << TvlClasses::calcMemorySize(kLargestMegabyteText, unit);
@@ -34,27 +31,21 @@ MemoryTextWidths memoryTextWidths(const ModuleDefaults& d, std::int64_t totalByt
             TvlClasses::calcMenuLabelSize(TvlClasses::retEightNumber(sample).value_or(QString()), size, font).width());
 
     // One point between a header and its figure, so that the two never touch.
-    const double shortHeader = d.doubleValue(MemoryInnerDetailLHeaderWidth) + 1;
-    const bool longText = d.boolValue(Memory_Text_WithLongLabel);
-    const bool longDetail = d.boolValue(Memory_DetailText_WithLongLabel);
+    const double shortHeader = d.detailLeftHeaderWidth + 1;
     MemoryTextWidths widths;
     widths.value = std::ceil(value);
-    widths.header = longText ? d.doubleValue(MemoryInnerTextHeaderWidth) + 1 : shortHeader;
-    widths.detailLeft = (longDetail ? d.doubleValue(MemoryInnerTextHeaderWidth) + 1 : shortHeader) + widths.value;
-    widths.detailRight = (longDetail ? d.doubleValue(MemoryInnerDetailRHeaderWidth) + 1 : shortHeader) + widths.value;
+    widths.header = d.longText ? d.textHeaderWidth + 1 : shortHeader;
+    widths.detailLeft = (d.longDetail ? d.textHeaderWidth + 1 : shortHeader) + widths.value;
+    widths.detailRight = (d.longDetail ? d.detailRightHeaderWidth + 1 : shortHeader) + widths.value;
     return widths;
 }
 
-int memoryShownElementCount(const ModuleDefaults& d)
+int memoryShownElementCount(const MemoryPictureSettings& d)
 {
-    int shown = 0;
-    for (const char* key : {Memory_Display_Graph, Memory_Display_LevelBar, Memory_Display_CircleMeter,
-                            Memory_Display_Text, Memory_Display_DetailText})
-        shown += d.boolValue(key) ? 1 : 0;
-    return shown;
+    return shownElementCount(d.shownElements());
 }
 
-double memoryBarWidth(const ModuleDefaults& d, const MemoryTextWidths& widths, double height)
+double memoryBarWidth(const MemoryPictureSettings& d, const MemoryTextWidths& widths, double height)
 {
     const int shown = memoryShownElementCount(d);
     if (shown == 0)
@@ -62,17 +53,17 @@ double memoryBarWidth(const ModuleDefaults& d, const MemoryTextWidths& widths, d
     const TvlClasses::Insets insets = TvlClasses::retStatusMenuInsets(shown);
     const double s = insets.spacing;
     double width = 0;
-    if (d.boolValue(Memory_Display_Graph))
-        width += static_cast<double>(d.intValue(Memory_GraphWidth)) + s;
-    if (d.boolValue(Memory_Display_LevelBar))
+    if (d.graph)
+        width += d.graphWidth + s;
+    if (d.levelBar)
         width += 7 + s;
-    if (d.boolValue(Memory_Display_CircleMeter)) // square, as high as the bar less the insets
+    if (d.meter) // square, as high as the bar less the insets
         width += height - insets.top - insets.bottom + s;
-    if (d.boolValue(Memory_Display_Text))
+    if (d.text)
         width += widths.text() + s;
-    if (d.boolValue(Memory_Display_DetailText))
+    if (d.detailText)
         width += widths.detail() + s;
-    if (d.boolValue(Memory_ShowMyLabel))
+    if (d.showLabel)
         width += 12;
     return width - s + 4;
 }

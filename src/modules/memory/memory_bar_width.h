@@ -1,7 +1,7 @@
 // Sizing the Memory status item: the text boxes and the width rule.
 #pragma once
 
-#include "prefs/module_defaults.h"
+#include "modules/memory/memory_picture_settings.h"
 
 #include <cstdint>
 
@@ -20,14 +20,14 @@ struct MemoryTextWidths {
 };
 
 // Headers from the derived header widths, values measured in the theme's font: the widest
-// text calcMemorySize gives for up to totalBytes in the Memory_Unit setting, so the picture
+// text calcMemorySize gives for up to totalBytes in the chosen unit, so the picture
 // does not jitter as the figures change. Measures text: keep the result while the settings
 // and the total stay the same.
-MemoryTextWidths memoryTextWidths(const ModuleDefaults& myDefaults, std::int64_t totalBytes);
+MemoryTextWidths memoryTextWidths(const MemoryPictureSettings& settings, std::int64_t totalBytes);
 
 // How many of the five elements (graph, level bar, meter, text, detail text) are switched on.
-int memoryShownElementCount(const ModuleDefaults& myDefaults);
+int memoryShownElementCount(const MemoryPictureSettings& settings);
 
 // The picture's width at the bar's height: every shown element followed by the spacing, plus
 // 12 for the label; the last spacing becomes a 4-point end margin. 0 when nothing is shown.
-double memoryBarWidth(const ModuleDefaults& myDefaults, const MemoryTextWidths& widths, double height);
+double memoryBarWidth(const MemoryPictureSettings& settings, const MemoryTextWidths& widths, double height);

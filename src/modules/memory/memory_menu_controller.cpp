@@ -5,14 +5,11 @@
 #include "collect/memory_mapping.h"
 #include "modules/memory/memory_panel_rows.h"
 #include "modules/panel_labels.h"
-#include "prefs/pref_keys.h"
 #include "toolkit/localization.h"
 #include "toolkit/value_format.h"
 
 #include <QGridLayout>
 #include <QLabel>
-
-using namespace PrefKey;
 
 Memory_MenuController::Memory_MenuController(LoadSystemInformation& loadInfo, QWidget* parent)
     : QWidget(parent)
@@ -73,18 +70,16 @@ void Memory_MenuController::reloadProcDict()
         procDict_ = std::move(names);
 }
 
-void Memory_MenuController::replaceData(double seconds, const ModuleDefaults& myDefaults,
+void Memory_MenuController::replaceData(double seconds, const MemoryPictureSettings& settings,
                                         const History<MemorySample>& resumeArray, std::size_t pageSize,
                                         std::int64_t totalPages)
 {
-    const auto unit = static_cast<int>(myDefaults.intValue(Memory_Unit));
+    const int unit = settings.unit;
     if (!resumeArray.empty()) {
-        const auto rows = memoryPanelRows(resumeArray.back(), totalPages, pageSize,
-                                          myDefaults.boolValue(Memory_TradMemoryInfo), unit);
+        const auto rows = memoryPanelRows(resumeArray.back(), totalPages, pageSize, settings.traditional, unit);
         for (std::size_t r = 0; r < rows.size() && r < kPartRows; ++r) {
             const MemoryPanelRow& line = rows[r];
-            swatches_[r]->setPixmap(line.swatch ? PanelLabels::swatch(memoryPartColor(myDefaults, line.part))
-                                                : QPixmap());
+            swatches_[r]->setPixmap(line.swatch ? PanelLabels::swatch(settings.partColor(line.part)) : QPixmap());
             names_[r]->setText(localized(memoryPartName(line.part)));
             sizes_[r]->setText(line.size);
         }

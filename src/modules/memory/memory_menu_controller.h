@@ -5,7 +5,7 @@
 #include "collect/history.h"
 #include "collect/memory_sample.h"
 #include "collect/process_list.h"
-#include "prefs/module_defaults.h"
+#include "modules/memory/memory_picture_settings.h"
 
 #include <QThreadPool>
 #include <QWidget>
@@ -30,7 +30,7 @@ public:
     void reloadProcDict();
     // Every tick while the menu is open: the parts, paging and swap at once; the processes from
     // the background, a moment later. seconds is what the newest sample covers.
-    void replaceData(double seconds, const ModuleDefaults& myDefaults, const History<MemorySample>& resumeArray,
+    void replaceData(double seconds, const MemoryPictureSettings& settings, const History<MemorySample>& resumeArray,
                      std::size_t pageSize, std::int64_t totalPages);
 
     // The rows as shown, for tests and the snapshot.

@@ -57,20 +57,19 @@ void Memory_MenuModule::takeMemorySize()
 
 const MemoryTextWidths& Memory_MenuModule::textWidths()
 {
-    const WidthInputs inputs{myDefaults.stringValue(_FontPostScriptName),
-                             myDefaults.doubleValue(_FontSizeDiff),
-                             myDefaults.intValue(Memory_Unit),
-                             myDefaults.boolValue(Memory_Text_WithLongLabel),
-                             myDefaults.boolValue(Memory_DetailText_WithLongLabel),
-                             {myDefaults.doubleValue(MemoryInnerTextHeaderWidth),
-                              myDefaults.doubleValue(MemoryInnerDetailLHeaderWidth),
-                              myDefaults.doubleValue(MemoryInnerDetailRHeaderWidth)},
-                             memoryTotalPages_ * static_cast<std::int64_t>(memoryPageSize_)};
-    if (!(inputs == widthInputs_)) {
-        widthInputs_ = inputs;
-        widths_ = memoryTextWidths(myDefaults, inputs.totalBytes);
+    const std::int64_t totalBytes = memoryTotalPages_ * static_cast<std::int64_t>(memoryPageSize_);
+    if (widthsStale_ || totalBytes != widthsTotalBytes_) {
+        widthsStale_ = false;
+        widthsTotalBytes_ = totalBytes;
+        widths_ = memoryTextWidths(settings_.bar, totalBytes);
     }
     return widths_;
+}
+
+void Memory_MenuModule::settingsChanged()
+{
+    settings_.read(memoryPictureSettings, myDefaults, withMenuLayout());
+    widthsStale_ = true;
 }
 
 void Memory_MenuModule::drawBaseStatusBar()
@@ -97,47 +96,45 @@ void Memory_MenuModule::drawBaseStatusBar()
 
 void Memory_MenuModule::refreshBar()
 {
-    if (myDefaults.isEmpty() || myDefaults.intList(MemoryItemSortArray).isEmpty() || !statusItem)
+    if (!settings_.barDrawable() || !statusItem)
         return;
     takeMemorySize();
     const double height = TvlClasses::retRootMenuHeight();
     const MemoryTextWidths& widths = textWidths();
     imageMemoryBar.setMemorySize(memoryPageSize_, memoryTotalPages_);
-    imageMemoryBar.redrawWithSize(QSizeF(memoryBarWidth(myDefaults, widths, height), height),
-                                  TvlClasses::retStatusMenuInsets(memoryShownElementCount(myDefaults)), menuOpened(),
-                                  true, myDefaults, resumeArray, widths);
+    imageMemoryBar.redrawWithSize(QSizeF(memoryBarWidth(settings_.bar, widths, height), height),
+                                  TvlClasses::retStatusMenuInsets(memoryShownElementCount(settings_.bar)), menuOpened(),
+                                  true, settings_.bar, resumeArray, widths);
     showImage(imageMemoryBar.image(pictureScale()));
     if (!resumeArray.empty()) {
-        const MemoryBreakdown parts =
-            memoryBreakdown(resumeArray.back(), memoryTotalPages_, myDefaults.boolValue(Memory_TradMemoryInfo));
-        statusItem->setText(memoryBarText(parts, memoryPageSize_, static_cast<int>(myDefaults.intValue(Memory_Unit))));
+        const MemoryBreakdown parts = memoryBreakdown(resumeArray.back(), memoryTotalPages_, settings_.bar.traditional);
+        statusItem->setText(memoryBarText(parts, memoryPageSize_, settings_.bar.unit));
     }
 }
 
 void Memory_MenuModule::prepareMenuOpening()
 {
+    settings_.keepForOpenMenu();
     // Application names are only looked up for a menu that is shown.
     if (memoryMenuController != nullptr)
         memoryMenuController->reloadProcDict();
 }
 
-QImage Memory_MenuModule::drawMenuGraph(const ModuleDefaults& defaults)
+QImage Memory_MenuModule::menuGraph(const MemoryPictureSettings& settings)
 {
     imageMemoryMenu.setMemorySize(memoryPageSize_, memoryTotalPages_);
-    imageMemoryMenu.redrawWithSize(
-        QSizeF(static_cast<double>(mnDefaults.intValue(Memory_GraphWidth)), kMenuGraphHeight),
-        TvlClasses::retMenuPullDownInsets(), false, true, defaults, resumeArray, widths_);
+    imageMemoryMenu.redrawWithSize(QSizeF(settings_.menu.graphWidth, kMenuGraphHeight),
+                                   TvlClasses::retMenuPullDownInsets(), false, true, settings, resumeArray, widths_);
     return imageMemoryMenu.image(pictureScale());
 }
 
 void Memory_MenuModule::redrawStatusItem()
 {
     if (menuGraph_ != nullptr && menuOpened())
-        menuGraph_->setPixmap(QPixmap::fromImage(drawMenuGraph(mnDefaultsTmp)));
+        menuGraph_->setPixmap(QPixmap::fromImage(menuGraph(settings_.openMenu)));
     // The swap and process scans behind the panel run only while someone looks at it.
     if (memoryMenuController != nullptr && menuOpened()) {
-        const double seconds =
-            arrivals_.secondsBetweenNewest(static_cast<double>(myDefaults.intValue(Memory_UpdateInterval)));
-        memoryMenuController->replaceData(seconds, myDefaults, resumeArray, memoryPageSize_, memoryTotalPages_);
+        const double seconds = arrivals_.secondsBetweenNewest(static_cast<double>(settings_.bar.updateInterval));
+        memoryMenuController->replaceData(seconds, settings_.bar, resumeArray, memoryPageSize_, memoryTotalPages_);
     }
 }

@@ -7,9 +7,8 @@
 #include "modules/memory/memory_bar_width.h"
 #include "modules/memory/memory_menu_controller.h"
 #include "modules/menu_module.h"
+#include "modules/module_settings.h"
 #include "modules/sample_arrivals.h"
-
-#include <array>
 
 class QLabel;
 
@@ -37,14 +36,16 @@ protected:
     void drawBaseStatusBar() override;
     void redrawStatusItem() override;
     void prepareMenuOpening() override;
+    void settingsChanged() override;
+    QImage drawMenuGraph() override { return menuGraph(settings_.menu); }
 
 private:
     static constexpr double kMenuGraphHeight = 20;
 
     void takeMemorySize();
-    // Measures text only when the font, the labels, the unit or the memory size changed.
+    // Measures text only when the settings or the memory size changed.
     const MemoryTextWidths& textWidths();
-    QImage drawMenuGraph(const ModuleDefaults& defaults) override;
+    QImage menuGraph(const MemoryPictureSettings& settings);
 
     ImageMemoryBar imageMemoryBar;
     ImageMemoryBar imageMemoryMenu;
@@ -54,17 +55,9 @@ private:
     SampleArrivals arrivals_;
     std::size_t memoryPageSize_ = 4096;
     std::int64_t memoryTotalPages_ = 0;
-    // What the text widths were measured for.
-    struct WidthInputs {
-        QString font;
-        double sizeDiff = 0;
-        qint64 unit = 0;
-        bool longText = false;
-        bool longDetail = false;
-        std::array<double, 3> headers{};
-        std::int64_t totalBytes = -1;
-        bool operator==(const WidthInputs&) const = default;
-    };
-    WidthInputs widthInputs_;
+    ModuleSettings<MemoryPictureSettings> settings_;
+    // The text widths, and the memory size they were measured for; stale after a settings change.
     MemoryTextWidths widths_;
+    std::int64_t widthsTotalBytes_ = -1;
+    bool widthsStale_ = true;
 };

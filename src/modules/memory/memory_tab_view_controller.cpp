@@ -74,7 +74,7 @@ void MemoryTabViewController::setLiveHistory(const InfoDict& info)
 
 void MemoryTabViewController::redrawPreview()
 {
-    const ModuleDefaults defaults = previewDefaults();
+    const MemoryPictureSettings settings = memoryPictureSettings(previewDefaults());
     // Before the first sample: the elements empty and the figures at 0, as the bar would show them.
     const History<MemorySample> history =
         history_.empty() ? History<MemorySample>().appended(MemorySample{}) : history_;
@@ -85,11 +85,11 @@ void MemoryTabViewController::redrawPreview()
         pageSize = loadInfo.memoryPageSize();
         totalPages = loadInfo.memoryTotals().value_or(MemoryTotals{}).totalPages;
     }
-    const MemoryTextWidths widths = memoryTextWidths(defaults, totalPages * static_cast<std::int64_t>(pageSize));
+    const MemoryTextWidths widths = memoryTextWidths(settings, totalPages * static_cast<std::int64_t>(pageSize));
     const double height = TvlClasses::retRootMenuHeight();
     ImageMemoryBar bar(pageSize, totalPages);
-    bar.redrawWithSize(QSizeF(memoryBarWidth(defaults, widths, height), height),
-                       TvlClasses::retStatusMenuInsets(memoryShownElementCount(defaults)), false, true, defaults,
+    bar.redrawWithSize(QSizeF(memoryBarWidth(settings, widths, height), height),
+                       TvlClasses::retStatusMenuInsets(memoryShownElementCount(settings)), false, true, settings,
                        history, widths);
     showPreview(bar.image(devicePixelRatioF() * PicturePreview::zoom()));
 }

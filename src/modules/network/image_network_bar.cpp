@@ -2,16 +2,12 @@
 #include "modules/network/image_network_bar.h"
 
 #include "modules/network/network_graph.h"
-#include "modules/network/network_theme_keys.h"
 #include "modules/picture_label.h"
-#include "prefs/pref_keys.h"
 #include "toolkit/circle_meter.h"
 #include "toolkit/level_bar.h"
-#include "toolkit/menu_font.h"
 #include "toolkit/point_canvas.h"
 #include "toolkit/text_drawing.h"
 
-using namespace PrefKey;
 using namespace TvlClasses;
 
 namespace {
@@ -24,93 +20,87 @@ constexpr double kLampSpacer = 1;
 } // namespace
 
 void ImageNetworkBar::redrawWithSize(QSizeF size, Insets newInsets, bool highLighted, bool emptyLine,
-                                     const ModuleDefaults& defaults, const History<NetworkSample>& history,
+                                     const NetworkPictureSettings& settings, const History<NetworkSample>& history,
                                      const NetworkRates& current)
 {
-    setFrame(size, newInsets, highLighted, emptyLine, defaults, history);
+    setFrame(size, newInsets, highLighted, emptyLine, settings, history);
     current_ = current;
 }
 
 double ImageNetworkBar::drawRect(QPainter& painter) const
 {
-    if (myDefaults.isEmpty() || resumeArray.empty())
+    const NetworkPictureSettings& settings = mySettings;
+    if (!settings.loaded || resumeArray.empty())
         return 0;
     double x = 0;
-    x += drawModuleLabel(painter, myDefaults, Network_ShowMyLabel, NetworkThemeKey::L03);
+    x += drawModuleLabel(painter, settings);
 
-    TextAttributes attributes = menuTextAttributes(myDefaults);
-    for (const qint64 code : myDefaults.intList(NetworkItemSortArray)) {
+    TextAttributes attributes = settings.textAttributes;
+    forEachShownElement(settings.order, settings.shownElements(), [&](qint64 code) {
         switch (code) {
         case UdLabel:
-            if (myDefaults.boolValue(Network_Display_UdLabel))
-                drawUdLabel(painter, attributes, x);
+            drawUdLabel(painter, attributes, x);
             break;
         case UdCircle:
-            if (myDefaults.boolValue(Network_Display_UdCircle))
-                drawIndicator(painter, x);
+            drawIndicator(painter, x);
             break;
         case Graph:
-            if (myDefaults.boolValue(Network_Display_Graph))
-                drawGraph(painter, x);
+            drawGraph(painter, x);
             break;
         case Text:
-            if (myDefaults.boolValue(Network_Display_Text))
-                drawText(painter, attributes, x);
+            drawText(painter, attributes, x);
             break;
-        default: // codes of later versions are skipped
+        default:
             break;
         }
-    }
+    });
     return x;
 }
 
 void ImageNetworkBar::drawUdLabel(QPainter& painter, TextAttributes& attributes, double& x) const
 {
-    const double width = myDefaults.doubleValue(NetworkInnerUdLabelWidth);
-    const QStringList labels = myDefaults.stringList(Network_UdLabel_ModeAry);
+    const NetworkPictureSettings& settings = mySettings;
+    const double width = settings.udLabelWidth;
     const QRectF frame(x, 0, width, mySize.height());
-    const auto ajustPointY = static_cast<int>(myDefaults.intValue(_FontAdjust));
-    tvlDrawString(painter, labels.value(0), 0, 0, myDefaults.color(NetworkThemeKey::C01), attributes, frame,
-                  ajustPointY, drawInWhite);
-    tvlDrawString(painter, labels.value(1), 2, 0, myDefaults.color(NetworkThemeKey::C02), attributes, frame,
-                  ajustPointY, drawInWhite);
+    const int ajustPointY = settings.fontAdjust;
+    tvlDrawString(painter, settings.udLabels.value(0), 0, 0, settings.up, attributes, frame, ajustPointY, drawInWhite);
+    tvlDrawString(painter, settings.udLabels.value(1), 2, 0, settings.down, attributes, frame, ajustPointY,
+                  drawInWhite);
     x += width + insets.spacing;
 }
 
 void ImageNetworkBar::drawIndicator(QPainter& painter, double& x) const
 {
-    const double limen = networkLimenBytes(myDefaults);
+    const NetworkPictureSettings& settings = mySettings;
+    const double limen = settings.limen;
     const auto on = [limen](double rate) { return rate > 0 && rate >= limen; };
-    tvlDrawTwoCircle(painter, on(current_.up), on(current_.down), myDefaults.color(NetworkThemeKey::C03),
-                     myDefaults.color(NetworkThemeKey::C04), myDefaults.color(NetworkThemeKey::C01),
-                     myDefaults.color(NetworkThemeKey::C02), x, mySize.height(), kLampDiameter, kLampSpacer,
-                     drawInWhite);
+    tvlDrawTwoCircle(painter, on(current_.up), on(current_.down), settings.lampFrame, settings.lampOff, settings.up,
+                     settings.down, x, mySize.height(), kLampDiameter, kLampSpacer, drawInWhite);
     x += kLampDiameter + insets.spacing;
 }
 
 void ImageNetworkBar::drawGraph(QPainter& painter, double& x) const
 {
-    const auto graphWidth = static_cast<double>(myDefaults.intValue(Network_GraphWidth));
-    const NetworkGraphStyle style{networkGraphKind(myDefaults.intValue(Network_Graph_Mode)),
-                                  networkLimenBytes(myDefaults), myDefaults.color(NetworkThemeKey::C01),
-                                  myDefaults.color(NetworkThemeKey::C02)};
+    const NetworkPictureSettings& settings = mySettings;
+    const double graphWidth = settings.graphWidth;
+    const NetworkGraphStyle style{settings.graphKind, settings.limen, settings.up, settings.down};
     // The graph's frame names its right edge: it draws leftwards from there, newest first.
     const QRectF frame(x + graphWidth, insets.top, graphWidth, mySize.height() - insets.top - insets.bottom);
     const double widthLeft = tvlDrawNetworkGraph(painter, resumeArray, style, frame, drawInWhite);
     if (widthLeft > 0 && drawEmptyLine)
-        tvlDrawEmptyUnderLine(painter, myDefaults.color(NetworkThemeKey::Z03), x, insets.top, widthLeft);
+        tvlDrawEmptyUnderLine(painter, settings.emptyLine, x, insets.top, widthLeft);
     x += graphWidth + insets.spacing;
 }
 
 void ImageNetworkBar::drawText(QPainter& painter, TextAttributes& attributes, double& x) const
 {
-    const double width = myDefaults.doubleValue(NetworkInnerTextWidth);
+    const NetworkPictureSettings& settings = mySettings;
+    const double width = settings.textWidth;
     const QRectF frame(x, 0, width, mySize.height());
-    const auto ajustPointY = static_cast<int>(myDefaults.intValue(_FontAdjust));
-    const bool bits = networkRatesInBits(myDefaults);
-    tvlDrawString(painter, networkRateText(current_.up, bits), 0, 2, myDefaults.color(NetworkThemeKey::C01), attributes,
-                  frame, ajustPointY, drawInWhite);
-    tvlDrawString(painter, networkRateText(current_.down, bits), 2, 2, myDefaults.color(NetworkThemeKey::C02),
-                  attributes, frame, ajustPointY, drawInWhite);
+    const int ajustPointY = settings.fontAdjust;
+    tvlDrawString(painter, networkRateText(current_.up, settings.bits), 0, 2, settings.up, attributes, frame,
+                  ajustPointY, drawInWhite);
+    tvlDrawString(painter, networkRateText(current_.down, settings.bits), 2, 2, settings.down, attributes, frame,
+                  ajustPointY, drawInWhite);
     x += width + insets.spacing;
 }

@@ -5,8 +5,8 @@
 
 #include "collect/history.h"
 #include "collect/network_sample.h"
+#include "modules/network/network_picture_settings.h"
 #include "modules/network/network_rates.h"
-#include "prefs/module_defaults.h"
 #include "toolkit/menu_geometry.h"
 #include "toolkit/text_attributes.h"
 
@@ -15,14 +15,14 @@
 #include <QSizeF>
 
 // Element codes of NetworkItemSortArray: 1 upload and download labels, 2 activity lamps, 3 graph,
-// 4 rate texts. Upload is drawn in C01 above download in C02.
-class ImageNetworkBar : public ImageBar<NetworkSample> {
+// 4 rate texts. Upload is drawn above download, each in its colour.
+class ImageNetworkBar : public ImageBar<NetworkSample, NetworkPictureSettings> {
 public:
     static constexpr double kLampDiameter = 7;
 
     // current: the rates the lamps and texts show.
     void redrawWithSize(QSizeF size, TvlClasses::Insets insets, bool isHighLighted, bool drawEmptyLine,
-                        const ModuleDefaults& myDefaults, const History<NetworkSample>& resumeArray,
+                        const NetworkPictureSettings& settings, const History<NetworkSample>& resumeArray,
                         const NetworkRates& current);
 
     double drawRect(QPainter& painter) const override;

@@ -2,36 +2,29 @@
 #include "modules/network/network_bar_width.h"
 
 #include "modules/network/image_network_bar.h"
-#include "prefs/pref_keys.h"
 #include "toolkit/menu_geometry.h"
 
-using namespace PrefKey;
-
-int networkShownElementCount(const ModuleDefaults& d)
+int networkShownElementCount(const NetworkPictureSettings& d)
 {
-    int shown = 0;
-    for (const char* key :
-         {Network_Display_UdLabel, Network_Display_UdCircle, Network_Display_Graph, Network_Display_Text})
-        shown += d.boolValue(key) ? 1 : 0;
-    return shown;
+    return shownElementCount(d.shownElements());
 }
 
-double networkBarWidth(const ModuleDefaults& d)
+double networkBarWidth(const NetworkPictureSettings& d)
 {
     const int shown = networkShownElementCount(d);
     if (shown == 0)
         return 0;
     const double s = TvlClasses::retStatusMenuInsets(shown).spacing;
     double width = 0;
-    if (d.boolValue(Network_Display_UdLabel))
-        width += d.doubleValue(NetworkInnerUdLabelWidth) + s;
-    if (d.boolValue(Network_Display_UdCircle))
+    if (d.udLabel)
+        width += d.udLabelWidth + s;
+    if (d.lamps)
         width += ImageNetworkBar::kLampDiameter + s;
-    if (d.boolValue(Network_Display_Graph))
-        width += static_cast<double>(d.intValue(Network_GraphWidth)) + s;
-    if (d.boolValue(Network_Display_Text))
-        width += d.doubleValue(NetworkInnerTextWidth) + s;
-    if (d.boolValue(Network_ShowMyLabel))
+    if (d.graph)
+        width += d.graphWidth + s;
+    if (d.text)
+        width += d.textWidth + s;
+    if (d.showLabel)
         width += 12;
     return width - s + 4;
 }

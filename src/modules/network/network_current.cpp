@@ -2,7 +2,6 @@
 #include "modules/network/network_current.h"
 
 #include "modules/network/network_rates.h"
-#include "modules/network/network_theme_keys.h"
 #include "modules/panel_labels.h"
 
 #include <QGridLayout>
@@ -34,15 +33,15 @@ Network_Current::Network_Current(QWidget* parent)
     grid->setColumnStretch(2, 1);
 }
 
-void Network_Current::replaceData(double seconds, const ModuleDefaults& myDefaults,
+void Network_Current::replaceData(double seconds, const NetworkPictureSettings& settings,
                                   const History<NetworkSample>& resumeArray)
 {
-    figures_ = networkPanelFigures(resumeArray, seconds, networkRatesInBits(myDefaults));
+    figures_ = networkPanelFigures(resumeArray, seconds, settings.bits);
     const QString* texts[4][2] = {{&figures_.nowUp, &figures_.nowDw},
                                   {&figures_.avgUp, &figures_.avgDw},
                                   {&figures_.peakUp, &figures_.peakDw},
                                   {&figures_.totalUp, &figures_.totalDw}};
-    const QColor colors[2] = {myDefaults.color(NetworkThemeKey::C01), myDefaults.color(NetworkThemeKey::C02)};
+    const QColor colors[2] = {settings.up, settings.down};
     for (std::size_t row = 0; row < cells_.size(); ++row) {
         for (std::size_t column = 0; column < 2; ++column) {
             QLabel* cell = cells_[row][column];

@@ -5,7 +5,7 @@
 #include "collect/history.h"
 #include "collect/network_sample.h"
 #include "modules/network/network_panel_rows.h"
-#include "prefs/module_defaults.h"
+#include "modules/network/network_picture_settings.h"
 
 #include <QWidget>
 
@@ -19,7 +19,7 @@ public:
     explicit Network_Current(QWidget* parent = nullptr);
 
     // seconds is what the newest sample covers.
-    void replaceData(double seconds, const ModuleDefaults& myDefaults, const History<NetworkSample>& resumeArray);
+    void replaceData(double seconds, const NetworkPictureSettings& settings, const History<NetworkSample>& resumeArray);
     void setLocation(const QString& location);
     // The machine's address as the internet sees it; empty until it has been looked up.
     void setGlobalAddress(const QString& address);

@@ -127,30 +127,31 @@ void Network_MenuModule::drawBaseStatusBar()
 
 void Network_MenuModule::refreshBar()
 {
-    if (myDefaults.isEmpty() || myDefaults.intList(NetworkItemSortArray).isEmpty() || !statusItem)
+    if (!settings_.barDrawable() || !statusItem)
         return;
     const double height = TvlClasses::retRootMenuHeight();
     const NetworkRates now = retNowUpDwBytes();
-    imageNetworkBar.redrawWithSize(QSizeF(networkBarWidth(myDefaults), height),
-                                   TvlClasses::retStatusMenuInsets(networkShownElementCount(myDefaults)), menuOpened(),
-                                   true, myDefaults, resumeArray, now);
+    imageNetworkBar.redrawWithSize(QSizeF(networkBarWidth(settings_.bar), height),
+                                   TvlClasses::retStatusMenuInsets(networkShownElementCount(settings_.bar)),
+                                   menuOpened(), true, settings_.bar, resumeArray, now);
     showImage(imageNetworkBar.image(pictureScale()));
     if (!resumeArray.empty())
-        statusItem->setText(networkBarText(now, networkRatesInBits(myDefaults)));
+        statusItem->setText(networkBarText(now, settings_.bar.bits));
 }
 
 void Network_MenuModule::prepareMenuOpening()
 {
+    settings_.keepForOpenMenu();
     if (myDelegate != nullptr)
         networkBaseDict = myDelegate->collector().networkBaseDict();
     lookUpNames();
 }
 
-QImage Network_MenuModule::drawMenuGraph(const ModuleDefaults& defaults)
+QImage Network_MenuModule::menuGraph(const NetworkPictureSettings& settings)
 {
-    imageNetworkMenu.redrawWithSize(
-        QSizeF(static_cast<double>(mnDefaults.intValue(Network_GraphWidth)), kMenuGraphHeight),
-        TvlClasses::retMenuPullDownInsets(), false, true, defaults, resumeArray, retNowUpDwBytes());
+    imageNetworkMenu.redrawWithSize(QSizeF(settings_.menu.graphWidth, kMenuGraphHeight),
+                                    TvlClasses::retMenuPullDownInsets(), false, true, settings, resumeArray,
+                                    retNowUpDwBytes());
     return imageNetworkMenu.image(pictureScale());
 }
 
@@ -159,9 +160,9 @@ void Network_MenuModule::redrawStatusItem()
     if (!menuOpened())
         return;
     if (menuGraph_ != nullptr)
-        menuGraph_->setPixmap(QPixmap::fromImage(drawMenuGraph(mnDefaultsTmp)));
+        menuGraph_->setPixmap(QPixmap::fromImage(menuGraph(settings_.openMenu)));
     if (networkCurrent != nullptr)
-        networkCurrent->replaceData(retNowInterval(), myDefaults, resumeArray);
+        networkCurrent->replaceData(retNowInterval(), settings_.bar, resumeArray);
     if (myDelegate != nullptr)
         networkBaseDict = myDelegate->collector().networkBaseDict();
     // The base is replaced, never changed, when an interface changes: a new one means new rows.
@@ -186,8 +187,7 @@ void Network_MenuModule::addtionalNicMenus()
     listedBase_ = networkBaseDict;
     if (statusMenu == nullptr || !networkBaseDict)
         return;
-    for (const NicRow& row :
-         networkInterfaceRows(*networkBaseDict, myDefaults.boolValue(Network_ShowAllNic), hostNames_)) {
+    for (const NicRow& row : networkInterfaceRows(*networkBaseDict, settings_.bar.showAllNic, hostNames_)) {
         auto* menu = new QMenu(row.title, statusMenu);
         for (const auto& [title, value] : row.lines) {
             // Choosing a line copies its value, an address most often.

@@ -6,6 +6,7 @@
 #include "collect/network_base.h"
 #include "collect/network_sample.h"
 #include "modules/menu_module.h"
+#include "modules/module_settings.h"
 #include "modules/network/image_network_bar.h"
 #include "modules/network/network_current.h"
 #include "modules/sample_arrivals.h"
@@ -52,13 +53,15 @@ protected:
     void drawBaseStatusBar() override;
     void redrawStatusItem() override;
     void prepareMenuOpening() override;
+    void settingsChanged() override { settings_.read(networkPictureSettings, myDefaults, withMenuLayout()); }
+    QImage drawMenuGraph() override { return menuGraph(settings_.menu); }
 
 private:
     static constexpr double kMenuGraphHeight = 20;
 
     // Seconds the newest sample covers.
     double retNowInterval() const;
-    QImage drawMenuGraph(const ModuleDefaults& defaults) override;
+    QImage menuGraph(const NetworkPictureSettings& settings);
     void removeNicMenus();
     void addtionalNicMenus();
     void lookUpNames();
@@ -71,6 +74,7 @@ private:
     QList<QMenu*> nicMenus_;
     History<NetworkSample> resumeArray;
     SampleArrivals arrivals_;
+    ModuleSettings<NetworkPictureSettings> settings_;
     std::shared_ptr<const NetworkBase> networkBaseDict;
     std::shared_ptr<const NetworkBase> listedBase_;
     QHash<QString, QString> hostNames_;

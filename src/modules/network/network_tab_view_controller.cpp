@@ -79,14 +79,14 @@ void NetworkTabViewController::setLiveHistory(const InfoDict& info)
 
 void NetworkTabViewController::redrawPreview()
 {
-    const ModuleDefaults defaults = previewDefaults();
+    const NetworkPictureSettings settings = networkPictureSettings(previewDefaults());
     // Before the first sample: the elements idle, as the bar would show them.
     const History<NetworkSample> history =
         history_.empty() ? History<NetworkSample>().appended(NetworkSample{}) : history_;
     const double height = TvlClasses::retRootMenuHeight();
     ImageNetworkBar bar;
-    bar.redrawWithSize(QSizeF(networkBarWidth(defaults), height),
-                       TvlClasses::retStatusMenuInsets(networkShownElementCount(defaults)), false, true, defaults,
+    bar.redrawWithSize(QSizeF(networkBarWidth(settings), height),
+                       TvlClasses::retStatusMenuInsets(networkShownElementCount(settings)), false, true, settings,
                        history, currentNetworkRates(history, history.back().interval));
     showPreview(bar.image(devicePixelRatioF() * PicturePreview::zoom()));
 }

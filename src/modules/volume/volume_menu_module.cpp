@@ -1,42 +1,21 @@
 // The Volume status item: width rule, picture, in-menu graph, volume blocks, open and eject.
 #include "modules/volume/volume_menu_module.h"
 
-#include "modules/disk/disk_utility.h"
 #include "modules/module_descriptor.h"
-#include "modules/standard_menu_items.h"
 #include "modules/volume/volume_bar_width.h"
 #include "modules/volume/volume_menu_rows.h"
-#include "modules/volume/volume_theme_keys.h"
 #include "prefs/pref_keys.h"
 #include "toolkit/localization.h"
-#include "toolkit/menu_geometry.h"
 
 #include <QAction>
 #include <QDesktopServices>
-#include <QIcon>
-#include <QLabel>
 #include <QMenu>
 #include <QMessageBox>
 #include <QUrl>
-#include <QWidgetAction>
-
-#include <algorithm>
 
 using namespace PrefKey;
 
 namespace {
-
-constexpr qint64 kMenuGraphWidth = 400;
-
-QIcon themeIcon(const ModuleDefaults& defaults, const char* key)
-{
-    const ThemePicture picture = defaults.picture(QLatin1String(key));
-    if (picture.image.isNull())
-        return {};
-    QImage image = picture.image;
-    image.setDevicePixelRatio(image.width() / std::max(1.0, picture.size.width()));
-    return QIcon(QPixmap::fromImage(image));
-}
 
 QString quoted(const char* key, const QString& name)
 {
@@ -46,7 +25,7 @@ QString quoted(const char* key, const QString& name)
 } // namespace
 
 Volume_MenuModule::Volume_MenuModule(MenuModuleDelegate* delegate, QObject* parent)
-    : MenuModule(delegate, ModuleId::Volume, parent)
+    : VolumeMenuModuleBase(delegate, ModuleId::Volume, parent)
     , ejector_(new VolumeEjector(this))
     , volumeBaseDict_(std::make_shared<const VolumeBaseDict>())
 {
@@ -78,26 +57,11 @@ void Volume_MenuModule::setVolumeBaseDict(std::shared_ptr<const VolumeBaseDict> 
 
 void Volume_MenuModule::drawBaseStatusBar()
 {
-    statusMenu->clear();
-    GeneralFunctions::addStandardMenuItems(statusMenu, myDefaults, myDefaults.boolValue(Volume_EnaMenu_Amon),
-                                           myDefaults.boolValue(Volume_EnaMenu_Cnsl),
-                                           myDefaults.boolValue(Volume_EnaMenu_Tmnl), [this] { openTab(); });
-    if (DiskUtility::find()) {
-        QAction* utility = statusMenu->addAction(themeIcon(myDefaults, "O31"), localized("Open Disk Utility"));
-        connect(utility, &QAction::triggered, this, [] { DiskUtility::launch(); });
-    }
-    statusMenu->addSeparator();
-    auto* graphAction = new QWidgetAction(statusMenu);
-    menuGraph_ = new QLabel();
-    menuGraph_->setFixedSize(static_cast<int>(kMenuGraphWidth), static_cast<int>(kMenuGraphHeight));
-    graphAction->setDefaultWidget(menuGraph_);
-    statusMenu->addAction(graphAction);
-
-    auto* panelAction = new QWidgetAction(statusMenu);
-    volumeMenuController = new Volume_MenuController();
-    volumeMenuController->loadBaseData(myDefaults, *volumeBaseDict_);
-    panelAction->setDefaultWidget(volumeMenuController);
-    statusMenu->addAction(panelAction);
+    addBaseItems(Volume_EnaMenu_Amon, Volume_EnaMenu_Cnsl, Volume_EnaMenu_Tmnl,
+                 settings_.bar.pictures[StoragePicture::MenuInternal]);
+    panel_ = new Volume_MenuController();
+    panel_->loadBaseData(settings_.bar.pictures, *volumeBaseDict_);
+    addPanel(panel_);
     addVolumeItems();
     menuItemRefresh = false;
     redrawStatusItem();
@@ -109,8 +73,8 @@ void Volume_MenuModule::addVolumeItems()
         return;
     statusMenu->addSeparator();
     // Items, not buttons in the panel: choosing one closes the menu before any dialog shows.
-    const QIcon open = themeIcon(myDefaults, VolumeThemeKey::M12);
-    const QIcon eject = themeIcon(myDefaults, VolumeThemeKey::M11);
+    const QIcon open = storageMenuIcon(settings_.bar.openIcon);
+    const QIcon eject = storageMenuIcon(settings_.bar.ejectIcon);
     for (const auto& [path, volume] : *volumeBaseDict_) {
         QAction* item = statusMenu->addAction(open, quoted("Open \"%@\"", volume.volumeName));
         item->setData(path);
@@ -136,39 +100,10 @@ void Volume_MenuModule::ejectFinished(const QString& path, bool ejected, const Q
 
 void Volume_MenuModule::refreshBar()
 {
-    if (myDefaults.isEmpty() || myDefaults.intList(VlmsItemSortArray).isEmpty() || !statusItem)
+    if (!settings_.barDrawable() || !statusItem)
         return;
-    const std::vector<VolumeBarSet> sets = volumeBarSets(myDefaults, *volumeBaseDict_);
-    const double height = TvlClasses::retRootMenuHeight();
-    const double width = volumeBarWidth(myDefaults, sets.size(), height);
-    imageVolumeBar.redrawWithSize(QSizeF(width, height),
-                                  TvlClasses::retStatusMenuInsets(volumeShownElementCount(myDefaults)), menuOpened(),
-                                  true, myDefaults, resumeArray, sets);
-    showImage(imageVolumeBar.image(pictureScale()));
-    statusItem->setText(
-        volumeBarText(sets, *volumeBaseDict_, resumeArray, volumePercentKind(myDefaults.intValue(Vlms_Percent_Mode))));
-}
-
-void Volume_MenuModule::resetAndRefreshBar()
-{
-    refreshBar();
-}
-
-QImage Volume_MenuModule::drawMenuGraph(const ModuleDefaults& defaults)
-{
-    imageVolumeMenu.redrawWithSize(QSizeF(static_cast<double>(kMenuGraphWidth), kMenuGraphHeight),
-                                   TvlClasses::retMenuPullDownInsets(), false, true, defaults, resumeArray,
-                                   volumeBarSets(defaults, {}));
-    return imageVolumeMenu.image(pictureScale());
-}
-
-void Volume_MenuModule::redrawStatusItem()
-{
-    // The graph and the figures are drawn only for a menu that is shown.
-    if (!menuOpened())
-        return;
-    if (menuGraph_ != nullptr)
-        menuGraph_->setPixmap(QPixmap::fromImage(drawMenuGraph(mnDefaultsTmp)));
-    if (volumeMenuController != nullptr)
-        volumeMenuController->replaceData(resumeArray);
+    const std::vector<StorageBarSet> sets = volumeBarSets(settings_.bar, *volumeBaseDict_);
+    showPicture(sets, volumeBarWidth(settings_.bar, sets.size(), TvlClasses::retRootMenuHeight()),
+                volumeShownElementCount(settings_.bar),
+                volumeBarText(sets, *volumeBaseDict_, resumeArray, settings_.bar.percentKind));
 }

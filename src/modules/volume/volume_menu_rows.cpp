@@ -28,19 +28,19 @@ QString volumeUsageText(const VolumeUsage& usage)
            QLatin1Char(' ') + TvlClasses::calcDiskSize(usage.total);
 }
 
-QString volumeBarText(const std::vector<VolumeBarSet>& sets, const VolumeBaseDict& volumeBaseDict,
+QString volumeBarText(const std::vector<StorageBarSet>& sets, const VolumeBaseDict& volumeBaseDict,
                       const History<VolumeSample>& history, VolumePercentKind kind)
 {
     static const VolumeSample noSample;
     const VolumeSample& newest = history.empty() ? noSample : history.back();
     const QString share = kind == VolumePercentKind::Free ? QStringLiteral(" free") : QStringLiteral(" used");
     QStringList parts;
-    for (const VolumeBarSet& set : sets) {
-        const VolumeUsage usage = volumeUsageOf(newest, set.path);
+    for (const StorageBarSet& set : sets) {
+        const VolumeUsage usage = volumeUsageOf(newest, set.key);
         // Not measured yet (just mounted): no figure rather than a false 0%.
         QString part =
             usage.total > 0 ? TvlClasses::calcPercent(shownFraction(usage, kind)) + share : QStringLiteral("--");
-        if (const auto volume = volumeBaseDict.find(set.path); volume != volumeBaseDict.end())
+        if (const auto volume = volumeBaseDict.find(set.key); volume != volumeBaseDict.end())
             part.prepend(volume->second.volumeName + QLatin1Char(' '));
         parts << part;
     }

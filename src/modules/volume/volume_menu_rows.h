@@ -21,5 +21,5 @@ QString volumeUsageText(const VolumeUsage& usage);
 
 // The menu bar's figures as words, per set: "Root 45% used", or "Root --" before the volume is
 // measured; sets apart by " | ". The combined set has no name.
-QString volumeBarText(const std::vector<VolumeBarSet>& sets, const VolumeBaseDict& volumeBaseDict,
+QString volumeBarText(const std::vector<StorageBarSet>& sets, const VolumeBaseDict& volumeBaseDict,
                       const History<VolumeSample>& history, VolumePercentKind kind);

@@ -81,12 +81,10 @@ QString volumeSnapshotText(const SnapshotContext& context)
 {
     const VolumeBaseDict& volumes = context.volumes;
     const History<VolumeSample> history = context.info.history<VolumeSample>(context.slot);
-    const ModuleDefaults& settings = context.settings;
-    const std::vector<VolumeBarSet> sets = volumeBarSets(settings, volumes);
-    QString out =
-        QStringLiteral("Volume\n  bar    ") +
-        volumeBarText(sets, volumes, history, volumePercentKind(settings.intValue(PrefKey::Vlms_Percent_Mode))) +
-        QLatin1Char('\n');
+    const VolumePictureSettings settings = volumePictureSettings(context.settings);
+    const std::vector<StorageBarSet> sets = volumeBarSets(settings, volumes);
+    QString out = QStringLiteral("Volume\n  bar    ") + volumeBarText(sets, volumes, history, settings.percentKind) +
+                  QLatin1Char('\n');
     static const VolumeSample noSample;
     const VolumeSample& newest = history.empty() ? noSample : history.back();
     for (const auto& [path, volume] : volumes)

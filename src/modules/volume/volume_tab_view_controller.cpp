@@ -97,12 +97,12 @@ void VolumeTabViewController::loadViews()
 
 void VolumeTabViewController::redrawPreview()
 {
-    const ModuleDefaults defaults = previewDefaults();
-    const std::vector<VolumeBarSet> sets = volumeBarSets(defaults, *volumeBaseDict_);
+    const VolumePictureSettings settings = volumePictureSettings(previewDefaults());
+    const std::vector<StorageBarSet> sets = volumeBarSets(settings, *volumeBaseDict_);
     const double height = TvlClasses::retRootMenuHeight();
     ImageVolumeBar bar;
-    bar.redrawWithSize(QSizeF(volumeBarWidth(defaults, sets.size(), height), height),
-                       TvlClasses::retStatusMenuInsets(volumeShownElementCount(defaults)), false, true, defaults,
+    bar.redrawWithSize(QSizeF(volumeBarWidth(settings, sets.size(), height), height),
+                       TvlClasses::retStatusMenuInsets(volumeShownElementCount(settings)), false, true, settings,
                        history_, sets);
     showPreview(bar.image(devicePixelRatioF() * PicturePreview::zoom()));
 }

@@ -1,5 +1,5 @@
 // Module settings by module: the registry's schema handed to the schema operations.
-#include "modules/module_settings.h"
+#include "modules/module_prefs.h"
 
 #include "modules/module_registry.h"
 #include "prefs/pref_functions.h"

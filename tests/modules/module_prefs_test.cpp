@@ -1,6 +1,6 @@
 // Every module's settings: first-run values, working dictionaries, launch flags, repairs.
 #include "modules/module_registry.h"
-#include "modules/module_settings.h"
+#include "modules/module_prefs.h"
 #include "prefs/plist_settings_store.h"
 #include "prefs/pref_functions.h"
 #include "prefs/pref_keys.h"
