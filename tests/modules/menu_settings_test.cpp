@@ -15,7 +15,7 @@ namespace {
 class CountingModule final : public MenuModule {
 public:
     CountingModule()
-        : MenuModule(nullptr, 0)
+        : MenuModule(nullptr, ModuleId::General)
     {}
     void refreshBar() override {}
     int reads = 0;

@@ -27,6 +27,38 @@ NetworkGraphKind networkGraphKind(qint64 storedMode)
     return storedMode >= 1 && storedMode <= 5 ? static_cast<NetworkGraphKind>(storedMode) : NetworkGraphKind::Default;
 }
 
+namespace {
+
+// One column of the column kinds, u and d the up and down shares of the height h.
+void drawNetworkColumn(QPainter& painter, NetworkGraphKind kind, QPointF at, double h, double u, double d,
+                       const QColor& up, const QColor& down)
+{
+    const double x = at.x();
+    const double y = at.y();
+    switch (kind) {
+    case NetworkGraphKind::Opposed:
+        fillColumn(painter, x, y, d * h, down);
+        fillColumn(painter, x, y + h - u * h, u * h, up);
+        break;
+    case NetworkGraphKind::Centered:
+        fillColumn(painter, x, y + h / 2, u * h / 2, up);
+        fillColumn(painter, x, y + h / 2 - d * h / 2, d * h / 2, down);
+        break;
+    default:
+        // The larger behind, so that both stay visible.
+        if (u > d) {
+            fillColumn(painter, x, y, u * h, up);
+            fillColumn(painter, x, y, d * h, down);
+        } else {
+            fillColumn(painter, x, y, d * h, down);
+            fillColumn(painter, x, y, u * h, up);
+        }
+        break;
+    }
+}
+
+} // namespace
+
 double tvlDrawNetworkGraph(QPainter& painter, const History<NetworkSample>& history, const NetworkGraphStyle& style,
                            QRectF frame, bool drawInWhite)
 {
@@ -42,6 +74,7 @@ double tvlDrawNetworkGraph(QPainter& painter, const History<NetworkSample>& hist
     const QColor up = TvlClasses::drawingColor(style.up, drawInWhite);
     const QColor down = TvlClasses::drawingColor(style.down, drawInWhite);
     const bool lines = style.kind == NetworkGraphKind::Line || style.kind == NetworkGraphKind::HeavyLine;
+    const bool bold = style.kind == NetworkGraphKind::HeavyLine;
     const double h = frame.height();
     painter.save();
     painter.setRenderHint(QPainter::Antialiasing, lines);
@@ -51,40 +84,17 @@ double tvlDrawNetworkGraph(QPainter& painter, const History<NetworkSample>& hist
         const NetworkRates r = sampleRates(history, history.size() - 1 - n);
         const double u = aboveLimen(r.up, style.limen) / scale;
         const double d = aboveLimen(r.down, style.limen) / scale;
-        const double x = frame.x();
-        const double y = frame.y();
-        switch (style.kind) {
-        case NetworkGraphKind::Default:
-            // The larger behind, so that both stay visible.
-            if (u > d) {
-                fillColumn(painter, x, y, u * h, up);
-                fillColumn(painter, x, y, d * h, down);
-            } else {
-                fillColumn(painter, x, y, d * h, down);
-                fillColumn(painter, x, y, u * h, up);
-            }
-            break;
-        case NetworkGraphKind::Opposed:
-            fillColumn(painter, x, y, d * h, down);
-            fillColumn(painter, x, y + h - u * h, u * h, up);
-            break;
-        case NetworkGraphKind::Centered:
-            fillColumn(painter, x, y + h / 2, u * h / 2, up);
-            fillColumn(painter, x, y + h / 2 - d * h / 2, d * h / 2, down);
-            break;
-        case NetworkGraphKind::Line:
-        case NetworkGraphKind::HeavyLine: {
-            const bool bold = style.kind == NetworkGraphKind::HeavyLine;
+        if (!lines) {
+            drawNetworkColumn(painter, style.kind, frame.topLeft(), h, u, d, up, down);
+        } else {
             if (previousDown > -1) {
                 painter.setPen(down);
-                TvlClasses::tvlDrawGraphWithLine(painter, previousDown, d * h, x, y + 0.5, bold);
+                TvlClasses::tvlDrawGraphWithLine(painter, previousDown, d * h, frame.x(), frame.y() + 0.5, bold);
                 painter.setPen(up);
-                TvlClasses::tvlDrawGraphWithLine(painter, previousUp, u * h, x, y + 0.5, bold);
+                TvlClasses::tvlDrawGraphWithLine(painter, previousUp, u * h, frame.x(), frame.y() + 0.5, bold);
             }
             previousUp = u * h;
             previousDown = d * h;
-            break;
-        }
         }
         frame.translate(-1, 0);
         frame.setWidth(frame.width() - 1);
