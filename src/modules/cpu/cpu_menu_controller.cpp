@@ -11,7 +11,6 @@
 #include "toolkit/localization.h"
 
 #include <QDesktopServices>
-#include <QFontDatabase>
 #include <QGraphicsOpacityEffect>
 #include <QGridLayout>
 #include <QLabel>
@@ -25,24 +24,6 @@ namespace {
 constexpr const char* kShareNames[] = {"User", "System", "Nice", "Idle"};
 constexpr const char* kVirtualMachine = "(Probably VM)";
 constexpr const char* kDefaultSearchAddress = "https://duckduckgo.com/";
-
-// Figures in fixed-width digits, so they do not jitter as they change.
-QLabel* figureLabel(QWidget* parent, Qt::Alignment alignment)
-{
-    auto* label = new QLabel(parent);
-    QFont font = QFontDatabase::systemFont(QFontDatabase::FixedFont);
-    font.setPointSizeF(parent->font().pointSizeF());
-    label->setFont(font);
-    label->setAlignment(alignment | Qt::AlignVCenter);
-    return label;
-}
-
-QLabel* titleLabel(QWidget* parent, const char* key)
-{
-    auto* label = new QLabel(localized(key), parent);
-    label->setForegroundRole(QPalette::PlaceholderText);
-    return label;
-}
 
 void setOpacity(QWidget* widget, double opacity)
 {
@@ -75,7 +56,7 @@ CPU_MenuController::CPU_MenuController(LoadSystemInformation& loadInfo, Settings
         swatches_[s] = new QLabel(this);
         grid->addWidget(swatches_[s], row, 0);
         grid->addWidget(new QLabel(localized(kShareNames[s]), this), row, 1);
-        shareLabels_[s] = figureLabel(this, Qt::AlignRight);
+        shareLabels_[s] = PanelLabels::figure(this, Qt::AlignRight);
         grid->addWidget(shareLabels_[s], row++, 2);
     }
 
@@ -86,7 +67,7 @@ CPU_MenuController::CPU_MenuController(LoadSystemInformation& loadInfo, Settings
     machinImage = new QLabel(this);
     grid->addWidget(machinImage, row, 0);
     grid->addWidget(machinNameButton, row++, 1, 1, 2);
-    grid->addWidget(titleLabel(this, "Cpu Type"), row, 0, 1, 2);
+    grid->addWidget(PanelLabels::title(this, "Cpu Type"), row, 0, 1, 2);
     cpuKindLabel = new QLabel(this);
     grid->addWidget(cpuKindLabel, row++, 2);
     for (QLabel*& gpu : gpuLabels_) {
@@ -97,14 +78,14 @@ CPU_MenuController::CPU_MenuController(LoadSystemInformation& loadInfo, Settings
     const char* titles[] = {"Uptime Boot/Actv", nullptr, "Scheduling Stat", "Load Average", "Host Name"};
     for (std::size_t line = 0; line < optionLabels_.size(); ++line) {
         if (titles[line] != nullptr)
-            grid->addWidget(titleLabel(this, titles[line]), row, 0, 1, 2);
-        optionLabels_[line] = line < 2 ? figureLabel(this, Qt::AlignLeft) : new QLabel(this);
+            grid->addWidget(PanelLabels::title(this, titles[line]), row, 0, 1, 2);
+        optionLabels_[line] = line < 2 ? PanelLabels::figure(this, Qt::AlignLeft) : new QLabel(this);
         grid->addWidget(optionLabels_[line], row++, 2);
     }
 
     processNameLabel = new QLabel(this);
     processNameLabel->setForegroundRole(QPalette::PlaceholderText);
-    processPerLabel = figureLabel(this, Qt::AlignRight);
+    processPerLabel = PanelLabels::figure(this, Qt::AlignRight);
     processPerLabel->setAlignment(Qt::AlignRight | Qt::AlignTop);
     processNameLabel->setAlignment(Qt::AlignLeft | Qt::AlignTop);
     grid->addWidget(processNameLabel, row, 0, 1, 2);

@@ -4,7 +4,6 @@
 
 #include "modules/cpu/cpu_bar_width.h"
 #include "modules/cpu/image_cpu_bar.h"
-#include "modules/module_descriptor.h"
 #include "preferences/picture_preview.h"
 #include "prefs/pref_keys.h"
 #include "toolkit/localization.h"
@@ -20,7 +19,7 @@
 using namespace PrefKey;
 
 CpuTabViewController::CpuTabViewController(SettingsStore& store, PrefNotificationCenter& center, QWidget* parent)
-    : PictureSettingsTab(ModuleId::Cpu,
+    : SampledPictureTab(ModuleId::Cpu,
                          {{1, Cpu_Display_Graph, "Graph"},
                           {2, Cpu_Display_LevelBar, "Level bar"},
                           {3, Cpu_Display_CircleMeter, "Cycle meter"},
@@ -48,27 +47,16 @@ QWidget* CpuTabViewController::buildDisplay()
 
 void CpuTabViewController::loadViews()
 {
-    loadControls();
     boldLine_->setEnabled(myDefaults().boolValue(CPU_GraphAsLine));
-    redrawPreview();
-}
-
-void CpuTabViewController::setLiveHistory(const InfoDict& info)
-{
-    const History<CpuSample> history = moduleHistory<CpuSample>(info, ModuleId::Cpu);
-    if (history.empty() || history.back().empty())
-        return;
-    history_ = history;
-    redrawPreview();
+    SampledPictureTab::loadViews();
 }
 
 void CpuTabViewController::redrawPreview()
 {
     const ModuleDefaults defaults = previewDefaults();
-    History<CpuSample> history = history_;
-    if (history.empty()) // before the first sample: the elements at 0%, as the bar shows them
-        history = History<CpuSample>().appended(
-            zeroCpuSample(static_cast<std::size_t>(std::max(1, QThread::idealThreadCount()))));
+    // Before the first sample: every processor of this machine at 0%, as the bar shows them.
+    const History<CpuSample> history =
+        previewHistory(zeroCpuSample(static_cast<std::size_t>(std::max(1, QThread::idealThreadCount()))));
     const std::size_t cores = history.back().size() - 1;
     const double height = TvlClasses::retRootMenuHeight();
     const CpuPictureSettings settings = cpuPictureSettings(defaults);

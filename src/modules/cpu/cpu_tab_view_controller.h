@@ -3,17 +3,15 @@
 #pragma once
 
 #include "collect/cpu_sample.h"
-#include "collect/history.h"
-#include "modules/picture_settings_tab.h"
+#include "modules/sampled_picture_tab.h"
 
 class QCheckBox;
 
-class CpuTabViewController : public PictureSettingsTab {
+class CpuTabViewController : public SampledPictureTab<CpuSample> {
     Q_OBJECT
 public:
     CpuTabViewController(SettingsStore& store, PrefNotificationCenter& center, QWidget* parent = nullptr);
 
-    void setLiveHistory(const InfoDict& info) override;
 
 protected:
     void loadViews() override;
@@ -23,5 +21,4 @@ private:
     QWidget* buildDisplay();
 
     QCheckBox* boldLine_ = nullptr;
-    History<CpuSample> history_;
 };

@@ -4,7 +4,6 @@
 
 #include "modules/disk/disk_bar_width.h"
 #include "modules/disk/image_disk_bar.h"
-#include "modules/module_descriptor.h"
 #include "preferences/picture_preview.h"
 #include "prefs/pref_keys.h"
 #include "toolkit/label_lists.h"
@@ -39,7 +38,7 @@ const QList<PictureSettingsTab::Element>& DiskTabViewController::elements()
 }
 
 DiskTabViewController::DiskTabViewController(SettingsStore& store, PrefNotificationCenter& center, QWidget* parent)
-    : PictureSettingsTab(ModuleId::Disk, elements(), DiskItemSortArray, store, center, parent)
+    : SampledPictureTab(ModuleId::Disk, elements(), DiskItemSortArray, store, center, parent)
 {
     buildFrame("DiskPreview", buildDisplay(), buildMenuItems(Disk_EnaMenu_Amon, Disk_EnaMenu_Cnsl, Disk_EnaMenu_Tmnl));
     redrawPreview();
@@ -66,24 +65,9 @@ QWidget* DiskTabViewController::buildDisplay()
     return box;
 }
 
-void DiskTabViewController::setLiveHistory(const InfoDict& info)
-{
-    const History<DiskSample> history = moduleHistory<DiskSample>(info, ModuleId::Disk);
-    if (history.empty())
-        return;
-    history_ = history;
-    redrawPreview();
-}
-
 void DiskTabViewController::setDiskBaseDict(const DiskBaseDict& diskBaseDict)
 {
     diskBaseDict_ = diskBaseDict;
-    redrawPreview();
-}
-
-void DiskTabViewController::loadViews()
-{
-    loadControls();
     redrawPreview();
 }
 
@@ -95,6 +79,6 @@ void DiskTabViewController::redrawPreview()
     ImageDiskBar bar;
     bar.redrawWithSize(QSizeF(diskBarWidth(settings, sets.size()), height),
                        TvlClasses::retStatusMenuInsets(diskShownElementCount(settings)), false, true, settings,
-                       history_, sets);
+                       liveHistory(), sets);
     showPreview(bar.image(devicePixelRatioF() * PicturePreview::zoom()));
 }

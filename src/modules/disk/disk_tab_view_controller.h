@@ -3,11 +3,10 @@
 #pragma once
 
 #include "collect/disk_sample.h"
-#include "collect/history.h"
 #include "collect/storage_descriptions.h"
-#include "modules/picture_settings_tab.h"
+#include "modules/sampled_picture_tab.h"
 
-class DiskTabViewController : public PictureSettingsTab {
+class DiskTabViewController : public SampledPictureTab<DiskSample> {
     Q_OBJECT
 public:
     DiskTabViewController(SettingsStore& store, PrefNotificationCenter& center, QWidget* parent = nullptr);
@@ -15,7 +14,6 @@ public:
     // The elements in the list: lamps 1, graph 2, text 3.
     static const QList<Element>& elements();
 
-    void setLiveHistory(const InfoDict& info) override;
     // The disks the preview draws one set for, as the status item does.
     void setDiskBaseDict(const DiskBaseDict& diskBaseDict);
     void setStorageDescriptions(const DiskBaseDict& disks, std::shared_ptr<const VolumeBaseDict> volumes) override
@@ -25,12 +23,10 @@ public:
     }
 
 protected:
-    void loadViews() override;
     void redrawPreview() override;
 
 private:
     QWidget* buildDisplay();
 
-    History<DiskSample> history_;
     DiskBaseDict diskBaseDict_;
 };

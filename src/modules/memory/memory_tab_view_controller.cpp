@@ -6,7 +6,6 @@
 #include "modules/memory/image_memory_bar.h"
 #include "modules/memory/memory_bar_width.h"
 #include "modules/menu_module.h"
-#include "modules/module_descriptor.h"
 #include "preferences/picture_preview.h"
 #include "prefs/pref_keys.h"
 #include "toolkit/label_lists.h"
@@ -22,7 +21,7 @@ using namespace PrefKey;
 
 MemoryTabViewController::MemoryTabViewController(MenuModuleDelegate* delegate, SettingsStore& store,
                                                  PrefNotificationCenter& center, QWidget* parent)
-    : PictureSettingsTab(ModuleId::Memory,
+    : SampledPictureTab(ModuleId::Memory,
                          {{1, Memory_Display_Graph, "Graph"},
                           {2, Memory_Display_LevelBar, "Level bar"},
                           {3, Memory_Display_CircleMeter, "Cycle meter"},
@@ -57,27 +56,11 @@ QWidget* MemoryTabViewController::buildDisplay()
     return box;
 }
 
-void MemoryTabViewController::loadViews()
-{
-    loadControls();
-    redrawPreview();
-}
-
-void MemoryTabViewController::setLiveHistory(const InfoDict& info)
-{
-    const History<MemorySample> history = moduleHistory<MemorySample>(info, ModuleId::Memory);
-    if (history.empty())
-        return;
-    history_ = history;
-    redrawPreview();
-}
-
 void MemoryTabViewController::redrawPreview()
 {
     const MemoryPictureSettings settings = memoryPictureSettings(previewDefaults());
     // Before the first sample: the elements empty and the figures at 0, as the bar would show them.
-    const History<MemorySample> history =
-        history_.empty() ? History<MemorySample>().appended(MemorySample{}) : history_;
+    const History<MemorySample> history = previewHistory(MemorySample{});
     std::size_t pageSize = 4096;
     std::int64_t totalPages = 0;
     if (delegate_ != nullptr) {

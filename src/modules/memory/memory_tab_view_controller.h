@@ -2,13 +2,12 @@
 // labels, menu items and a live preview of the picture.
 #pragma once
 
-#include "collect/history.h"
 #include "collect/memory_sample.h"
-#include "modules/picture_settings_tab.h"
+#include "modules/sampled_picture_tab.h"
 
 class MenuModuleDelegate;
 
-class MemoryTabViewController : public PictureSettingsTab {
+class MemoryTabViewController : public SampledPictureTab<MemorySample> {
     Q_OBJECT
 public:
     // The delegate lends the collector's page size and memory total for the preview; without
@@ -16,15 +15,12 @@ public:
     MemoryTabViewController(MenuModuleDelegate* delegate, SettingsStore& store, PrefNotificationCenter& center,
                             QWidget* parent = nullptr);
 
-    void setLiveHistory(const InfoDict& info) override;
 
 protected:
-    void loadViews() override;
     void redrawPreview() override;
 
 private:
     QWidget* buildDisplay();
 
     MenuModuleDelegate* delegate_;
-    History<MemorySample> history_;
 };

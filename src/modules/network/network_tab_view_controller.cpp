@@ -4,7 +4,6 @@
 
 #include "modules/network/image_network_bar.h"
 #include "modules/network/network_bar_width.h"
-#include "modules/module_descriptor.h"
 #include "preferences/picture_preview.h"
 #include "prefs/pref_keys.h"
 #include "toolkit/label_lists.h"
@@ -24,7 +23,7 @@ using namespace PrefKey;
 
 NetworkTabViewController::NetworkTabViewController(SettingsStore& store, PrefNotificationCenter& center,
                                                    QWidget* parent)
-    : PictureSettingsTab(ModuleId::Network,
+    : SampledPictureTab(ModuleId::Network,
                          {{1, Network_Display_UdLabel, "Upload and download labels"},
                           {2, Network_Display_UdCircle, "Activity lamps"},
                           {3, Network_Display_Graph, "Graph"},
@@ -62,27 +61,11 @@ QWidget* NetworkTabViewController::buildDisplay()
     return box;
 }
 
-void NetworkTabViewController::loadViews()
-{
-    loadControls();
-    redrawPreview();
-}
-
-void NetworkTabViewController::setLiveHistory(const InfoDict& info)
-{
-    const History<NetworkSample> history = moduleHistory<NetworkSample>(info, ModuleId::Network);
-    if (history.empty())
-        return;
-    history_ = history;
-    redrawPreview();
-}
-
 void NetworkTabViewController::redrawPreview()
 {
     const NetworkPictureSettings settings = networkPictureSettings(previewDefaults());
     // Before the first sample: the elements idle, as the bar would show them.
-    const History<NetworkSample> history =
-        history_.empty() ? History<NetworkSample>().appended(NetworkSample{}) : history_;
+    const History<NetworkSample> history = previewHistory(NetworkSample{});
     const double height = TvlClasses::retRootMenuHeight();
     ImageNetworkBar bar;
     bar.redrawWithSize(QSizeF(networkBarWidth(settings), height),

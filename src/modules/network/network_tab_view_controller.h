@@ -2,11 +2,10 @@
 // labels, graph style, unit, interface list, menu items and a live preview of the picture.
 #pragma once
 
-#include "collect/history.h"
 #include "collect/network_sample.h"
-#include "modules/picture_settings_tab.h"
+#include "modules/sampled_picture_tab.h"
 
-class NetworkTabViewController : public PictureSettingsTab {
+class NetworkTabViewController : public SampledPictureTab<NetworkSample> {
     Q_OBJECT
 public:
     // KB/s; 0 counts any traffic.
@@ -15,15 +14,12 @@ public:
 
     NetworkTabViewController(SettingsStore& store, PrefNotificationCenter& center, QWidget* parent = nullptr);
 
-    void setLiveHistory(const InfoDict& info) override;
 
 protected:
-    void loadViews() override;
     void redrawPreview() override;
     // A new label pair brings its own width, as the settings loader would derive it.
 
 private:
     QWidget* buildDisplay();
 
-    History<NetworkSample> history_;
 };

@@ -4,7 +4,6 @@
 
 #include "modules/volume/image_volume_bar.h"
 #include "modules/volume/volume_bar_width.h"
-#include "modules/module_descriptor.h"
 #include "preferences/picture_preview.h"
 #include "prefs/pref_keys.h"
 #include "toolkit/label_lists.h"
@@ -41,7 +40,7 @@ const QList<PictureSettingsTab::Element>& VolumeTabViewController::elements()
 }
 
 VolumeTabViewController::VolumeTabViewController(SettingsStore& store, PrefNotificationCenter& center, QWidget* parent)
-    : PictureSettingsTab(ModuleId::Volume, elements(), VlmsItemSortArray, store, center, parent)
+    : SampledPictureTab(ModuleId::Volume, elements(), VlmsItemSortArray, store, center, parent)
     , volumeBaseDict_(std::make_shared<const VolumeBaseDict>())
 {
     buildFrame("VolumePreview", buildDisplay(),
@@ -73,25 +72,10 @@ QWidget* VolumeTabViewController::buildDisplay()
     return box;
 }
 
-void VolumeTabViewController::setLiveHistory(const InfoDict& info)
-{
-    const History<VolumeSample> history = moduleHistory<VolumeSample>(info, ModuleId::Volume);
-    if (history.empty())
-        return;
-    history_ = history;
-    redrawPreview();
-}
-
 void VolumeTabViewController::setVolumeBaseDict(std::shared_ptr<const VolumeBaseDict> volumeBaseDict)
 {
     if (volumeBaseDict)
         volumeBaseDict_ = std::move(volumeBaseDict);
-    redrawPreview();
-}
-
-void VolumeTabViewController::loadViews()
-{
-    loadControls();
     redrawPreview();
 }
 
@@ -103,6 +87,6 @@ void VolumeTabViewController::redrawPreview()
     ImageVolumeBar bar;
     bar.redrawWithSize(QSizeF(volumeBarWidth(settings, sets.size(), height), height),
                        TvlClasses::retStatusMenuInsets(volumeShownElementCount(settings)), false, true, settings,
-                       history_, sets);
+                       liveHistory(), sets);
     showPreview(bar.image(devicePixelRatioF() * PicturePreview::zoom()));
 }

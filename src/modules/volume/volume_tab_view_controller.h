@@ -3,13 +3,12 @@
 #pragma once
 
 #include "collect/disk_sample.h"
-#include "collect/history.h"
 #include "collect/storage_descriptions.h"
-#include "modules/picture_settings_tab.h"
+#include "modules/sampled_picture_tab.h"
 
 #include <memory>
 
-class VolumeTabViewController : public PictureSettingsTab {
+class VolumeTabViewController : public SampledPictureTab<VolumeSample> {
     Q_OBJECT
 public:
     VolumeTabViewController(SettingsStore& store, PrefNotificationCenter& center, QWidget* parent = nullptr);
@@ -17,7 +16,6 @@ public:
     // The elements in the list: bar chart 1, cycle chart 2, graph 3, text 4, percentage 5.
     static const QList<Element>& elements();
 
-    void setLiveHistory(const InfoDict& info) override;
     // The volumes the preview draws one set for, as the status item does.
     void setVolumeBaseDict(std::shared_ptr<const VolumeBaseDict> volumeBaseDict);
     void setStorageDescriptions(const DiskBaseDict& disks, std::shared_ptr<const VolumeBaseDict> volumes) override
@@ -27,12 +25,10 @@ public:
     }
 
 protected:
-    void loadViews() override;
     void redrawPreview() override;
 
 private:
     QWidget* buildDisplay();
 
-    History<VolumeSample> history_;
     std::shared_ptr<const VolumeBaseDict> volumeBaseDict_;
 };
