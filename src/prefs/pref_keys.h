@@ -225,22 +225,6 @@ inline constexpr char FanInnerTextMode[] = "FanInnerTextMode";
 inline constexpr char FanInnerPiledFontSizeDbl[] = "FanInnerPiledFontSizeDbl";
 inline constexpr char FanInnerPileUp[] = "FanInnerPileUp";
 
-// Sampling cycle (in memory, in the General dictionary)
-inline constexpr char CpuInnerLoadCounterInt[] = "CpuInnerLoadCounterInt";
-inline constexpr char CpuInnerLoadData[] = "CpuInnerLoadData";
-inline constexpr char MemoryInnerLoadCounterInt[] = "MemoryInnerLoadCounterInt";
-inline constexpr char MemoryInnerLoadData[] = "MemoryInnerLoadData";
-inline constexpr char NetworkInnerLoadCounterInt[] = "NetworkInnerLoadCounterInt";
-inline constexpr char NetworkInnerLoadData[] = "NetworkInnerLoadData";
-inline constexpr char DiskInnerLoadCounterInt[] = "DiskInnerLoadCounterInt";
-inline constexpr char DiskInnerLoadData[] = "DiskInnerLoadData";
-inline constexpr char VlmsInnerLoadCounterInt[] = "VlmsInnerLoadCounterInt";
-inline constexpr char VlmsInnerLoadData[] = "VlmsInnerLoadData";
-inline constexpr char TempInnerLoadCounterInt[] = "TempInnerLoadCounterInt";
-inline constexpr char TempInnerLoadData[] = "TempInnerLoadData";
-inline constexpr char FanInnerLoadCounterInt[] = "FanInnerLoadCounterInt";
-inline constexpr char FanInnerLoadData[] = "FanInnerLoadData";
-
 } // namespace PrefKey
 
 // User-information keys of the preference-change notifications.
