@@ -3,10 +3,10 @@
 
 #include "modules/disk/disk_bar_width.h"
 #include "modules/disk/image_disk_bar.h"
+#include "modules/module_prefs.h"
 #include "modules/volume/image_volume_bar.h"
 #include "modules/volume/volume_bar_width.h"
 #include "prefs/plist_settings_store.h"
-#include "modules/module_prefs.h"
 #include "prefs/pref_functions.h"
 #include "prefs/pref_keys.h"
 #include "toolkit/menu_geometry.h"

@@ -1,13 +1,13 @@
 // The application controller: owns the settings, the collector, the shared data and the cycle.
 #pragma once
 
+#include "app/sampling_schedule.h"
 #include "collect/info_dict.h"
 #include "collect/load_system_information.h"
 #include "modules/menu_module.h"
 #include "preferences/pref_notification.h"
 #include "preferences/preference_tab.h"
 #include "preferences/preferences_window.h"
-#include "app/sampling_schedule.h"
 #include "prefs/module_defaults.h"
 #include "prefs/module_id.h"
 #include "prefs/settings_store.h"

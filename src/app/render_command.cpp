@@ -37,8 +37,7 @@ int runRender(const AppOptions& options, int argc, char** argv)
             const QImage graph = module != nullptr ? module->menuGraphImage() : QImage();
             if (!graph.isNull())
                 written = ImageStatusBar::writePng(options.outDir,
-                                                   QLatin1String(schema->moduleKey) + QStringLiteral("-menu"),
-                                                   graph) &&
+                                                   QLatin1String(schema->moduleKey) + QStringLiteral("-menu"), graph) &&
                           written;
         }
         if (!written) {

@@ -13,8 +13,8 @@ CycleOutput runBody(LoadSystemInformation& loadInfo, CycleInput input)
     if (!loadInfo.checkInterfaceStatusChange())
         loadInfo.setNetworkBaseDict(loadInfo.retNetworkBase());
     static const VolumeBaseDict noVolumes;
-    InfoDict info = loadCycleSysInfo(loadInfo, std::move(input.info), input,
-                                     input.volumeBase ? *input.volumeBase : noVolumes);
+    InfoDict info =
+        loadCycleSysInfo(loadInfo, std::move(input.info), input, input.volumeBase ? *input.volumeBase : noVolumes);
     return {input.due, std::move(info), loadInfo.terminationRequested()};
 }
 

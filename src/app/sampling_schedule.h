@@ -13,7 +13,7 @@ using DueModules = std::bitset<kModuleCount>;
 
 // What the cadence decision needs to know of a module at the start of a cycle.
 struct ModuleCadence {
-    bool sampled = false;    // the module has a step in the cycle at all
+    bool sampled = false; // the module has a step in the cycle at all
     bool switchedOn = false;
     bool menuOpened = false; // an open menu wants a sample every cycle
     bool sampleNow = false;  // sampled whatever its counter (a module's first sample)

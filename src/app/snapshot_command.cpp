@@ -11,8 +11,8 @@
 
 std::unique_ptr<PlistSettingsStore> openSettingsStore(const AppOptions& options)
 {
-    auto store = std::make_unique<PlistSettingsStore>(
-        options.settingsFile.isEmpty() ? PlistSettingsStore::defaultPath() : options.settingsFile);
+    auto store = std::make_unique<PlistSettingsStore>(options.settingsFile.isEmpty() ? PlistSettingsStore::defaultPath()
+                                                                                     : options.settingsFile);
     if (!store->openProblem().isEmpty())
         QTextStream(stderr) << store->openProblem() << '\n';
     return store;

@@ -35,8 +35,10 @@ template <class F> void forEachPart(AppDelegate& app, const auto& parts, F f)
         if (!parts[i] || !app.chkGeneBool(schema.switchKey))
             continue;
         const VolumeTracker& storage = app.volumeTracker();
-        const SnapshotContext context{app.infoDict(),      i, schema.moduleKey, app.defaults(schema.id),
-                                      app.collector(),     storage.diskBaseDict(), storage.volumeBaseDict()};
+        const SnapshotContext context{app.infoDict(),          i,
+                                      schema.moduleKey,        app.defaults(schema.id),
+                                      app.collector(),         storage.diskBaseDict(),
+                                      storage.volumeBaseDict()};
         f(*parts[i], context);
     }
 }

@@ -20,7 +20,9 @@ std::int64_t tickDifference(std::uint64_t current, std::uint64_t previous)
 }
 } // namespace
 
-LoadSystemInformation::LoadSystemInformation(SourceSet sources) : sources_(std::move(sources)) {}
+LoadSystemInformation::LoadSystemInformation(SourceSet sources)
+    : sources_(std::move(sources))
+{}
 
 CpuSample LoadSystemInformation::loadCpuData()
 {
@@ -60,8 +62,8 @@ CpuOptionFigures LoadSystemInformation::cpuOptionFigures() const
     CpuOptionFigures figures;
     CpuSource* cpu = sources_.cpu.get();
     if (const auto boot = cpu ? cpu->bootTime() : std::nullopt; boot && *boot != 0) {
-        const auto now = std::chrono::duration_cast<std::chrono::seconds>(
-            std::chrono::system_clock::now().time_since_epoch());
+        const auto now =
+            std::chrono::duration_cast<std::chrono::seconds>(std::chrono::system_clock::now().time_since_epoch());
         figures.secondsSinceBoot = static_cast<double>(now.count() - *boot);
     }
     figures.awakeSeconds = cpu ? cpu->awakeSeconds() : std::nullopt;

@@ -21,9 +21,9 @@ class SettingsStore;
 // What one module's step of the sampling cycle gets; it runs on the cycle's thread.
 struct SampleRequest {
     LoadSystemInformation& loadInfo;
-    std::size_t slot;    // the module's history slot in the sampled data
-    qint64 interval;     // the module's interval setting, in seconds
-    bool menuOpened;     // its menu is open: what only the menu shows is wanted too
+    std::size_t slot; // the module's history slot in the sampled data
+    qint64 interval;  // the module's interval setting, in seconds
+    bool menuOpened;  // its menu is open: what only the menu shows is wanted too
     const VolumeBaseDict& volumes;
 };
 

@@ -1,10 +1,10 @@
 // Controls of a picture tab: each writes its key, saves and posts the module's notification.
 #include "modules/picture_settings_tab.h"
 
+#include "modules/module_registry.h"
 #include "preferences/element_order_list.h"
 #include "preferences/picture_preview.h"
 #include "preferences/pref_slider_handlers.h"
-#include "modules/module_registry.h"
 #include "prefs/pref_functions.h"
 #include "prefs/pref_keys.h"
 #include "prefs/settings_store.h"

@@ -32,8 +32,7 @@ qint64 checkMaxTemp(SettingsStore& store, qint64 tempTmp);
 qint64 checkMaxRpm(SettingsStore& store, qint64 rpmTmp);
 
 // The largest size from the base size down to 3 at which text fits within graphWidth; 3 at least.
-double calcPiledFontSize(const QString& text, double baseFontSize, const QString& baseFontKind,
-                         double graphWidth);
+double calcPiledFontSize(const QString& text, double baseFontSize, const QString& baseFontKind, double graphWidth);
 
 // A copy with every "-" emptied; none for an empty list.
 std::optional<QStringList> checkHyphenToNull(const QStringList& labels);

@@ -36,8 +36,8 @@ ThemePicture decodePicture(const QVariant& data, PictureSize size)
     ThemePicture picture;
     if (data.typeId() != QMetaType::QByteArray || !picture.image.loadFromData(data.toByteArray(), "PNG"))
         return {};
-    picture.size = size == PictureSize::Half ? QSizeF(picture.image.width() * 0.5, picture.image.height() * 0.5)
-                                             : QSizeF(18, 18);
+    picture.size =
+        size == PictureSize::Half ? QSizeF(picture.image.width() * 0.5, picture.image.height() * 0.5) : QSizeF(18, 18);
     return picture;
 }
 

@@ -2,8 +2,8 @@
 #include "recording_status_bar.h"
 #include "test_app.h"
 
-#include "modules/module_registry.h"
 #include "modules/cpu/cpu_menu_module.h"
+#include "modules/module_registry.h"
 #include "prefs/pref_keys.h"
 
 #include <QApplication>

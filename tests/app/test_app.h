@@ -21,7 +21,8 @@
 class ScriptedCpuSource final : public CpuSource {
 public:
     explicit ScriptedCpuSource(std::shared_ptr<std::deque<std::vector<ProcessorTicks>>> script)
-        : script_(std::move(script)) {}
+        : script_(std::move(script))
+    {}
     std::optional<std::vector<ProcessorTicks>> readProcessorTicks() override;
     // The thread of the latest read, to check where the cycle body ran.
     std::atomic<Qt::HANDLE> readThread{nullptr};

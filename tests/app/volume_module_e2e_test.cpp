@@ -1,7 +1,7 @@
 // End to end: a file system mounted on a loop device shows in the Volume item within two
 // cycles, and leaves it after the unmount.
-#include "modules/module_registry.h"
 #include "app/volume_tracker.h"
+#include "modules/module_registry.h"
 #include "modules/volume/volume_menu_module.h"
 #include "mount_test_support.h"
 #include "prefs/pref_keys.h"

@@ -62,12 +62,12 @@ struct Collector {
         info = std::make_unique<LoadSystemInformation>(std::move(sources));
     }
 };
-}
+} // namespace
 
 TEST(LoadCpuData, FirstCallIsEmptyAndTheSecondHasOneRecordPerProcessorPlusTheMachine)
 {
-    Collector c({Ticks{{10, 20, 30, 40}, {1, 2, 3, 4}, {0, 0, 0, 0}},
-                 Ticks{{15, 21, 30, 50}, {2, 4, 3, 9}, {1, 1, 1, 1}}});
+    Collector c(
+        {Ticks{{10, 20, 30, 40}, {1, 2, 3, 4}, {0, 0, 0, 0}}, Ticks{{15, 21, 30, 50}, {2, 4, 3, 9}, {1, 1, 1, 1}}});
     EXPECT_TRUE(c.info->loadCpuData().empty());
     const CpuSample sample = c.info->loadCpuData();
     ASSERT_EQ(sample.size(), 4u);
@@ -122,8 +122,8 @@ TEST(LoadCpuData, FailedReadIsEmptyAndKeepsThePreviousTicks)
 {
     Collector c({Ticks{{1, 1, 1, 1}}, std::nullopt, Ticks{}, Ticks{{4, 1, 1, 1}}});
     EXPECT_TRUE(c.info->loadCpuData().empty());
-    EXPECT_TRUE(c.info->loadCpuData().empty());  // unreadable
-    EXPECT_TRUE(c.info->loadCpuData().empty());  // no processors
+    EXPECT_TRUE(c.info->loadCpuData().empty()); // unreadable
+    EXPECT_TRUE(c.info->loadCpuData().empty()); // no processors
     const CpuSample sample = c.info->loadCpuData();
     ASSERT_EQ(sample.size(), 2u);
     EXPECT_EQ(sample[0][CpuUser], 3);

@@ -1,13 +1,13 @@
 // The CPU preferences tab: what each control stores and posts, and its live preview.
+#include "collect/info_dict.h"
 #include "cpu_picture_defaults.h"
 #include "modules/cpu/cpu_bar_width.h"
-#include "collect/info_dict.h"
 #include "modules/cpu/cpu_tab_view_controller.h"
-#include "tab_settings.h"
 #include "preferences/element_order_list.h"
 #include "preferences/picture_preview.h"
 #include "preferences/pref_notification.h"
 #include "support/memory_settings_store.h"
+#include "tab_settings.h"
 #include "toolkit/menu_geometry.h"
 
 #include <QCheckBox>

@@ -1,11 +1,11 @@
 // The Disk and Volume preference tabs: what each control stores and posts, and the live preview.
 #include "modules/disk/disk_tab_view_controller.h"
+#include "modules/module_registry.h"
 #include "modules/volume/volume_bar_width.h"
 #include "modules/volume/volume_tab_view_controller.h"
 #include "preferences/element_order_list.h"
 #include "preferences/picture_preview.h"
 #include "preferences/pref_notification.h"
-#include "modules/module_registry.h"
 #include "storage_picture_defaults.h"
 #include "support/memory_settings_store.h"
 #include "tab_settings.h"

@@ -1,6 +1,6 @@
 // The Memory and Network preferences tabs: what each control stores and posts, and the preview.
-#include "memory_network_defaults.h"
 #include "collect/info_dict.h"
+#include "memory_network_defaults.h"
 #include "modules/memory/memory_bar_width.h"
 #include "modules/memory/memory_tab_view_controller.h"
 #include "modules/network/network_bar_width.h"
@@ -131,7 +131,8 @@ TEST(MemoryTab, PreviewFollowsChangesAtOnce)
         memoryBarWidth(memoryPictureSettings(settings), memoryTextWidths(memoryPictureSettings(settings), 0), height));
 
     InfoDict info;
-    info.setHistory(moduleIndex(ModuleId::Memory), historyOf<MemorySample>({{100, 300, 200, 250, 0, 0, -1, -1, 350, 150}}));
+    info.setHistory(moduleIndex(ModuleId::Memory),
+                    historyOf<MemorySample>({{100, 300, 200, 250, 0, 0, -1, -1, 350, 150}}));
     f.tab->setLiveHistory(info);
     f.find<ElementOrderList>(MemoryItemSortArray)->item(0)->setCheckState(Qt::Checked);
     const MemoryPictureSettings stored =

@@ -1,6 +1,6 @@
 // Every module's settings: first-run values, working dictionaries, launch flags, repairs.
-#include "modules/module_registry.h"
 #include "modules/module_prefs.h"
+#include "modules/module_registry.h"
 #include "prefs/plist_settings_store.h"
 #include "prefs/pref_functions.h"
 #include "prefs/pref_keys.h"
@@ -104,8 +104,8 @@ TEST(PrefFunctions, LoadersReadStoredKeysThemeEntriesAndDerivedWidths)
     EXPECT_GT(PrefFunctions::loadCpuDefaults(s.store, theme).intValue(CpuInnerTextWidth), narrow);
 
     // The General item halves all its pictures but the first icon.
-    const ModuleDefaults general = PrefFunctions::loadGeneralDefaults(s.store, {{"O01", png(64, 64)},
-                                                                               {"O11", png(64, 64)}});
+    const ModuleDefaults general =
+        PrefFunctions::loadGeneralDefaults(s.store, {{"O01", png(64, 64)}, {"O11", png(64, 64)}});
     EXPECT_EQ(general.picture("O01").size, QSizeF(18, 18));
     EXPECT_EQ(general.picture("O11").size, QSizeF(32, 32));
 }

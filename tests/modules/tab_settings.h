@@ -1,8 +1,8 @@
 // A tab's settings as the application gives them: stored keys in the store, font in the theme.
 #pragma once
 
-#include "modules/module_registry.h"
 #include "modules/module_prefs.h"
+#include "modules/module_registry.h"
 #include "prefs/pref_keys.h"
 #include "prefs/settings_store.h"
 

@@ -8,9 +8,9 @@
 #include <ctime>
 
 LinuxCpuSource::LinuxCpuSource(const SysRoot& root)
-    : stat_(root.join("proc/stat")), loadavg_(root.join("proc/loadavg"))
-{
-}
+    : stat_(root.join("proc/stat"))
+    , loadavg_(root.join("proc/loadavg"))
+{}
 
 std::optional<std::vector<ProcessorTicks>> LinuxCpuSource::readProcessorTicks()
 {

@@ -14,12 +14,12 @@ bool isProcessEntry(const std::string& name)
 {
     return !name.empty() && std::all_of(name.begin(), name.end(), [](char c) { return c >= '0' && c <= '9'; });
 }
-}
+} // namespace
 
 LinuxProcessSource::LinuxProcessSource(const SysRoot& root)
-    : root_(root), loadavg_(root.join("proc/loadavg"))
-{
-}
+    : root_(root)
+    , loadavg_(root.join("proc/loadavg"))
+{}
 
 std::optional<ProcessCounts> LinuxProcessSource::counts()
 {

@@ -9,7 +9,7 @@ constexpr int kUtime = 11;
 constexpr int kStime = 12;
 constexpr int kThreads = 17;
 constexpr int kRss = 21;
-}
+} // namespace
 
 Parsed<ProcessRecord> parseProcessStat(std::string_view text)
 {
@@ -34,9 +34,15 @@ Parsed<ProcessRecord> parseProcessStat(std::string_view text)
         if (field.empty())
             return reject("line ends before the resident set size");
         switch (index) {
-        case kUtime: utime = parseNumber<std::uint64_t>(field); break;
-        case kStime: stime = parseNumber<std::uint64_t>(field); break;
-        case kThreads: threads = parseNumber<std::int64_t>(field); break;
+        case kUtime:
+            utime = parseNumber<std::uint64_t>(field);
+            break;
+        case kStime:
+            stime = parseNumber<std::uint64_t>(field);
+            break;
+        case kThreads:
+            threads = parseNumber<std::int64_t>(field);
+            break;
         case kRss: {
             // rss is signed in the kernel's accounting; a negative value reads as none resident.
             const auto pages = parseNumber<std::int64_t>(field);
@@ -44,7 +50,8 @@ Parsed<ProcessRecord> parseProcessStat(std::string_view text)
                 rss = *pages < 0 ? 0 : static_cast<std::uint64_t>(*pages);
             break;
         }
-        default: break;
+        default:
+            break;
         }
     }
     if (!utime || !stime || !threads || !rss)

@@ -19,7 +19,7 @@ bool isProcessorLabel(std::string_view label)
             return false;
     return true;
 }
-}
+} // namespace
 
 Parsed<std::vector<ProcessorTicks>> parseProcessorTicks(std::string_view text)
 {

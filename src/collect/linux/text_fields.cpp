@@ -11,7 +11,7 @@ bool isOctal(char c)
 {
     return c >= '0' && c <= '7';
 }
-}
+} // namespace
 
 bool takeLine(std::string_view& text, std::string_view& line)
 {
@@ -60,10 +60,10 @@ std::string unescapeOctal(std::string_view text)
     std::string out;
     out.reserve(text.size());
     for (std::size_t i = 0; i < text.size(); ++i) {
-        if (text[i] == '\\' && i + 3 < text.size() && isOctal(text[i + 1]) && isOctal(text[i + 2])
-            && isOctal(text[i + 3])) {
-            out.push_back(static_cast<char>(((text[i + 1] - '0') << 6) | ((text[i + 2] - '0') << 3)
-                                            | (text[i + 3] - '0')));
+        if (text[i] == '\\' && i + 3 < text.size() && isOctal(text[i + 1]) && isOctal(text[i + 2]) &&
+            isOctal(text[i + 3])) {
+            out.push_back(
+                static_cast<char>(((text[i + 1] - '0') << 6) | ((text[i + 2] - '0') << 3) | (text[i + 3] - '0')));
             i += 3;
         } else {
             out.push_back(text[i]);

@@ -20,8 +20,7 @@ std::string_view takeField(std::string_view& text);
 std::string_view trimSpace(std::string_view text);
 
 // The whole of text as a number; empty on any stray character, sign error or overflow.
-template <class Number>
-std::optional<Number> parseNumber(std::string_view text)
+template <class Number> std::optional<Number> parseNumber(std::string_view text)
 {
     Number value{};
     const char* end = text.data() + text.size();

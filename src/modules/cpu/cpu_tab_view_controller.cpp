@@ -20,11 +20,11 @@ using namespace PrefKey;
 
 CpuTabViewController::CpuTabViewController(SettingsStore& store, PrefNotificationCenter& center, QWidget* parent)
     : SampledPictureTab(ModuleId::Cpu,
-                         {{1, Cpu_Display_Graph, "Graph"},
-                          {2, Cpu_Display_LevelBar, "Level bar"},
-                          {3, Cpu_Display_CircleMeter, "Cycle meter"},
-                          {4, Cpu_Display_Text, "Text"}},
-                         CpuItemSortArray, store, center, parent)
+                        {{1, Cpu_Display_Graph, "Graph"},
+                         {2, Cpu_Display_LevelBar, "Level bar"},
+                         {3, Cpu_Display_CircleMeter, "Cycle meter"},
+                         {4, Cpu_Display_Text, "Text"}},
+                        CpuItemSortArray, store, center, parent)
 {
     buildFrame("CpuPreview", buildDisplay(), buildMenuItems(CPU_EnaMenu_Amon, CPU_EnaMenu_Cnsl, CPU_EnaMenu_Tmnl));
     redrawPreview();

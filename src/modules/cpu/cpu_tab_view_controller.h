@@ -12,7 +12,6 @@ class CpuTabViewController : public SampledPictureTab<CpuSample> {
 public:
     CpuTabViewController(SettingsStore& store, PrefNotificationCenter& center, QWidget* parent = nullptr);
 
-
 protected:
     void loadViews() override;
     void redrawPreview() override;

@@ -8,8 +8,7 @@
 
 General_MenuModule::General_MenuModule(MenuModuleDelegate* delegate, QObject* parent)
     : MenuModule(delegate, ModuleId::General, parent)
-{
-}
+{}
 
 void General_MenuModule::drawBaseStatusBar()
 {

@@ -53,8 +53,7 @@ void TopTabColorSection::showColors(const AllModuleDefaults& all)
     for (auto it = wells_.cbegin(); it != wells_.cend(); ++it) {
         // Shared colours are resolved into every module's dictionary; the CPU one always exists.
         const ModuleId owner = owners_.value(it.key());
-        const ModuleDefaults& source =
-            all[moduleIndex(owner == ModuleId::General ? ModuleId::Cpu : owner)];
+        const ModuleDefaults& source = all[moduleIndex(owner == ModuleId::General ? ModuleId::Cpu : owner)];
         it.value()->setColor(source.color(it.key()));
     }
 }

@@ -63,7 +63,6 @@ void sampleMemory(const SampleRequest& request, InfoDict& info)
 const char* const kMemoryFigures[] = {"wired",    "active",      "inactive",   "free",        "pageins",
                                       "pageouts", "speculative", "compressor", "application", "cached"};
 
-
 QString memorySnapshotText(const SnapshotContext& context)
 {
     QString out = QStringLiteral("Memory\n");

@@ -22,12 +22,12 @@ using namespace PrefKey;
 MemoryTabViewController::MemoryTabViewController(MenuModuleDelegate* delegate, SettingsStore& store,
                                                  PrefNotificationCenter& center, QWidget* parent)
     : SampledPictureTab(ModuleId::Memory,
-                         {{1, Memory_Display_Graph, "Graph"},
-                          {2, Memory_Display_LevelBar, "Level bar"},
-                          {3, Memory_Display_CircleMeter, "Cycle meter"},
-                          {4, Memory_Display_Text, "Text"},
-                          {5, Memory_Display_DetailText, "Detail text"}},
-                         MemoryItemSortArray, store, center, parent)
+                        {{1, Memory_Display_Graph, "Graph"},
+                         {2, Memory_Display_LevelBar, "Level bar"},
+                         {3, Memory_Display_CircleMeter, "Cycle meter"},
+                         {4, Memory_Display_Text, "Text"},
+                         {5, Memory_Display_DetailText, "Detail text"}},
+                        MemoryItemSortArray, store, center, parent)
     , delegate_(delegate)
 {
     auto* columns = new QHBoxLayout();

@@ -15,7 +15,6 @@ public:
     MemoryTabViewController(MenuModuleDelegate* delegate, SettingsStore& store, PrefNotificationCenter& center,
                             QWidget* parent = nullptr);
 
-
 protected:
     void redrawPreview() override;
 

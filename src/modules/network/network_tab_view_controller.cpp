@@ -24,11 +24,11 @@ using namespace PrefKey;
 NetworkTabViewController::NetworkTabViewController(SettingsStore& store, PrefNotificationCenter& center,
                                                    QWidget* parent)
     : SampledPictureTab(ModuleId::Network,
-                         {{1, Network_Display_UdLabel, "Upload and download labels"},
-                          {2, Network_Display_UdCircle, "Activity lamps"},
-                          {3, Network_Display_Graph, "Graph"},
-                          {4, Network_Display_Text, "Text"}},
-                         NetworkItemSortArray, store, center, parent)
+                        {{1, Network_Display_UdLabel, "Upload and download labels"},
+                         {2, Network_Display_UdCircle, "Activity lamps"},
+                         {3, Network_Display_Graph, "Graph"},
+                         {4, Network_Display_Text, "Text"}},
+                        NetworkItemSortArray, store, center, parent)
 {
     auto* columns = new QHBoxLayout();
     columns->addWidget(buildElements());

@@ -14,12 +14,10 @@ public:
 
     NetworkTabViewController(SettingsStore& store, PrefNotificationCenter& center, QWidget* parent = nullptr);
 
-
 protected:
     void redrawPreview() override;
     // A new label pair brings its own width, as the settings loader would derive it.
 
 private:
     QWidget* buildDisplay();
-
 };
