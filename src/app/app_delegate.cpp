@@ -166,7 +166,7 @@ bool AppDelegate::switchedOn(ModuleId id) const
 
 void AppDelegate::moduleAlloc(ModuleId id)
 {
-    auto& slot = modules_[static_cast<std::size_t>(id)];
+    auto& slot = modules_[moduleIndex(id)];
     if (slot || statusBar_ == nullptr)
         return;
     slot = createMenuModule(id, this);
@@ -201,10 +201,9 @@ void AppDelegate::moduleRelease(ModuleId id)
     // Only the in-memory switch: the stored setting stays as the user left it.
     if (id != ModuleId::General)
         moduleDefaults_[moduleIndex(ModuleId::General)].set(moduleSchema(id).switchKey, false);
-    auto& slot = modules_[static_cast<std::size_t>(id)];
-    // The interface base is rebuilt on the first tick after the module comes back.
-    if (id == ModuleId::Network && slot)
-        loadInfo_->clearInterfaceStatusChange();
+    auto& slot = modules_[moduleIndex(id)];
+    if (const auto released = moduleDescriptor(id).released; released != nullptr && slot)
+        released(*loadInfo_);
     slot.reset();
 }
 

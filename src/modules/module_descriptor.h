@@ -73,6 +73,8 @@ struct ModuleDescriptor {
     StorageUse storage = StorageUse::None;
     // Its part of the snapshot report; null for modules that report nothing.
     std::unique_ptr<ModuleSnapshot> (*createSnapshot)(LoadSystemInformation& loadInfo) = nullptr;
+    // What the collector forgets when the module's status item goes; null for nothing.
+    void (*released)(LoadSystemInformation& loadInfo) = nullptr;
 };
 
 // Factories for the descriptors' entries.

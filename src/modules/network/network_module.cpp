@@ -54,6 +54,12 @@ ModuleSchema networkSchema()
             &deriveNetwork};
 }
 
+// The interface base is rebuilt on the first tick after the module comes back.
+void forgetInterfaces(LoadSystemInformation& loadInfo)
+{
+    loadInfo.clearInterfaceStatusChange();
+}
+
 void sampleNetwork(const SampleRequest& request, InfoDict& info)
 {
     const auto interval = static_cast<double>(request.interval);
@@ -109,6 +115,7 @@ const ModuleDescriptor& networkModule()
                                              &sampleNetwork,
                                              false,
                                              StorageUse::None,
-                                             &makePlainSnapshot<&networkSnapshotText, &addNetworkSnapshotJson>};
+                                             &makePlainSnapshot<&networkSnapshotText, &addNetworkSnapshotJson>,
+                                             &forgetInterfaces};
     return descriptor;
 }
