@@ -7,14 +7,21 @@
 #include <vector>
 
 struct SensorReading {
-    std::string key;                   // the chip's own name for the input, e.g. "temp1"
-    std::optional<std::string> label;  // what the driver calls it, when it says
-    std::int64_t value = 0;            // millidegrees Celsius, or revolutions per minute
+    std::string key;                  // the chip's own name for the input, e.g. "temp1"
+    std::optional<std::string> label; // what the driver calls it, when it says
+    std::int64_t value = 0;           // millidegrees Celsius, or revolutions per minute
+    // The driver's marks, in the same unit, where it gives them: a fan's minimum and maximum,
+    // a temperature's high and critical marks.
+    std::optional<std::int64_t> low;
+    std::optional<std::int64_t> high;
+    std::optional<std::int64_t> critical;
 };
 
 struct SensorChip {
-    std::string id;    // where the system lists it, e.g. "hwmon0"
-    std::string name;  // the driver's chip name, e.g. "coretemp"
+    std::string id;     // where the system lists it now, e.g. "hwmon0"; may change across boots
+    std::string device; // the device it belongs to below sys, e.g. "devices/platform/coretemp.0";
+                        // the same across boots, so choices are remembered by it
+    std::string name;   // the driver's chip name, e.g. "coretemp"
     std::vector<SensorReading> temperatures;
     std::vector<SensorReading> fans;
 };
@@ -22,6 +29,7 @@ struct SensorChip {
 class SensorSource {
 public:
     virtual ~SensorSource() = default;
-    // Current readings; inputs that cannot be read this time are left out.
+    // Current readings; inputs that cannot be read this time are left out. Where no chip gives
+    // a temperature, the thermal zones stand in, one chip each.
     virtual std::vector<SensorChip> readSensors() = 0;
 };

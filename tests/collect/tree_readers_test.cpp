@@ -186,23 +186,36 @@ std::string machineIdentity(const SysRoot& root)
            show(m.processorModelName()) + " | " + show(m.maxFrequencyKHz());
 }
 
-// Chips in numeric order of their entries, their readings with labels; read twice, so that
-// the second pass goes through the kept-open files.
+// Chips in numeric order of their entries, with the device they belong to, their readings with
+// labels and marks; read twice, so that the second pass goes through the kept-open files.
 std::string sensorChips(const SysRoot& root)
 {
     LinuxSensorSource sensors(root);
     sensors.readSensors();
+    const auto reading = [](const SensorReading& r) {
+        std::string out = ' ' + r.key + '(' + show(r.label) + ")=" + std::to_string(r.value);
+        for (const auto& [mark, value] : {std::pair{" min=", r.low}, {" max=", r.high}, {" crit=", r.critical}})
+            if (value)
+                out += mark + std::to_string(*value);
+        return out;
+    };
     std::string out;
     for (const SensorChip& chip : sensors.readSensors()) {
-        out += chip.id + ' ' + chip.name + " temps";
+        out += chip.id + " @" + chip.device + ' ' + chip.name + " temps";
         for (const SensorReading& r : chip.temperatures)
-            out += ' ' + r.key + '(' + show(r.label) + ")=" + std::to_string(r.value);
+            out += reading(r);
         out += " fans";
         for (const SensorReading& r : chip.fans)
-            out += ' ' + r.key + '(' + show(r.label) + ")=" + std::to_string(r.value);
+            out += reading(r);
         out += ';';
     }
     return out;
+}
+
+// Another of our own trees, beside the one the rows read.
+SysRoot sibling(const SysRoot& own, const char* name)
+{
+    return SysRoot(own.root().parent_path() / name);
 }
 
 // Processors, processes and memory.
@@ -272,11 +285,27 @@ std::vector<TreeRow> deviceRows()
         // capture flattened.
         {"MachineIdentity", Tree::Shared, machineIdentity,
          "- | Dell Inc. | PowerEdge R6515 | - | 7N62AI2 | - | Intel(R) Core(TM) i7-8650U CPU @ 1.90GHz | 2400000"},
-        // Numbered entries in numeric order; fan2 of coretemp holds no number, temp1_max is no
-        // input; it87 keeps its inputs on the parent device.
+        // Numbered entries in numeric order; fan2 of coretemp holds no number, temp1_max is a
+        // mark, not an input; it87 keeps its inputs on the parent device. This tree's nodes are
+        // plain folders, so each is its own device.
         {"SensorChips", Tree::Own, sensorChips,
-         "hwmon0 coretemp temps temp1(Package id 0)=45000 temp2(-)=-5500 fans fan1(CPU Fan)=1200;"
-         "hwmon1 it87 temps temp1(-)=38000 fans fan2(-)=0;hwmon10 nvme temps temp1(-)=31850 fans;"},
+         "hwmon0 @class/hwmon/hwmon0 coretemp temps temp1(Package id 0)=45000 max=95000 temp2(-)=-5500 fans "
+         "fan1(CPU Fan)=1200;hwmon1 @class/hwmon/hwmon1/device it87 temps temp1(-)=38000 fans fan2(-)=0;"
+         "hwmon10 @class/hwmon/hwmon10 nvme temps temp1(-)=31850 fans;"},
+        // Two packages with the same "Core 0" told apart by their devices, which stay when the
+        // hwmon numbers change; a fan without a label, one standing still; a chip without a name.
+        {"SensorDevicesAndMarks", Tree::Own,
+         [](const SysRoot& r) { return sensorChips(sibling(r, "sensors-desktop")); },
+         "hwmon2 @devices/platform/nct6775.656 nct6775 temps fans fan1(-)=1200 min=300 max=2000 fan2(-)=0;"
+         "hwmon3 @devices/platform/coretemp.0 coretemp temps temp1(Package id 0)=45000 max=80000 crit=100000 "
+         "temp2(Core 0)=43000 fans;"
+         "hwmon4 @devices/platform/coretemp.1 coretemp temps temp1(Package id 1)=47000 temp2(Core 0)=44000 fans;"
+         "hwmon5 @devices/platform/it87.552 hwmon5 temps temp1(-)=30000 fans;"},
+        // Without hwmon temperatures the thermal zones stand in; other thermal entries do not.
+        {"ThermalZonesOnly", Tree::Own,
+         [](const SysRoot& r) { return sensorChips(sibling(r, "sensors-thermal-only")); },
+         "thermal_zone0 @devices/virtual/thermal/thermal_zone0 thermal temps temp(x86_pkg_temp)=52000 fans;"
+         "thermal_zone1 @devices/virtual/thermal/thermal_zone1 thermal temps temp(acpitz)=27800 fans;"},
         {"NoHwmonNoChips", Tree::Own,
          [](const SysRoot& r) { return sensorChips(SysRoot(r.root() / "does-not-exist")); }, ""},
     };

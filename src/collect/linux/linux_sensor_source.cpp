@@ -26,9 +26,28 @@ bool hasInputs(const std::vector<std::string>& names)
         return !inputKey(name, "temp").empty() || !inputKey(name, "fan").empty();
     });
 }
+
+// The input's label and the driver's marks, which do not change while it runs.
+SensorReading fixedPart(const std::filesystem::path& dir, const std::string& key, bool fan)
+{
+    SensorReading r;
+    r.key = key;
+    r.label = readAttributeText(dir / (key + "_label"));
+    if (fan) {
+        r.low = readAttributeInteger(dir / (key + "_min"));
+        r.high = readAttributeInteger(dir / (key + "_max"));
+    } else {
+        r.high = readAttributeInteger(dir / (key + "_max"));
+        r.critical = readAttributeInteger(dir / (key + "_crit"));
+    }
+    return r;
 }
 
-LinuxSensorSource::LinuxSensorSource(const SysRoot& root) : root_(root) {}
+} // namespace
+
+LinuxSensorSource::LinuxSensorSource(const SysRoot& root)
+    : root_(root)
+{}
 
 std::vector<SensorChip> LinuxSensorSource::readSensors()
 {
@@ -42,12 +61,14 @@ std::vector<SensorChip> LinuxSensorSource::readSensors()
             const auto text = input.file.read();
             if (!text)
                 continue;
-            if (const auto value = parseNumber<std::int64_t>(trimSpace(*text)))
-                readings.push_back({input.key, input.label, *value});
+            if (const auto value = parseNumber<std::int64_t>(trimSpace(*text))) {
+                readings.push_back(input.fixed);
+                readings.back().value = *value;
+            }
         }
     };
     for (Chip& chip : chips_) {
-        SensorChip reading{chip.id, chip.name, {}, {}};
+        SensorChip reading{chip.id, chip.device, chip.name, {}, {}};
         readInputs(chip.temperatures, reading.temperatures);
         readInputs(chip.fans, reading.fans);
         result.push_back(std::move(reading));
@@ -58,6 +79,30 @@ std::vector<SensorChip> LinuxSensorSource::readSensors()
 void LinuxSensorSource::discover()
 {
     discovered_ = true;
+    discoverHwmon();
+    const bool hwmonTemperatures =
+        std::any_of(chips_.begin(), chips_.end(), [](const Chip& c) { return !c.temperatures.empty(); });
+    if (!hwmonTemperatures)
+        discoverThermalZones();
+}
+
+std::string LinuxSensorSource::devicePath(const std::filesystem::path& node) const
+{
+    std::error_code error;
+    const std::filesystem::path sys = std::filesystem::canonical(root_.join("sys"), error);
+    if (error)
+        return {};
+    std::filesystem::path target = std::filesystem::canonical(node / "device", error);
+    if (error)
+        target = std::filesystem::canonical(node, error);
+    if (error)
+        return {};
+    const std::filesystem::path relative = target.lexically_relative(sys);
+    return relative.empty() || *relative.begin() == ".." ? std::string() : relative.generic_string();
+}
+
+void LinuxSensorSource::discoverHwmon()
+{
     const std::filesystem::path hwmon = root_.join("sys/class/hwmon");
     const auto entries = directoryNames(hwmon);
     if (!entries)
@@ -77,16 +122,33 @@ void LinuxSensorSource::discover()
         }
         Chip chip;
         chip.id = id;
+        chip.device = devicePath(base);
         chip.name = readAttributeText(base / "name").value_or(readAttributeText(dir / "name").value_or(id));
         for (const std::string& name : *names) {
-            if (std::string key = inputKey(name, "temp"); !key.empty()) {
-                auto label = readAttributeText(dir / (key + "_label"));
-                chip.temperatures.push_back({std::move(key), std::move(label), ProcFile(dir / name)});
-            } else if (key = inputKey(name, "fan"); !key.empty()) {
-                auto label = readAttributeText(dir / (key + "_label"));
-                chip.fans.push_back({std::move(key), std::move(label), ProcFile(dir / name)});
-            }
+            if (std::string key = inputKey(name, "temp"); !key.empty())
+                chip.temperatures.push_back({fixedPart(dir, key, false), ProcFile(dir / name)});
+            else if (key = inputKey(name, "fan"); !key.empty())
+                chip.fans.push_back({fixedPart(dir, key, true), ProcFile(dir / name)});
         }
+        chips_.push_back(std::move(chip));
+    }
+}
+
+void LinuxSensorSource::discoverThermalZones()
+{
+    const std::filesystem::path thermal = root_.join("sys/class/thermal");
+    const auto entries = directoryNames(thermal);
+    if (!entries)
+        return;
+    for (const std::string& id : *entries) {
+        if (!id.starts_with("thermal_zone"))
+            continue;
+        const std::filesystem::path zone = thermal / id;
+        SensorReading fixed;
+        fixed.key = "temp";
+        fixed.label = readAttributeText(zone / "type");
+        Chip chip{id, devicePath(zone), "thermal", {}, {}};
+        chip.temperatures.push_back({std::move(fixed), ProcFile(zone / "temp")});
         chips_.push_back(std::move(chip));
     }
 }

@@ -15,18 +15,22 @@ public:
 
 private:
     struct Input {
-        std::string key;
-        std::optional<std::string> label;
+        SensorReading fixed; // key, label and marks, read once
         ProcFile file;
     };
     struct Chip {
         std::string id;
+        std::string device;
         std::string name;
         std::vector<Input> temperatures;
         std::vector<Input> fans;
     };
 
     void discover();
+    void discoverHwmon();
+    void discoverThermalZones();
+    // Below sys, the device a node belongs to, following its device link.
+    std::string devicePath(const std::filesystem::path& node) const;
 
     SysRoot root_;
     std::mutex lock_;
