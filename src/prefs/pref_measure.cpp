@@ -40,3 +40,14 @@ void PrefMeasure::addLabelPair(ModuleDefaults& dict, const QStringList& pair, co
     dict.set(listKey, labels);
     dict.set(widthKey, widest(labels));
 }
+
+PiledText PrefMeasure::piledText(bool text, bool graph, bool pileSetting, double graphWidth, const QString& fullText,
+                                 const QString& bareText) const
+{
+    PiledText piled;
+    piled.pileUp = text && graph && pileSetting;
+    if (piled.pileUp && width(fullText) > graphWidth)
+        piled.fontSize = PrefFunctions::calcPiledFontSize(bareText, size, font, graphWidth);
+    piled.textMode = !text ? 0 : (piled.pileUp ? 2 : 1);
+    return piled;
+}

@@ -13,20 +13,16 @@ using T = PrefType;
 void deriveFan(ModuleDefaults& d, SettingsStore& store, const QVariantMap& theme, ModuleSchemaList)
 {
     const PrefMeasure m = PrefMeasure::fromTheme(theme);
-    const bool pileUp =
-        d.boolValue(Fan_Display_Text) && d.boolValue(Fan_Display_Graph) && d.boolValue(Fan_PileUp_TextGraph);
-    const double graphWidth = static_cast<double>(d.intValue(Fan_GraphWidth));
-    double piledSize = -1.0;
-    if (pileUp && m.width(QStringLiteral("8888rpm")) > graphWidth)
-        piledSize = PrefFunctions::calcPiledFontSize(QStringLiteral("8888"), m.size, m.font, graphWidth);
+    const PiledText piled =
+        m.piledText(d.boolValue(Fan_Display_Text), d.boolValue(Fan_Display_Graph), d.boolValue(Fan_PileUp_TextGraph),
+                    static_cast<double>(d.intValue(Fan_GraphWidth)), QStringLiteral("8888rpm"), QStringLiteral("8888"));
     // Piled text has no room for the unit.
-    const bool bare = piledSize > 0;
-    d.set(FanInnerPileUp, pileUp);
-    d.set(FanInnerPiledFontSizeDbl, piledSize);
+    const bool bare = piled.fontSize > 0;
+    d.set(FanInnerPileUp, piled.pileUp);
+    d.set(FanInnerPiledFontSizeDbl, piled.fontSize);
     d.set(FanInnerTextFormat, bare ? QStringLiteral("%04d") : QStringLiteral("%04drpm"));
     d.set(FanInnerTextWidth, m.floorWidth(bare ? QStringLiteral("8888") : QStringLiteral("8888rpm")));
-    // Text mode: 0 no text, 1 text beside the graph, 2 text piled on it.
-    d.set(FanInnerTextMode, !d.boolValue(Fan_Display_Text) ? 0 : (pileUp ? 2 : 1));
+    d.set(FanInnerTextMode, piled.textMode);
     d.set(Fax_MaxRpm, PrefFunctions::checkMaxRpm(store, d.intValue(Fax_MaxRpm)));
 }
 

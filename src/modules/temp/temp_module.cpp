@@ -11,27 +11,18 @@ using namespace PrefKey;
 using namespace SchemaParts;
 using T = PrefType;
 
-// Text mode of the pictures: 0 no text, 1 text beside the graph, 2 text piled on it.
-qint64 textMode(bool text, bool pileUp)
-{
-    return !text ? 0 : (pileUp ? 2 : 1);
-}
-
 void deriveTemp(ModuleDefaults& d, SettingsStore& store, const QVariantMap& theme, ModuleSchemaList)
 {
     const PrefMeasure m = PrefMeasure::fromTheme(theme);
     const QString unit = PlistFunction::labelForSetting(GeneralFunctions::retTempUnit(), d.intValue(Temp_Unit_Mode));
     d.set(Temp_Unit_ModeStr, unit);
     const QString sample = QStringLiteral("88") + unit;
-    const bool pileUp =
-        d.boolValue(Temp_Display_Text) && d.boolValue(Temp_Display_Graph) && d.boolValue(Temp_PileUp_TextGraph);
-    double piledSize = -1.0;
-    if (pileUp && m.width(sample) > static_cast<double>(d.intValue(Temp_GraphWidth)))
-        piledSize = PrefFunctions::calcPiledFontSize(QStringLiteral("88"), m.size, m.font,
-                                                     static_cast<double>(d.intValue(Temp_GraphWidth)));
-    d.set(TempInnerPileUp, pileUp);
-    d.set(TempInnerPiledFontSizeDbl, piledSize);
-    d.set(TempInnerTextMode, textMode(d.boolValue(Temp_Display_Text), pileUp));
+    const PiledText piled =
+        m.piledText(d.boolValue(Temp_Display_Text), d.boolValue(Temp_Display_Graph), d.boolValue(Temp_PileUp_TextGraph),
+                    static_cast<double>(d.intValue(Temp_GraphWidth)), sample, QStringLiteral("88"));
+    d.set(TempInnerPileUp, piled.pileUp);
+    d.set(TempInnerPiledFontSizeDbl, piled.fontSize);
+    d.set(TempInnerTextMode, piled.textMode);
     d.set(TempInnerTextWidth, m.floorWidth(sample));
     d.set(Temp_MaxTemp, PrefFunctions::checkMaxTemp(store, d.intValue(Temp_MaxTemp)));
 }
