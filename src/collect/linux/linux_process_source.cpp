@@ -47,6 +47,10 @@ std::optional<std::vector<ProcessRecord>> LinuxProcessSource::scanProcesses()
     records.reserve(names->size());
     std::unordered_map<std::int64_t, ProcFile> kept;
     const std::filesystem::path proc = root_.join("proc");
+    // Rejections are told once for every process's stat file together: pids come and go, so a
+    // warning per file would be one per process, and the set of files told of would only grow.
+    // The rejected line itself starts with the pid.
+    const std::filesystem::path anyStat = proc / "[pid]" / "stat";
     for (const std::string& name : *names) {
         if (!isProcessEntry(name))
             continue;
@@ -57,11 +61,11 @@ std::optional<std::vector<ProcessRecord>> LinuxProcessSource::scanProcesses()
             // A process may end between the listing and this read; it is simply left out. A pid
             // reused since the last scan reads through a fresh open of the same name.
             if (const auto text = file.read())
-                record = acceptParsed(file.path(), parseProcessStat(*text));
+                record = acceptParsed(anyStat, parseProcessStat(*text));
             if (record)
                 kept.emplace(pid, std::move(file));
         } else if (const auto text = ProcFile::readOnce(proc / name / "stat")) {
-            record = acceptParsed(proc / name / "stat", parseProcessStat(*text));
+            record = acceptParsed(anyStat, parseProcessStat(*text));
         }
         if (record)
             records.push_back(std::move(*record));
