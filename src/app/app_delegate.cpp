@@ -297,10 +297,10 @@ void AppDelegate::redrawStep(const CycleOutput& output)
 {
     infoDict_ = output.info;
     applyVolumeRenames();
+    // A module switched off meanwhile is left alone by the redraw itself.
     for (const ModuleDescriptor* module : moduleRegistry()) {
-        const ModuleId id = module->schema.id;
-        if (output.sampled[moduleIndex(id)] && switchedOn(id))
-            reDrawModule(id, false);
+        if (output.sampled[moduleIndex(module->schema.id)])
+            reDrawModule(module->schema.id, false);
     }
     // Previews follow the live data only while someone can see them.
     if (preferencePanel_ != nullptr && preferencePanel_->isVisible()) {

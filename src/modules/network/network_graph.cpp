@@ -20,15 +20,6 @@ void fillColumn(QPainter& painter, double x, double y, double height, const QCol
         painter.fillRect(QRectF(x - 1, y, 1, height), color);
 }
 
-} // namespace
-
-NetworkGraphKind networkGraphKind(qint64 storedMode)
-{
-    return storedMode >= 1 && storedMode <= 5 ? static_cast<NetworkGraphKind>(storedMode) : NetworkGraphKind::Default;
-}
-
-namespace {
-
 // One column of the column kinds, u and d the up and down shares of the height h.
 void drawNetworkColumn(QPainter& painter, NetworkGraphKind kind, QPointF at, double h, double u, double d,
                        const QColor& up, const QColor& down)
@@ -58,6 +49,11 @@ void drawNetworkColumn(QPainter& painter, NetworkGraphKind kind, QPointF at, dou
 }
 
 } // namespace
+
+NetworkGraphKind networkGraphKind(qint64 storedMode)
+{
+    return storedMode >= 1 && storedMode <= 5 ? static_cast<NetworkGraphKind>(storedMode) : NetworkGraphKind::Default;
+}
 
 double tvlDrawNetworkGraph(QPainter& painter, const History<NetworkSample>& history, const NetworkGraphStyle& style,
                            QRectF frame, bool drawInWhite)
