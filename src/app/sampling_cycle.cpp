@@ -12,22 +12,22 @@ CycleOutput runBody(LoadSystemInformation& loadInfo, CycleInput input)
     // base lives in the collector: this thread replaces it, the main thread reads snapshots.
     if (!loadInfo.checkInterfaceStatusChange())
         loadInfo.setNetworkBaseDict(loadInfo.retNetworkBase());
-    static const VolumeBaseDict noVolumes;
-    InfoDict info =
-        loadCycleSysInfo(loadInfo, std::move(input.info), input, input.volumeBase ? *input.volumeBase : noVolumes);
-    return {input.due, std::move(info), loadInfo.terminationRequested()};
+    const DueModules due = input.due;
+    InfoDict info = loadCycleSysInfo(loadInfo, std::move(input));
+    return {due, std::move(info), loadInfo.terminationRequested()};
 }
 
 } // namespace SamplingCycle
 
-InfoDict loadCycleSysInfo(LoadSystemInformation& loadInfo, InfoDict info, const CycleInput& cycle,
-                          const VolumeBaseDict& volumeBase)
+InfoDict loadCycleSysInfo(LoadSystemInformation& loadInfo, CycleInput cycle)
 {
+    static const VolumeBaseDict noVolumes;
+    const VolumeBaseDict& volumes = cycle.volumeBase ? *cycle.volumeBase : noVolumes;
     for (std::size_t i = 0; i < moduleRegistry().size(); ++i) {
         const ModuleDescriptor& module = *moduleRegistry()[i];
         if (module.sample == nullptr || !cycle.due[i])
             continue;
-        module.sample({loadInfo, i, cycle.intervals[i], cycle.menuOpened[i], volumeBase}, info);
+        module.sample({loadInfo, i, cycle.intervals[i], cycle.menuOpened[i], volumes}, cycle.info);
     }
-    return info;
+    return std::move(cycle.info);
 }

@@ -37,6 +37,6 @@ CycleOutput runBody(LoadSystemInformation& loadInfo, CycleInput input);
 
 } // namespace SamplingCycle
 
-// Collects the due modules into a new set of histories, each by its module's own step.
-InfoDict loadCycleSysInfo(LoadSystemInformation& loadInfo, InfoDict info, const CycleInput& cycle,
-                          const VolumeBaseDict& volumeBase);
+// Collects the due modules into a new set of histories (the input's, each appended to by its
+// module's own step).
+InfoDict loadCycleSysInfo(LoadSystemInformation& loadInfo, CycleInput cycle);

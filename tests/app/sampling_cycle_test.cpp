@@ -94,7 +94,7 @@ TEST(LoadCycleSysInfo, AnEmptyVolumeSampleIsKeptAndAFailedDiskSampleIsNot)
     LoadSystemInformation loadInfo{SourceSet{}};
     CycleInput cycle;
     cycle.due.set(moduleIndex(ModuleId::Volume)).set(moduleIndex(ModuleId::Disk));
-    const InfoDict info = loadCycleSysInfo(loadInfo, {}, cycle, {});
+    const InfoDict info = loadCycleSysInfo(loadInfo, cycle);
     const auto volumes = moduleHistory<VolumeSample>(info, ModuleId::Volume);
     ASSERT_EQ(volumes.size(), 1u);
     EXPECT_TRUE(volumes.back().empty());
