@@ -43,8 +43,7 @@ void AppDelegate::drawModuleTabViewControllers()
     const AllModuleDefaults all = retAllMyDefault();
     for (const ModuleSchema* schema : allModuleSchemas()) {
         PreferenceTab* tab = createPreferenceTab(schema->id, this, *userDefaults_, *prefCenter_);
-        tab->setTheme(themeColorDict_);
-        tab->setMyDefaults(all);
+        tab->setMyDefaults(all, themeColorDict_);
         const QString label = schema->id == ModuleId::General ? localized("Hello!") : localized(schema->prefName);
         preferencePanel_->addTab(tab, label);
     }
@@ -228,8 +227,7 @@ void AppDelegate::handOutTabDefaults(bool themeChanged)
         return;
     const AllModuleDefaults all = retAllMyDefault();
     for (int i = 0; i < preferencePanel_->tabCount(); ++i) {
-        preferencePanel_->tab(i)->setTheme(themeColorDict_);
-        preferencePanel_->tab(i)->setMyDefaults(all);
+        preferencePanel_->tab(i)->setMyDefaults(all, themeColorDict_);
         preferencePanel_->tab(i)->update();
     }
     if (!themeChanged)

@@ -3,6 +3,7 @@
 
 #include "collect/history.h"
 #include "collect/info_dict.h"
+#include "modules/module_descriptor.h"
 #include "modules/picture_settings_tab.h"
 
 template <class Sample> class SampledPictureTab : public PictureSettingsTab {
@@ -10,7 +11,7 @@ public:
     // Kept only once the module has samples; until then the preview shows its resting picture.
     void setLiveHistory(const InfoDict& info) override
     {
-        const History<Sample> history = info.history<Sample>(moduleIndex(moduleId()));
+        const History<Sample> history = moduleHistory<Sample>(info, moduleId());
         if (history.empty())
             return;
         history_ = history;

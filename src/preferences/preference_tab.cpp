@@ -14,9 +14,10 @@ PreferenceTab::PreferenceTab(const ModuleSchema& schema, SettingsStore& store, P
     setObjectName(QString::fromLatin1(schema.moduleKey));
 }
 
-void PreferenceTab::setMyDefaults(const AllModuleDefaults& all)
+void PreferenceTab::setMyDefaults(const AllModuleDefaults& all, const QVariantMap& theme)
 {
     all_ = all;
+    theme_ = theme;
     resetViews(0);
 }
 

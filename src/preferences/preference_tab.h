@@ -27,11 +27,10 @@ public:
     ModuleId moduleId() const { return schema_.id; }
     const ModuleSchema& schema() const { return schema_; }
 
-    // The colour theme in use, for settings the tab works out again itself. Call before
-    // setMyDefaults.
-    void setTheme(const QVariantMap& theme) { theme_ = theme; }
     // Takes the current settings and shows them; the tab's own changes are not posted meanwhile.
-    void setMyDefaults(const AllModuleDefaults& all);
+    // theme: the colour theme in use, for the settings the tab works out again itself after a
+    // change of its own.
+    void setMyDefaults(const AllModuleDefaults& all, const QVariantMap& theme);
     // Shows the settings again from scratch (after a theme change, for example).
     virtual void resetViews(int which);
     // The sampled data, for live previews; handed over only while the window is shown.

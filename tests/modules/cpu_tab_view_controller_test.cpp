@@ -27,8 +27,7 @@ struct TabFixture {
         all[moduleIndex(ModuleId::Cpu)] = cpu;
         theme = storeTabSettings(store, ModuleId::Cpu, cpu);
         shown = store.values;
-        tab.setTheme(theme);
-        tab.setMyDefaults(all);
+        tab.setMyDefaults(all, theme);
     }
     // The settings as the store holds them now, which the preview shows after a change.
     ModuleDefaults stored() { return PrefFunctions::loadModuleDefaults(ModuleId::Cpu, store, theme); }

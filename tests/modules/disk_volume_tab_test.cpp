@@ -27,8 +27,7 @@ template <class Tab> struct TabFixture {
                          [this](const PrefNotification& n) { posts.push_back(n); });
         all[moduleIndex(id)] = settings;
         theme = storeTabSettings(store, id, settings);
-        tab.setTheme(theme);
-        tab.setMyDefaults(all);
+        tab.setMyDefaults(all, theme);
     }
     template <class Widget> Widget* find(const char* key)
     {

@@ -31,8 +31,7 @@ template <class Tab> struct TabFixture {
         all[moduleIndex(id)] = defaults;
         theme = storeTabSettings(store, id, defaults);
         shown = store.values;
-        tab->setTheme(theme);
-        tab->setMyDefaults(all);
+        tab->setMyDefaults(all, theme);
     }
     template <class Widget> Widget* find(const char* key)
     {
