@@ -12,6 +12,7 @@
 #include "collect/network_sample.h"
 #include "collect/process_cpu_sampler.h"
 #include "collect/process_list.h"
+#include "collect/sensor_dat.h"
 #include "collect/source_set.h"
 #include "collect/storage_descriptions.h"
 
@@ -114,6 +115,25 @@ public:
     std::optional<DiskSample> retDiskRW(double interval);
     // Space of each volume of the base, [0, 0, 0] for one that cannot be measured.
     VolumeSample retDiskUsage(const VolumeBaseDict& volumeBase);
+
+    // Sensors. The table is built and filtered once at start-up, on the main thread; the samples
+    // are taken on the cycle thread, the drive temperatures while the Temp menu is open.
+    // Every temperature sensor the machine names, from the SMC's tables (where it has an SMC)
+    // and the platform's own chips; tempData absent when there is none.
+    SensorDatDict getSensorDatXml(const QString& macRawName);
+    // The table's sensors that answer now; keys that do not join removedTempKeys, and keys
+    // already there are not read again.
+    TempDetail getDetailTemp(const SensorDatDict& dict, const QStringList& removedTempKeys);
+    // Whole degrees of every sensor of the table at 1 °C or more, and their average.
+    SensorSample getBaseTempNew(const SensorDatDict& dict);
+    // Every fan, named, with its keys and limits; empty when the machine reports none.
+    QList<FanEntry> getFanBase();
+    // Every fan's speed and their average over the whole list; empty without a fan list.
+    SensorSample getFanDetail(const SensorDatDict& dict);
+    // The drives' own temperatures; titleOnly lists the drives without asking them (each 0).
+    QList<SmartReading> getSmartTemp(bool titleOnly);
+    // The same with the row ["---", 0] in front, or empty when no drive reports.
+    QList<SmartReading> getSmartDetailTemp(bool titleOnly);
 
     const SourceSet& sources() const { return sources_; }
 
