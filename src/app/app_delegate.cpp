@@ -102,8 +102,7 @@ void AppDelegate::applicationDidFinishLaunching(bool startTimer)
     TvlClasses::checkMyApplicationSupportDir();
     if (MachineSource* machine = loadInfo_->sources().machine.get())
         collectMyMacDetail(store, machineFacts(*machine));
-    // (The sensor table and the menu-font check belong to the Temp and Fan modules' sources and
-    // run here once those modules exist.)
+    loadSensorDatDict();
     themeColorDict_ = TvlClasses::checkThemeValues(TvlClasses::checkNowThemeFile());
     reloadGeneralDefaults(false);
     for (const ModuleSchema* schema : allModuleSchemas()) {
@@ -132,6 +131,32 @@ void AppDelegate::applicationDidFinishLaunching(bool startTimer)
 
     rebootDaysInt = chkGeneInteger(PrefKey::kRebootRegularlyDays);
     rebootMeSetting();
+}
+
+void AppDelegate::loadSensorDatDict()
+{
+    SettingsStore& store = *userDefaults_;
+    SensorDatDict table = loadInfo_->getSensorDatXml(store.stringForKey(PrefKey::MacRawName));
+    if (table.tempData) {
+        QStringList removed;
+        for (const QVariant& key : store.arrayForKey(PrefKey::RemovedTempKeys))
+            removed.append(key.toString());
+        TempDetail detail = loadInfo_->getDetailTemp(table, removed);
+        if (detail.removedTempKeys.isEmpty()) {
+            store.removeObjectForKey(PrefKey::RemovedTempKeys);
+        } else {
+            QVariantList keys;
+            for (const QString& key : std::as_const(detail.removedTempKeys))
+                keys.append(key);
+            store.setArray(PrefKey::RemovedTempKeys, keys);
+        }
+        store.synchronize();
+        if (!detail.entries.isEmpty())
+            table.tempData = std::move(detail.entries);
+    }
+    if (QList<FanEntry> fans = loadInfo_->getFanBase(); !fans.isEmpty())
+        table.fanData = std::move(fans);
+    sensorDatDict_ = std::make_shared<const SensorDatDict>(std::move(table));
 }
 
 void AppDelegate::reloadGeneralDefaults(bool skip)
@@ -281,6 +306,7 @@ void AppDelegate::loadSysInfoTimer()
     input.due = schedule_.decide(cadence);
     input.info = infoDict_;
     input.volumeBase = volumeTracker_->sharedVolumeBaseDict();
+    input.sensors = sensorDatDict_;
     executor_->runInBackground([this, input = std::move(input)]() mutable {
         CycleOutput output = SamplingCycle::runBody(*loadInfo_, std::move(input));
         executor_->postToMain([this, output = std::move(output)] {

@@ -70,6 +70,7 @@ public:
     SettingsStore& settingsStore() override { return *userDefaults_; }
     void openPreferenceTab(int tabIndex) override;
     const QVariantMap& currentTheme() const override { return themeColorDict_; }
+    const SensorDatDict& sensorDatDict() const override { return *sensorDatDict_; }
     QList<QImage> shownBarImages() const override;
     void quitApplication() override;
     bool chkGeneBool(const QString& key) const { return generalDefaults().boolValue(key); }
@@ -136,6 +137,8 @@ Q_SIGNALS:
 private:
     // The launch's first steps on the store: the Shift reset, first-run values, the version.
     void prepareSettingsStore();
+    // The sensor table: every sensor named, less those that do not answer, and the fan list.
+    void loadSensorDatDict();
     // Takes a module's reloaded settings; its interval reaches the schedule at once.
     void setModuleDefaults(ModuleId id, ModuleDefaults defaults);
     void reloadModuleDefaults(ModuleId id);
@@ -173,6 +176,8 @@ private:
     StatusBar* statusBar_ = nullptr;
     qreal pictureScale_ = 0;
     InfoDict infoDict_;
+    // Built once at start-up; the cycle shares it, so it is never changed afterwards.
+    std::shared_ptr<const SensorDatDict> sensorDatDict_ = std::make_shared<const SensorDatDict>();
     // Declared after the settings it reads, so it goes before them and before the collector.
     std::unique_ptr<VolumeTracker> volumeTracker_;
     QTimer* sysInfoTimer_ = nullptr;

@@ -23,11 +23,13 @@ InfoDict loadCycleSysInfo(LoadSystemInformation& loadInfo, CycleInput cycle)
 {
     static const VolumeBaseDict noVolumes;
     const VolumeBaseDict& volumes = cycle.volumeBase ? *cycle.volumeBase : noVolumes;
+    static const SensorDatDict noSensors;
+    const SensorDatDict& sensors = cycle.sensors ? *cycle.sensors : noSensors;
     for (std::size_t i = 0; i < moduleRegistry().size(); ++i) {
         const ModuleDescriptor& module = *moduleRegistry()[i];
         if (module.sample == nullptr || !cycle.due[i])
             continue;
-        module.sample({loadInfo, i, cycle.intervals[i], cycle.menuOpened[i], volumes}, cycle.info);
+        module.sample({loadInfo, i, cycle.intervals[i], cycle.menuOpened[i], volumes, sensors}, cycle.info);
     }
     return std::move(cycle.info);
 }

@@ -3,6 +3,7 @@
 
 #include "app/sampling_schedule.h"
 #include "collect/info_dict.h"
+#include "collect/sensor_dat.h"
 #include "collect/storage_descriptions.h"
 
 #include <array>
@@ -19,6 +20,8 @@ struct CycleInput {
     // The volumes to measure; shared and never changed, so a rebuild on the main thread
     // cannot pull it from under the cycle. None measures nothing.
     std::shared_ptr<const VolumeBaseDict> volumeBase;
+    // The sensor table, fixed at start-up. None samples no sensor.
+    std::shared_ptr<const SensorDatDict> sensors;
 };
 
 struct CycleOutput {

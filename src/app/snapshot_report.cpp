@@ -38,7 +38,7 @@ template <class F> void forEachPart(AppDelegate& app, const auto& parts, F f)
         const SnapshotContext context{app.infoDict(),          i,
                                       schema.moduleKey,        app.defaults(schema.id),
                                       app.collector(),         storage.diskBaseDict(),
-                                      storage.volumeBaseDict()};
+                                      storage.volumeBaseDict(), app.sensorDatDict()};
         f(*parts[i], context);
     }
 }

@@ -2,6 +2,7 @@
 #pragma once
 
 #include "collect/info_dict.h"
+#include "collect/sensor_dat.h"
 #include "collect/storage_descriptions.h"
 #include "modules/status_bar.h"
 #include "prefs/module_defaults.h"
@@ -28,6 +29,12 @@ public:
     virtual SettingsStore& settingsStore() = 0;
     // tabIndex: 0-based, in module registry order.
     virtual void openPreferenceTab(int tabIndex) = 0;
+    // The sensor table worked out at start-up.
+    virtual const SensorDatDict& sensorDatDict() const
+    {
+        static const SensorDatDict none;
+        return none;
+    }
     // The colour theme in use, as stored in its file.
     virtual const QVariantMap& currentTheme() const = 0;
     // The pictures the status items show now, left to right.
@@ -72,6 +79,7 @@ public:
     // Draws again from what is described now, forgetting what was drawn (after a mount).
     virtual void resetAndRefreshBar() { refreshBar(); }
 
+    ModuleId moduleId() const { return id_; }
     bool menuOpened() const { return menuOpened_; }
     void setMenuItemRefresh(bool refresh) { menuItemRefresh = refresh; }
     // Only the Temp module counts the sensors its menu shows.

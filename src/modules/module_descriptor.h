@@ -2,6 +2,7 @@
 #pragma once
 
 #include "collect/info_dict.h"
+#include "collect/sensor_dat.h"
 #include "collect/storage_descriptions.h"
 #include "prefs/pref_schema.h"
 
@@ -25,6 +26,7 @@ struct SampleRequest {
     qint64 interval;  // the module's interval setting, in seconds
     bool menuOpened;  // its menu is open: what only the menu shows is wanted too
     const VolumeBaseDict& volumes;
+    const SensorDatDict& sensors; // the sensor table of start-up
 };
 
 // What a module's part of the snapshot report reads, after the last cycle.
@@ -36,6 +38,7 @@ struct SnapshotContext {
     LoadSystemInformation& loadInfo;
     const DiskBaseDict& disks;
     const VolumeBaseDict& volumes;
+    const SensorDatDict& sensors;
 };
 
 // A module's part of the snapshot report; made when the snapshot starts, told of every cycle.
