@@ -17,6 +17,7 @@
 #include <QHBoxLayout>
 #include <QLabel>
 #include <QSlider>
+#include <QSpinBox>
 #include <QVBoxLayout>
 
 #include <algorithm>
@@ -171,6 +172,28 @@ QComboBox* PictureSettingsTab::addPopup(QFormLayout* form, const char* key, cons
     return popup;
 }
 
+QSpinBox* PictureSettingsTab::addNumber(QFormLayout* form, const char* key, const char* text, int minimum,
+                                       int maximum, int step, const QString& unit)
+{
+    auto* box = new QSpinBox();
+    box->setObjectName(QLatin1String(key));
+    box->setRange(minimum, maximum);
+    box->setSingleStep(step);
+    box->setSuffix(unit);
+    // Typing "75" passes through 7 on its way: only the finished number is stored.
+    box->setKeyboardTracking(false);
+    form->addRow(localized(text), box);
+    numbers_.push_back({key, box});
+    connect(box, &QSpinBox::valueChanged, this, [this, key](int value) {
+        if (loading())
+            return;
+        store().setInteger(QLatin1String(key), value);
+        settingsChanged();
+        commit();
+    });
+    return box;
+}
+
 void PictureSettingsTab::buildFrame(const char* previewName, QWidget* display, QWidget* menuItems)
 {
     auto* columns = new QHBoxLayout();
@@ -211,6 +234,8 @@ void PictureSettingsTab::loadControls()
     }
     for (const auto& [key, box] : switches_)
         box->setChecked(d.boolValue(QLatin1String(key)));
+    for (const auto& [key, box] : numbers_)
+        box->setValue(static_cast<int>(d.intValue(QLatin1String(key))));
     for (const PopupControl& control : popups_) {
         const qint64 index = d.intValue(QLatin1String(control.key)) - control.firstValue;
         control.popup->setCurrentIndex(index >= 0 && index < control.popup->count() ? static_cast<int>(index) : 0);

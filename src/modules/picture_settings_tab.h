@@ -17,6 +17,7 @@ class QComboBox;
 class QFormLayout;
 class QLabel;
 class QSlider;
+class QSpinBox;
 
 class PictureSettingsTab : public PreferenceTab {
     Q_OBJECT
@@ -59,6 +60,9 @@ protected:
     // The module's label switch, stored with the General settings as well.
     QCheckBox* addLabelSwitch(QFormLayout* form, const char* key, const char* text);
     QSlider* addSlider(QFormLayout* form, const char* key, SliderKind kind, int minimum, int maximum);
+    // A whole number from minimum to maximum in steps, shown with its unit ("°C", "rpm").
+    QSpinBox* addNumber(QFormLayout* form, const char* key, const char* text, int minimum, int maximum, int step,
+                        const QString& unit);
     // Entry i stands for the stored value firstValue + i (most settings count from 1).
     QComboBox* addPopup(QFormLayout* form, const char* key, const char* text, const QStringList& entries,
                         qint64 firstValue = 1);
@@ -83,6 +87,10 @@ private:
         QComboBox* popup;
         qint64 firstValue;
     };
+    struct NumberControl {
+        const char* key;
+        QSpinBox* box;
+    };
     struct SliderControl {
         const char* key;
         SliderKind kind;
@@ -102,6 +110,7 @@ private:
     std::vector<std::pair<const char*, QCheckBox*>> switches_;
     std::vector<PopupControl> popups_;
     std::vector<SliderControl> sliders_;
+    std::vector<NumberControl> numbers_;
     // The stored settings since this tab's last change; empty until then.
     ModuleDefaults changedDefaults_;
 };
