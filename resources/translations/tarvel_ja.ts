@@ -136,5 +136,81 @@
         <source>Preferences</source>
         <translation>環境設定</translation>
     </message>
+    <message>
+        <source>No temperature sensors were found.</source>
+        <translation>温度センサーが見つかりませんでした。</translation>
+    </message>
+    <message>
+        <source>No fans were found.</source>
+        <translation>ファンが見つかりませんでした。</translation>
+    </message>
+    <message>
+        <source>Sensors</source>
+        <translation>センサー</translation>
+    </message>
+    <message>
+        <source>Average</source>
+        <translation>平均</translation>
+    </message>
+    <message>
+        <source>Drives</source>
+        <translation>ドライブ</translation>
+    </message>
+    <message>
+        <source>high %1</source>
+        <translation>高温 %1</translation>
+    </message>
+    <message>
+        <source>critical %1</source>
+        <translation>危険 %1</translation>
+    </message>
+    <message>
+        <source>min %1</source>
+        <translation>最小 %1</translation>
+    </message>
+    <message>
+        <source>max %1</source>
+        <translation>最大 %1</translation>
+    </message>
+    <message>
+        <source>Temperature shown</source>
+        <translation>メニューバーに表示する温度</translation>
+    </message>
+    <message>
+        <source>Average of all sensors</source>
+        <translation>全センサーの平均</translation>
+    </message>
+    <message>
+        <source>%1 (not found)</source>
+        <translation>%1（見つかりません）</translation>
+    </message>
+    <message>
+        <source>Top of the graph</source>
+        <translation>グラフの上限</translation>
+    </message>
+    <message>
+        <source>Pile the text on the graph</source>
+        <translation>テキストをグラフに重ねる</translation>
+    </message>
+    <message>
+        <source>Colour the text by the temperature</source>
+        <translation>温度に応じてテキストを色分けする</translation>
+    </message>
+    <message>
+        <source>Colour the text by the speed</source>
+        <translation>回転数に応じてテキストを色分けする</translation>
+    </message>
+    <message>
+        <source>Ask the drives for their temperatures</source>
+        <translation>ドライブに温度を問い合わせる</translation>
+    </message>
+    <message>
+        <source>Show the Temp label</source>
+        <translation>Tempラベルを表示</translation>
+    </message>
+    <message>
+        <source>Show the Fan label</source>
+        <translation>Fanラベルを表示</translation>
+    </message>
 </context>
 </TS>

@@ -40,7 +40,7 @@ run_tree() { # name, root, pictures to compare
 }
 
 # The volume pictures show the live root file system, so only the shared tree compares them.
-pictures=(General CPU CPU-menu Memory Memory-menu Network Network-menu Disk Disk-menu)
+pictures=(General CPU CPU-menu Memory Memory-menu Network Network-menu Disk Disk-menu Temp Fan)
 if [ -d "$shared/linux-procfs" ]; then
   run_tree shared "$shared/linux-procfs" "${pictures[@]}" Volume Volume-menu
 else

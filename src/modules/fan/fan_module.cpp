@@ -1,5 +1,12 @@
-// The Fan module: its settings so far; its status item, sensors and tab come with its sources.
+// The Fan module: its settings, its step of the sampling cycle, its snapshot and its parts.
+#include "collect/load_system_information.h"
+#include "modules/fan/fan_menu_module.h"
+#include "modules/fan/fan_panel_rows.h"
+#include "modules/fan/fan_tab_view_controller.h"
+#include "modules/fan/image_fan_bar.h"
+#include "modules/image_sensor_bar.h"
 #include "modules/module_descriptor.h"
+#include "modules/sensor_snapshot.h"
 #include "prefs/pref_functions.h"
 #include "prefs/pref_keys.h"
 #include "prefs/pref_measure.h"
@@ -52,10 +59,35 @@ ModuleSchema fanSchema()
             &deriveFan};
 }
 
+void sampleFan(const SampleRequest& request, InfoDict& info)
+{
+    SensorSample sample = request.loadInfo.getFanDetail(request.sensors);
+    if (!sample.empty())
+        appendSample(request, info, std::move(sample));
+}
+
+QString fanSnapshotText(const SnapshotContext& context)
+{
+    const SensorSample newest = newestSensorSample(context);
+    const QString bar = fanSpeedText(sensorValue(newest, {}), context.settings.stringValue(FanInnerTextFormat));
+    return sensorSnapshotText(context, bar, fanPanelRows(context.sensors.fanData, newest));
+}
+
+void addFanSnapshotJson(const SnapshotContext& context, QJsonObject& root)
+{
+    addSensorSnapshotJson(context, kAverageFanKey, root);
+}
+
 } // namespace
 
 const ModuleDescriptor& fanModule()
 {
-    static const ModuleDescriptor descriptor{fanSchema()};
+    static const ModuleDescriptor descriptor{fanSchema(),
+                                             &makeMenuModule<Fan_MenuModule>,
+                                             &makePreferenceTab<FanTabViewController>,
+                                             &sampleFan,
+                                             false,
+                                             StorageUse::None,
+                                             &makePlainSnapshot<&fanSnapshotText, &addFanSnapshotJson>};
     return descriptor;
 }

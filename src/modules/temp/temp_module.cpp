@@ -1,9 +1,17 @@
-// The Temp module: its settings so far; its status item, sensors and tab come with its sources.
+// The Temp module: its settings, its step of the sampling cycle, its snapshot and its parts.
+#include "collect/load_system_information.h"
+#include "modules/image_sensor_bar.h"
 #include "modules/module_descriptor.h"
+#include "modules/sensor_snapshot.h"
+#include "modules/temp/temp_menu_module.h"
+#include "modules/temp/temp_panel_rows.h"
+#include "modules/temp/temp_picture_settings.h"
+#include "modules/temp/temp_tab_view_controller.h"
 #include "prefs/pref_functions.h"
 #include "prefs/pref_keys.h"
 #include "prefs/pref_measure.h"
 #include "toolkit/label_lists.h"
+#include "toolkit/temperature_format.h"
 
 namespace {
 
@@ -56,10 +64,40 @@ ModuleSchema tempSchema()
             &deriveTemp};
 }
 
+void sampleTemp(const SampleRequest& request, InfoDict& info)
+{
+    SensorSample sample = request.loadInfo.getBaseTempNew(request.sensors);
+    if (!sample.empty())
+        appendSample(request, info, std::move(sample));
+}
+
+QString tempSnapshotText(const SnapshotContext& context)
+{
+    const ModuleDefaults& d = context.settings;
+    const TempUnit unit{static_cast<int>(d.intValue(Temp_Unit_Mode)), d.stringValue(Temp_Unit_ModeStr)};
+    const SensorSample newest = newestSensorSample(context);
+    const std::optional<qint64> shown = sensorValue(newest, tempShownSensor(d));
+    const QString bar = TvlClasses::calcTempWithUnit(shown ? static_cast<float>(*shown) : 0.0F, unit.mode, unit.text, true);
+    // The drives are only listed unless the settings allow asking them.
+    const QList<SmartReading> drives = context.loadInfo.getSmartDetailTemp(!d.boolValue(Temp_AccessForSmartDisks));
+    return sensorSnapshotText(context, bar, tempPanelRows(context.sensors.tempData, newest, unit, drives));
+}
+
+void addTempSnapshotJson(const SnapshotContext& context, QJsonObject& root)
+{
+    addSensorSnapshotJson(context, kAverageTempKey, root);
+}
+
 } // namespace
 
 const ModuleDescriptor& tempModule()
 {
-    static const ModuleDescriptor descriptor{tempSchema()};
+    static const ModuleDescriptor descriptor{tempSchema(),
+                                             &makeMenuModule<Temp_MenuModule>,
+                                             &makePreferenceTab<TempTabViewController>,
+                                             &sampleTemp,
+                                             false,
+                                             StorageUse::None,
+                                             &makePlainSnapshot<&tempSnapshotText, &addTempSnapshotJson>};
     return descriptor;
 }

@@ -1,0 +1,38 @@
+// Builds the Fan menu's rows from the fan list and the newest sample.
+#include "modules/fan/fan_panel_rows.h"
+
+#include "toolkit/localization.h"
+
+namespace {
+
+QString speed(std::optional<qint64> rpm)
+{
+    return rpm ? QStringLiteral("%1 rpm").arg(*rpm) : QStringLiteral("---");
+}
+
+QString limits(const FanEntry& fan)
+{
+    QStringList parts;
+    if (fan.minimum)
+        parts.append(localized("min %1").arg(speed(*fan.minimum)));
+    if (fan.maximum)
+        parts.append(localized("max %1").arg(speed(*fan.maximum)));
+    return parts.join(QStringLiteral(", "));
+}
+
+} // namespace
+
+QList<SensorPanelRow> fanPanelRows(const QList<FanEntry>& fans, const SensorSample& sample)
+{
+    using Kind = SensorPanelRow::Kind;
+    if (fans.isEmpty())
+        return {{Kind::Note, localized("No fans were found."), {}, {}}};
+    QList<SensorPanelRow> rows;
+    for (const FanEntry& fan : fans) {
+        const auto it = sample.values.constFind(fan.name);
+        rows.append({Kind::Reading, fan.name, speed(it == sample.values.cend() ? std::nullopt : std::optional(*it)),
+                     limits(fan)});
+    }
+    rows.append({Kind::Reading, localized("Average"), speed(sample.average), {}});
+    return rows;
+}

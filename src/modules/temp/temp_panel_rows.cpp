@@ -1,0 +1,64 @@
+// Builds the Temp menu's rows from the sensor table, the newest sample and the drive list.
+#include "modules/temp/temp_panel_rows.h"
+
+#include "toolkit/localization.h"
+#include "toolkit/temperature_format.h"
+
+namespace {
+
+QString degrees(std::optional<qint64> celsius, const TempUnit& unit)
+{
+    return TvlClasses::calcTempWithUnit(celsius ? static_cast<float>(*celsius) : 0.0F, unit.mode, unit.text, true);
+}
+
+QString marks(const TempSensorEntry& entry, const TempUnit& unit)
+{
+    QStringList parts;
+    if (entry.high)
+        parts.append(localized("high %1").arg(degrees(*entry.high, unit)));
+    if (entry.critical)
+        parts.append(localized("critical %1").arg(degrees(*entry.critical, unit)));
+    return parts.join(QStringLiteral(", "));
+}
+
+std::optional<qint64> reading(const SensorSample& sample, const QString& name)
+{
+    const auto it = sample.values.constFind(name);
+    return it == sample.values.cend() ? std::nullopt : std::optional<qint64>(it.value());
+}
+
+} // namespace
+
+QList<SensorPanelRow> tempPanelRows(const std::optional<QList<TempSensorEntry>>& table, const SensorSample& sample,
+                                    const TempUnit& unit, const QList<SmartReading>& drives)
+{
+    using Kind = SensorPanelRow::Kind;
+    QList<SensorPanelRow> rows;
+    if (!table || table->isEmpty()) {
+        rows.append({Kind::Note, localized("No temperature sensors were found."), {}, {}});
+    } else {
+        // Chips in the order the table first names them, each with all of its sensors.
+        QStringList groups;
+        for (const TempSensorEntry& entry : *table) {
+            if (!groups.contains(entry.group))
+                groups.append(entry.group);
+        }
+        for (const QString& group : std::as_const(groups)) {
+            rows.append({Kind::Heading, group.isEmpty() ? localized("Sensors") : group, {}, {}});
+            for (const TempSensorEntry& entry : *table) {
+                if (entry.group == group)
+                    rows.append({Kind::Reading, entry.name, degrees(reading(sample, entry.name), unit),
+                                 marks(entry, unit)});
+            }
+        }
+        rows.append({Kind::Reading, localized("Average"), degrees(sample.average, unit), {}});
+    }
+    // The drive list starts with its "---" row, which stands for the section's heading.
+    for (qsizetype i = 0; i < drives.size(); ++i) {
+        if (i == 0)
+            rows.append({Kind::Heading, localized("Drives"), {}, {}});
+        else
+            rows.append({Kind::Reading, drives.at(i).model, degrees(drives.at(i).temperature, unit), {}});
+    }
+    return rows;
+}
