@@ -4,20 +4,13 @@
 #include "modules/sensor_panel.h"
 #include "modules/temp/temp_panel_rows.h"
 
+#include "sensor_samples.h"
+
 #include <gtest/gtest.h>
 
 namespace {
 
 using Kind = SensorPanelRow::Kind;
-
-SensorSample sample(std::initializer_list<std::pair<const char*, qint64>> values, std::optional<qint64> average)
-{
-    SensorSample s;
-    for (const auto& [name, value] : values)
-        s.values.insert(QString::fromUtf8(name), value);
-    s.average = average;
-    return s;
-}
 
 QString text(const QList<SensorPanelRow>& rows)
 {
@@ -38,7 +31,7 @@ TEST(TempPanelRows, GroupsByChipWithMarksTheAverageAndTheDrives)
     const QList<SmartReading> drives{{QStringLiteral("---"), 0}, {QStringLiteral("WDC WD40"), 35},
                                      {QStringLiteral("ST1000"), 0}};
     // Core 0 gave no valid reading this time; the second drive was only listed.
-    const auto rows = tempPanelRows(table, sample({{"Package", 52}, {"Nvme Composite", 41}}, 46),
+    const auto rows = tempPanelRows(table, sensorSample({{"Package", 52}, {"Nvme Composite", 41}}, 46),
                                     {1, QStringLiteral("°C")}, drives);
     EXPECT_EQ(text(rows), QStringLiteral("coretemp\n"
                                          "Package  52°C  (high 80°C, critical 100°C)\n"
@@ -51,7 +44,7 @@ TEST(TempPanelRows, GroupsByChipWithMarksTheAverageAndTheDrives)
                                          "ST1000  ---\n"));
 
     // Marks follow the unit too.
-    const auto kelvin = tempPanelRows(QList<TempSensorEntry>{table.first()}, sample({{"Package", 52}}, 52),
+    const auto kelvin = tempPanelRows(QList<TempSensorEntry>{table.first()}, sensorSample({{"Package", 52}}, 52),
                                       {3, QStringLiteral("K")}, {});
     EXPECT_EQ(kelvin.at(1).marks, QStringLiteral("high 353K, critical 373K"));
 }
@@ -70,7 +63,7 @@ TEST(FanPanelRows, ListsEveryFanWithItsLimitsAndTheAverage)
 {
     const QList<FanEntry> fans{{QStringLiteral("Leftside"), QStringLiteral("F0ID"), QStringLiteral("F0Ac"), 1200, 6200},
                                {QStringLiteral("(Untitled Fan #2)"), QStringLiteral("F1ID"), QStringLiteral("F1Ac"), {}, {}}};
-    EXPECT_EQ(text(fanPanelRows(fans, sample({{"Leftside", 1998}, {"(Untitled Fan #2)", 0}}, 999))),
+    EXPECT_EQ(text(fanPanelRows(fans, sensorSample({{"Leftside", 1998}, {"(Untitled Fan #2)", 0}}, 999))),
               QStringLiteral("Leftside  1998 rpm  (min 1200 rpm, max 6200 rpm)\n"
                              "(Untitled Fan #2)  0 rpm\n"
                              "Average  999 rpm\n"));

@@ -8,6 +8,8 @@
 #include "modules/temp/temp_theme_keys.h"
 #include "picture_recording.h"
 
+#include "sensor_samples.h"
+
 #include <gtest/gtest.h>
 
 #include <cmath>
@@ -44,15 +46,6 @@ ModuleDefaults tempDefaults(bool graph, bool text, bool piled = false, bool labe
     return d;
 }
 
-SensorSample sample(std::initializer_list<std::pair<const char*, qint64>> values, std::optional<qint64> average)
-{
-    SensorSample s;
-    for (const auto& [name, value] : values)
-        s.values.insert(QString::fromUtf8(name), value);
-    s.average = average;
-    return s;
-}
-
 History<SensorSample> history(std::initializer_list<SensorSample> samples)
 {
     History<SensorSample> h;
@@ -84,7 +77,7 @@ std::vector<DrawCall> rects(const std::vector<DrawCall>& calls)
 
 TEST(SensorBarWidth, EqualsThePictureForEveryCombination)
 {
-    const History<SensorSample> h = history({sample({}, 45)});
+    const History<SensorSample> h = history({sensorSample({}, 45)});
     const double s2 = TvlClasses::retStatusMenuInsets(2).spacing;
     struct Case {
         bool graph, text, piled, label;
@@ -110,7 +103,7 @@ TEST(ImageSensorBar, GraphScalesToTheTopAndColoursByLevel)
     const ModuleDefaults d = tempDefaults(true, false);
     // Oldest to newest: 50 °C, 80 °C (warning from 70), 120 °C (over the top: full, critical).
     const auto calls = rects(drawPicture<ImageTempBar>(tempPictureSettings(d),
-                                                       history({sample({}, 50), sample({}, 80), sample({}, 120)}))
+                                                       history({sensorSample({}, 50), sensorSample({}, 80), sensorSample({}, 120)}))
                                  .calls);
     ASSERT_EQ(calls.size(), 3U); // newest first
     EXPECT_DOUBLE_EQ(calls[0].rect.left(), 29); // newest at the right edge
@@ -125,7 +118,7 @@ TEST(ImageSensorBar, GraphScalesToTheTopAndColoursByLevel)
 TEST(ImageSensorBar, FollowsTheChosenSensorAndLeavesGapsWhereItIsMissing)
 {
     const SensorPictureSettings settings = tempPictureSettings(tempDefaults(true, true));
-    const History<SensorSample> h = history({sample({{"CPU", 60}}, 50), sample({{"GPU", 40}}, 40)});
+    const History<SensorSample> h = history({sensorSample({{"CPU", 60}}, 50), sensorSample({{"GPU", 40}}, 40)});
     // The chosen sensor is missing from the newest sample: a gap at the right edge, the
     // placeholder for its text.
     const Drawn cpu = drawPicture<ImageTempBar>(settings, h, QStringLiteral("CPU"));
@@ -142,13 +135,13 @@ TEST(ImageSensorBar, WritesTheFigureInTheUnitAndFormatOfTheSettings)
     ModuleDefaults d = tempDefaults(false, true);
     d.set(Temp_Unit_Mode, qint64{2});
     d.set(Temp_Unit_ModeStr, QStringLiteral("°F"));
-    EXPECT_EQ(textsOf(drawPicture<ImageTempBar>(tempPictureSettings(d), history({sample({}, 45)})).calls),
+    EXPECT_EQ(textsOf(drawPicture<ImageTempBar>(tempPictureSettings(d), history({sensorSample({}, 45)})).calls),
               QStringList{QStringLiteral("113°F")});
 
     // Piled and shrunk, the figure goes without its unit onto the graph.
     ModuleDefaults piled = tempDefaults(true, true, true);
     piled.set(TempInnerPiledFontSizeDbl, 7.0);
-    const Drawn onGraph = drawPicture<ImageTempBar>(tempPictureSettings(piled), history({sample({}, 45)}));
+    const Drawn onGraph = drawPicture<ImageTempBar>(tempPictureSettings(piled), history({sensorSample({}, 45)}));
     EXPECT_EQ(textsOf(onGraph.calls), QStringList{QStringLiteral("45")});
 
     EXPECT_EQ(fanSpeedText(1250, QStringLiteral("%04drpm")), QStringLiteral("1250rpm"));
