@@ -158,4 +158,6 @@ private:
     std::shared_ptr<const NetworkBase> networkBase_ = std::make_shared<const NetworkBase>();
     mutable std::mutex networkBaseLock;
     std::atomic<bool> terminationRequested_ = false;
+    // One SMC connection at a time: the cycle's samples and the start-up table share the source.
+    std::mutex sensorLock;
 };

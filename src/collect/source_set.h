@@ -10,6 +10,7 @@
 #include "collect/network_source.h"
 #include "collect/process_source.h"
 #include "collect/sensor_source.h"
+#include "collect/smc_source.h"
 
 #include <filesystem>
 #include <memory>
@@ -27,6 +28,8 @@ struct SourceSet {
     // The live device manager; absent below any other root, whose devices it does not know.
     std::unique_ptr<DeviceDatabaseSource> deviceDatabase;
     std::unique_ptr<SensorSource> sensors;
+    // The System Management Controller, or what stands in for it where there is none.
+    std::unique_ptr<SmcSource> smc;
     std::unique_ptr<MachineSource> machine;
 };
 
