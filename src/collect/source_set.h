@@ -27,7 +27,8 @@ struct SourceSet {
     std::unique_ptr<MountSource> mounts;
     // The live device manager; absent below any other root, whose devices it does not know.
     std::unique_ptr<DeviceDatabaseSource> deviceDatabase;
-    std::unique_ptr<SensorSource> sensors;
+    // Shared: the SMC stand-in reads the chips through it.
+    std::shared_ptr<SensorSource> sensors;
     // The System Management Controller, or what stands in for it where there is none.
     std::unique_ptr<SmcSource> smc;
     std::unique_ptr<MachineSource> machine;
