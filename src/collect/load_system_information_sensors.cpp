@@ -143,12 +143,42 @@ SensorSample LoadSystemInformation::getFanDetail(const SensorDatDict& dict)
     return sample;
 }
 
-QList<SmartReading> LoadSystemInformation::getSmartTemp(bool)
+std::optional<SmartReading> LoadSystemInformation::PerformSMARTUnitTest(DriveSource& drives, const DriveListing& drive,
+                                                                        bool titleOnly)
 {
-    return {};
+    SmartReading reading{QString::fromStdString(drive.model), 0};
+    if (!titleOnly && drive.hasSensorChip) {
+        reading.temperature = static_cast<int>(drive.chipMillidegrees.value_or(0) / 1000);
+    } else if (!titleOnly) {
+        const AtaPages pages = drives.readAtaPages(drive.name).value_or(AtaPages{});
+        if (pages.identify && ataIdentifyValid(*pages.identify)) {
+            if (reading.model.isEmpty())
+                reading.model = QString::fromLatin1(ataModelName(*pages.identify));
+            if (pages.smartData && ataSmartDataValid(*pages.smartData))
+                reading.temperature = ataTemperature(*pages.smartData);
+        }
+    }
+    if (reading.model.isEmpty())
+        return std::nullopt;
+    return reading;
 }
 
-QList<SmartReading> LoadSystemInformation::getSmartDetailTemp(bool)
+QList<SmartReading> LoadSystemInformation::getSmartTemp(bool titleOnly)
 {
-    return {};
+    QList<SmartReading> readings;
+    if (!sources_.drives)
+        return readings;
+    const std::lock_guard guard(driveLock);
+    for (const DriveListing& drive : sources_.drives->listDrives(!titleOnly))
+        if (auto reading = PerformSMARTUnitTest(*sources_.drives, drive, titleOnly))
+            readings.append(std::move(*reading));
+    return readings;
+}
+
+QList<SmartReading> LoadSystemInformation::getSmartDetailTemp(bool titleOnly)
+{
+    QList<SmartReading> readings = getSmartTemp(titleOnly);
+    if (!readings.isEmpty())
+        readings.prepend(SmartReading{QStringLiteral("---"), 0});
+    return readings;
 }

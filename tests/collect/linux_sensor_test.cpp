@@ -52,6 +52,14 @@ std::string show(const QList<FanEntry>& fans)
     return out;
 }
 
+std::string show(const QList<SmartReading>& drives)
+{
+    std::string out;
+    for (const SmartReading& d : drives)
+        out += '[' + d.model.toStdString() + "] " + std::to_string(d.temperature) + ';';
+    return out;
+}
+
 // Start-up as the application runs it, then one sample of each kind.
 struct Collected {
     std::string table;
@@ -113,6 +121,13 @@ TEST(LinuxSensors, TablesSamplesAndFansOfEachTree)
           "Applesmc TZ9X=41;Coretemp Core 0=53;Coretemp Package Id 0=55;Enclosure Base 1=30;GPU Proximity=48;"
           "PCPU 1 Proximity=52; avg 46",
           "Leftside F0Ac 2000/6200;Rightside F1Ac 2000/6200;", "Leftside=2000;Rightside=0; avg 1000"}},
+        // Two NVMe composites told apart by their devices.
+        {"sensors-drives",
+         {"devices/pci0000:00/0000:00:1c.4/0000:3c:00.0/temp1 [0000:3c:00.0 Composite] nvme -/-;"
+          "devices/pci0000:00/0000:00:17.0/ata1/host0/target0:0:0/0:0:0:0/temp1 [Drivetemp Temp1] drivetemp 60/85;"
+          "devices/pci0000:00/0000:00:1d.0/0000:3d:00.0/nvme/nvme0/temp2 [Nvme Sensor 1] nvme -/-;"
+          "devices/pci0000:00/0000:00:1d.0/0000:3d:00.0/nvme/nvme0/temp1 [Nvme0 Composite] nvme 81/84;",
+          "0000:3c:00.0 Composite=45;Drivetemp Temp1=35;Nvme Sensor 1=41;Nvme0 Composite=38; avg 39", "", " avg -"}},
         {"sensors-thermal-only",
          {"devices/virtual/thermal/thermal_zone1/temp [Acpitz] thermal -/-;"
           "devices/virtual/thermal/thermal_zone0/temp [X86_pkg_temp] thermal -/-;",
@@ -183,6 +198,20 @@ TEST(LinuxSensors, AReloadedDriverIsFoundAgainUnderItsLastingKey)
     std::ofstream(fresh / "temp2_input") << "51000\n";
     changed = true;
     EXPECT_EQ(read(), 51);
+}
+
+TEST(LinuxSensors, DrivesMatchedToTheirChipsAndModels)
+{
+    LoadSystemInformation info(makeSourceSet(tree("sensors-drives")));
+    // The optical drive and the loop device are no drives; the virtual disk names no model; the
+    // second SATA disk has no chip and below a tree its device is not asked.
+    EXPECT_EQ(show(info.getSmartTemp(false)),
+              "[Samsung SSD 970 EVO Plus 500GB] 38;[WD Blue SN570 1TB] 45;[Samsung SSD 860] 35;[WDC WD40EFRX-68N] 0;");
+    EXPECT_EQ(show(info.getSmartTemp(true)),
+              "[Samsung SSD 970 EVO Plus 500GB] 0;[WD Blue SN570 1TB] 0;[Samsung SSD 860] 0;[WDC WD40EFRX-68N] 0;");
+    EXPECT_EQ(show(info.getSmartDetailTemp(false)),
+              "[---] 0;[Samsung SSD 970 EVO Plus 500GB] 38;[WD Blue SN570 1TB] 45;[Samsung SSD 860] 35;"
+              "[WDC WD40EFRX-68N] 0;");
 }
 
 TEST(LinuxSensors, NothingToReadGivesEmptyResults)

@@ -2,6 +2,7 @@
 #include "collect/linux/hwmon_watch.h"
 #include "collect/linux/linux_block_device_source.h"
 #include "collect/linux/linux_cpu_source.h"
+#include "collect/linux/linux_drive_source.h"
 #include "collect/linux/linux_machine_source.h"
 #include "collect/linux/linux_memory_source.h"
 #include "collect/linux/linux_mount_source.h"
@@ -32,6 +33,7 @@ SourceSet makeSourceSet(const std::filesystem::path& root)
         hwmonChanged = [watch = std::make_shared<HwmonWatch>()] { return watch->changed(); };
     sources.sensors = std::make_shared<LinuxSensorSource>(sysRoot, std::move(hwmonChanged));
     sources.smc = std::make_unique<LinuxSmcSource>(sources.sensors);
+    sources.drives = std::make_unique<LinuxDriveSource>(sysRoot, sources.sensors, live);
     sources.machine = std::make_unique<LinuxMachineSource>(sysRoot);
     return sources;
 }
