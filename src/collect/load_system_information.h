@@ -134,6 +134,11 @@ public:
     QList<SmartReading> getSmartTemp(bool titleOnly);
     // The same with the row ["---", 0] in front, or empty when no drive reports.
     QList<SmartReading> getSmartDetailTemp(bool titleOnly);
+    // One drive's own report: its model and whole degrees, from its sensor chip or else its SMART
+    // attributes (0 when neither gives one); none when the drive names no model. titleOnly asks
+    // nothing of the drive. No self-test is ever started.
+    static std::optional<SmartReading> PerformSMARTUnitTest(DriveSource& drives, const DriveListing& drive,
+                                                            bool titleOnly);
 
     const SourceSet& sources() const { return sources_; }
 
@@ -158,4 +163,8 @@ private:
     std::shared_ptr<const NetworkBase> networkBase_ = std::make_shared<const NetworkBase>();
     mutable std::mutex networkBaseLock;
     std::atomic<bool> terminationRequested_ = false;
+    // One SMC connection at a time: the cycle's samples and the start-up table share the source.
+    std::mutex sensorLock;
+    // The drives are asked from the Temp menu, on whichever thread shows it.
+    std::mutex driveLock;
 };

@@ -21,15 +21,25 @@ struct SensorChip {
     std::string id;     // where the system lists it now, e.g. "hwmon0"; may change across boots
     std::string device; // the device it belongs to below sys, e.g. "devices/platform/coretemp.0";
                         // the same across boots, so choices are remembered by it
-    std::string name;   // the driver's chip name, e.g. "coretemp"
+    std::string name;   // the driver's chip name, e.g. "coretemp"; without one, the device's own
+                        // name ("it87.552"), which stays across boots where "hwmon5" does not
     std::vector<SensorReading> temperatures;
     std::vector<SensorReading> fans;
 };
 
+// The readings a caller wants: a temperature sample need not wake the fans' inputs, nor a fan
+// sample the drives'. The chips themselves are listed whatever is asked.
+enum class SensorKinds { None = 0, Temperatures = 1, Fans = 2, All = 3 };
+
+constexpr bool includes(SensorKinds kinds, SensorKinds kind)
+{
+    return (static_cast<int>(kinds) & static_cast<int>(kind)) != 0;
+}
+
 class SensorSource {
 public:
     virtual ~SensorSource() = default;
-    // Current readings; inputs that cannot be read this time are left out. Where no chip gives
-    // a temperature, the thermal zones stand in, one chip each.
-    virtual std::vector<SensorChip> readSensors() = 0;
+    // Current readings of the kinds asked for; inputs that cannot be read this time are left
+    // out. Where no chip gives a temperature, the thermal zones stand in, one chip each.
+    virtual std::vector<SensorChip> readSensors(SensorKinds kinds) = 0;
 };

@@ -1,7 +1,10 @@
 // Source of System Management Controller values: open, read keys by name, close.
 #pragma once
 
+#include "collect/sensor_dat.h"
 #include "collect/smc_value.h"
+
+#include <QList>
 
 #include <string_view>
 
@@ -16,4 +19,12 @@ public:
     // the platform's result code, 0 on success.
     virtual int readValue(std::string_view key, SMCValue& value) = 0;
     virtual void close() = 0;
+
+    // Between open() and close(): whether the keys of the SMC's sensor tables can be answered
+    // at all. Where no SMC is present they are not offered, so that a hundred keys that can
+    // never answer are neither probed nor remembered as failed.
+    virtual bool servesSmcKeys() { return true; }
+    // Between open() and close(): temperature inputs the platform names itself, beyond the SMC's
+    // tables, each under a key that readValue answers; names unique among them.
+    virtual QList<TempSensorEntry> namedTemperatures() { return {}; }
 };

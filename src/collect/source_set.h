@@ -4,12 +4,14 @@
 #include "collect/block_device_source.h"
 #include "collect/cpu_source.h"
 #include "collect/device_database_source.h"
+#include "collect/drive_source.h"
 #include "collect/machine_source.h"
 #include "collect/memory_source.h"
 #include "collect/mount_source.h"
 #include "collect/network_source.h"
 #include "collect/process_source.h"
 #include "collect/sensor_source.h"
+#include "collect/smc_source.h"
 
 #include <filesystem>
 #include <memory>
@@ -26,7 +28,11 @@ struct SourceSet {
     std::unique_ptr<MountSource> mounts;
     // The live device manager; absent below any other root, whose devices it does not know.
     std::unique_ptr<DeviceDatabaseSource> deviceDatabase;
-    std::unique_ptr<SensorSource> sensors;
+    // Shared: the SMC stand-in and the drives read the same chips through it.
+    std::shared_ptr<SensorSource> sensors;
+    // The System Management Controller, or what stands in for it where there is none.
+    std::unique_ptr<SmcSource> smc;
+    std::unique_ptr<DriveSource> drives;
     std::unique_ptr<MachineSource> machine;
 };
 

@@ -191,7 +191,7 @@ std::string machineIdentity(const SysRoot& root)
 std::string sensorChips(const SysRoot& root)
 {
     LinuxSensorSource sensors(root);
-    sensors.readSensors();
+    sensors.readSensors(SensorKinds::All);
     const auto reading = [](const SensorReading& r) {
         std::string out = ' ' + r.key + '(' + show(r.label) + ")=" + std::to_string(r.value);
         for (const auto& [mark, value] : {std::pair{" min=", r.low}, {" max=", r.high}, {" crit=", r.critical}})
@@ -200,7 +200,7 @@ std::string sensorChips(const SysRoot& root)
         return out;
     };
     std::string out;
-    for (const SensorChip& chip : sensors.readSensors()) {
+    for (const SensorChip& chip : sensors.readSensors(SensorKinds::All)) {
         out += chip.id + " @" + chip.device + ' ' + chip.name + " temps";
         for (const SensorReading& r : chip.temperatures)
             out += reading(r);
@@ -293,14 +293,15 @@ std::vector<TreeRow> deviceRows()
          "fan1(CPU Fan)=1200;hwmon1 @class/hwmon/hwmon1/device it87 temps temp1(-)=38000 fans fan2(-)=0;"
          "hwmon10 @class/hwmon/hwmon10 nvme temps temp1(-)=31850 fans;"},
         // Two packages with the same "Core 0" told apart by their devices, which stay when the
-        // hwmon numbers change; a fan without a label, one standing still; a chip without a name.
+        // hwmon numbers change; a fan without a label, one standing still; a chip without a name
+        // goes by its device's.
         {"SensorDevicesAndMarks", Tree::Own,
          [](const SysRoot& r) { return sensorChips(sibling(r, "sensors-desktop")); },
          "hwmon2 @devices/platform/nct6775.656 nct6775 temps fans fan1(-)=1200 min=300 max=2000 fan2(-)=0;"
          "hwmon3 @devices/platform/coretemp.0 coretemp temps temp1(Package id 0)=45000 max=80000 crit=100000 "
          "temp2(Core 0)=43000 fans;"
          "hwmon4 @devices/platform/coretemp.1 coretemp temps temp1(Package id 1)=47000 temp2(Core 0)=44000 fans;"
-         "hwmon5 @devices/platform/it87.552 hwmon5 temps temp1(-)=30000 fans;"},
+         "hwmon5 @devices/platform/it87.552 it87.552 temps temp1(-)=30000 fans;"},
         // Without hwmon temperatures the thermal zones stand in; other thermal entries do not.
         {"ThermalZonesOnly", Tree::Own,
          [](const SysRoot& r) { return sensorChips(sibling(r, "sensors-thermal-only")); },

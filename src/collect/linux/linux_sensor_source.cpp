@@ -45,15 +45,19 @@ SensorReading fixedPart(const std::filesystem::path& dir, const std::string& key
 
 } // namespace
 
-LinuxSensorSource::LinuxSensorSource(const SysRoot& root)
-    : root_(root)
+LinuxSensorSource::LinuxSensorSource(const SysRoot& root, std::function<bool()> devicesChanged)
+    : root_(root), devicesChanged_(std::move(devicesChanged))
 {}
 
-std::vector<SensorChip> LinuxSensorSource::readSensors()
+std::vector<SensorChip> LinuxSensorSource::readSensors(SensorKinds kinds)
 {
     const std::lock_guard guard(lock_);
-    if (!discovered_)
+    // Asked every time, so that the announcements do not pile up before the first read.
+    const bool changed = devicesChanged_ && devicesChanged_();
+    if (!discovered_ || changed) {
+        chips_.clear();
         discover();
+    }
     std::vector<SensorChip> result;
     result.reserve(chips_.size());
     const auto readInputs = [](std::vector<Input>& inputs, std::vector<SensorReading>& readings) {
@@ -69,8 +73,10 @@ std::vector<SensorChip> LinuxSensorSource::readSensors()
     };
     for (Chip& chip : chips_) {
         SensorChip reading{chip.id, chip.device, chip.name, {}, {}};
-        readInputs(chip.temperatures, reading.temperatures);
-        readInputs(chip.fans, reading.fans);
+        if (includes(kinds, SensorKinds::Temperatures))
+            readInputs(chip.temperatures, reading.temperatures);
+        if (includes(kinds, SensorKinds::Fans))
+            readInputs(chip.fans, reading.fans);
         result.push_back(std::move(reading));
     }
     return result;
@@ -123,7 +129,9 @@ void LinuxSensorSource::discoverHwmon()
         Chip chip;
         chip.id = id;
         chip.device = devicePath(base);
-        chip.name = readAttributeText(base / "name").value_or(readAttributeText(dir / "name").value_or(id));
+        chip.name = readAttributeText(base / "name").value_or(readAttributeText(dir / "name").value_or(""));
+        if (chip.name.empty())
+            chip.name = chip.device.empty() ? id : std::filesystem::path(chip.device).filename().string();
         for (const std::string& name : *names) {
             if (std::string key = inputKey(name, "temp"); !key.empty())
                 chip.temperatures.push_back({fixedPart(dir, key, false), ProcFile(dir / name)});

@@ -5,13 +5,16 @@
 #include "collect/linux/sys_root.h"
 #include "collect/sensor_source.h"
 
+#include <functional>
 #include <mutex>
 
 class LinuxSensorSource final : public SensorSource {
 public:
-    explicit LinuxSensorSource(const SysRoot& root);
+    // devicesChanged is asked before every read (it must not block): true when hwmon devices
+    // came or went, so that the chips are found anew, under their new hwmonN entries.
+    explicit LinuxSensorSource(const SysRoot& root, std::function<bool()> devicesChanged = {});
 
-    std::vector<SensorChip> readSensors() override;
+    std::vector<SensorChip> readSensors(SensorKinds kinds) override;
 
 private:
     struct Input {
@@ -33,8 +36,10 @@ private:
     std::string devicePath(const std::filesystem::path& node) const;
 
     SysRoot root_;
+    std::function<bool()> devicesChanged_;
     std::mutex lock_;
-    // Chips and inputs are found once; after that only the kept-open input files are read.
+    // Chips and inputs are found once, and again only when devices come or go; in between only
+    // the kept-open input files are read.
     bool discovered_ = false;
     std::vector<Chip> chips_;
 };
