@@ -43,7 +43,7 @@ void TestApp::launchWithBar(StatusBar& bar)
 
 void TestApp::launchOn(StatusBar* bar, bool threaded)
 {
-    SourceSet sources;
+    SourceSet sources = root.empty() ? SourceSet{} : makeSourceSet(root);
     auto source = std::make_unique<ScriptedCpuSource>(script);
     cpu = source.get();
     sources.cpu = std::move(source);

@@ -13,6 +13,7 @@
 
 #include <atomic>
 #include <deque>
+#include <filesystem>
 #include <functional>
 #include <memory>
 #include <vector>
@@ -60,6 +61,8 @@ struct TestApp {
     History<CpuSample> cpuHistory() const { return moduleHistory<CpuSample>(app->infoDict(), ModuleId::Cpu); }
     QString settingsPath() const { return dir.filePath(QStringLiteral("settings.plist")); }
 
+    // The tree the other sources read below; none reads nothing but the scripted processor.
+    std::filesystem::path root;
     QTemporaryDir dir;
     std::shared_ptr<std::deque<std::vector<ProcessorTicks>>> script;
     ManualExecutor* executor = nullptr;
