@@ -18,6 +18,7 @@
 #include <memory>
 
 class LoadSystemInformation;
+class Notifier;
 class SettingsStore;
 
 // Receives the requests a module's menu makes of the application, and lends it the collector
@@ -35,6 +36,8 @@ public:
         static const SensorDatDict none;
         return none;
     }
+    // Where messages to the user go; none where nothing can show them.
+    virtual Notifier* notifier() { return nullptr; }
     // The colour theme in use, as stored in its file.
     virtual const QVariantMap& currentTheme() const = 0;
     // The pictures the status items show now, left to right.
