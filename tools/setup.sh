@@ -9,7 +9,7 @@ PACKAGES=(
   libplist-dev libudev-dev libmount-dev libpci-dev libatasmart-dev
   libgtest-dev libgmock-dev
   fonts-dejavu-core
-  xvfb x11-utils trayer
+  xvfb x11-utils trayer dbus-daemon
 )
 
 install_missing() {

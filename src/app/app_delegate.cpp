@@ -4,13 +4,13 @@
 #include "app/app_logging.h"
 #include "app/appearance_watcher.h"
 #include "app/cycle_executor.h"
+#include "app/desktop_notifier.h"
 #include "app/general_functions_reboot.h"
 #include "app/machine_identity.h"
 #include "app/sampling_cycle.h"
 #include "app/volume_tracker.h"
 #include "modules/module_prefs.h"
 #include "modules/module_registry.h"
-#include "net/ddns_settings.h"
 #include "preferences/preferences_window.h"
 #include "prefs/pref_functions.h"
 #include "prefs/pref_keys.h"
@@ -25,7 +25,6 @@ namespace {
 // Ten minutes a tick; 144 ticks make a day.
 constexpr int kRebootTickMs = 600 * 1000;
 constexpr qint64 kRebootTicksPerDay = 144;
-constexpr quint32 kDdnsCheckEveryCycles = 600;
 constexpr int kStartupWindowDelayMs = 1000;
 
 } // namespace
@@ -48,6 +47,13 @@ AppDelegate::~AppDelegate()
     // Wait for a running cycle before the collector and the dictionaries go away.
     executor_.reset();
     delete preferencePanel_;
+}
+
+void AppDelegate::setStatusBar(StatusBar* bar)
+{
+    statusBar_ = bar;
+    if (notifier_ != nullptr)
+        notifier_->setFallback(bar);
 }
 
 void AppDelegate::setCycleExecutor(std::unique_ptr<CycleExecutor> executor)
@@ -336,25 +342,6 @@ void AppDelegate::redrawStep(const CycleOutput& output)
     loadSysInfoTimerFinishedBool = false;
     checkDdns(false);
     Q_EMIT cycleFinished();
-}
-
-void AppDelegate::checkDdns(bool forced)
-{
-    if (!forced) {
-        ++chkNowGlobalIpAddrCount;
-        if (chkNowGlobalIpAddrCount % kDdnsCheckEveryCycles != 0)
-            return;
-    }
-    chkNowGlobalIpAddrCount = 0;
-    if (DdnsSettings::hasDdnsList(*userDefaults_))
-        Q_EMIT ddnsLookupRequested(forced);
-}
-
-void AppDelegate::forcedExecutionDdns()
-{
-    userDefaults_->removeObjectForKey(PrefKey::NowGlobalIpAddr);
-    userDefaults_->synchronize();
-    checkDdns(true);
 }
 
 void AppDelegate::rebootMeSetting()

@@ -27,6 +27,8 @@ class CycleExecutor;
 struct CycleOutput;
 class VolumeTracker;
 
+class DesktopNotifier;
+
 class AppDelegate : public QObject, public MenuModuleDelegate {
     Q_OBJECT
 public:
@@ -38,7 +40,7 @@ public:
 
     // Where status items go; without one (snapshot) no module is created. Call before launching;
     // the bar must outlive this controller.
-    void setStatusBar(StatusBar* bar) { statusBar_ = bar; }
+    void setStatusBar(StatusBar* bar);
     // Whether a preferences window can be shown (not where only text lines are).
     void setPreferencesAvailable(bool available) { preferencesAvailable_ = available; }
     // Device pixels per point of the modules' pictures; 0 follows the screen.
@@ -71,6 +73,7 @@ public:
     void openPreferenceTab(int tabIndex) override;
     const QVariantMap& currentTheme() const override { return themeColorDict_; }
     const SensorDatDict& sensorDatDict() const override { return *sensorDatDict_; }
+    Notifier* notifier() override;
     QList<QImage> shownBarImages() const override;
     void quitApplication() override;
     bool chkGeneBool(const QString& key) const { return generalDefaults().boolValue(key); }
@@ -95,7 +98,7 @@ public:
     void changeAppearanceMode(bool desktopIsDark);
 
     void checkDdns(bool forced);
-    void forcedExecutionDdns();
+    void forcedExecutionDdns(std::function<void(const QString& outcome)> done = {}) override;
 
     void rebootMeSetting();
     void rebootMe();
@@ -129,12 +132,16 @@ Q_SIGNALS:
     void ddnsLookupRequested(bool forced);
     // The redraw step of a cycle has run.
     void cycleFinished();
+    // The user asked for the download page of a new version.
+    void downloadPageRequested();
     // The current theme was written to its file.
     void themeFileWritten();
     // Every module took its settings again (after a theme write or a theme choice).
     void allModulesReloaded();
 
 private:
+    // What a notification's button asks for: the download page for a new version.
+    void notificationActionInvoked(const QString& tag, const QString& action);
     // The launch's first steps on the store: the Shift reset, first-run values, the version.
     void prepareSettingsStore();
     // The sensor table: every sensor named, less those that do not answer, and the fan list.
@@ -174,6 +181,9 @@ private:
     std::array<std::unique_ptr<MenuModule>, kModuleCount> modules_;
     SamplingSchedule schedule_;
     StatusBar* statusBar_ = nullptr;
+    DesktopNotifier* notifier_ = nullptr; // a child, made when first needed
+    // Told how the forced dynamic DNS run asked for in the preferences ended.
+    std::function<void(const QString& outcome)> ddnsOutcome_;
     qreal pictureScale_ = 0;
     InfoDict infoDict_;
     // Built once at start-up; the cycle shares it, so it is never changed afterwards.

@@ -15,6 +15,7 @@
 #include <QPointer>
 #include <QVariantMap>
 
+#include <functional>
 #include <memory>
 
 class LoadSystemInformation;
@@ -43,6 +44,13 @@ public:
     // The pictures the status items show now, left to right.
     virtual QList<QImage> shownBarImages() const = 0;
     virtual void quitApplication() = 0;
+    // Asks the project's site whether a newer version exists; the answer comes as a notification.
+    virtual void checkForUpdates() {}
+    // Opens the project's web site in the browser.
+    virtual void visitWebSite() {}
+    // Carries out the dynamic DNS list now, whatever the address; done gets a line saying how
+    // it ended, on the main thread.
+    virtual void forcedExecutionDdns(std::function<void(const QString& outcome)> done) { Q_UNUSED(done) }
 };
 
 class MenuModule : public QObject {

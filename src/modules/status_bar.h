@@ -28,4 +28,11 @@ public:
     virtual ~StatusBar() = default;
     // moduleKey names the module ("General", "CPU", ...) for front ends that label or save items.
     virtual std::unique_ptr<StatusItem> createItem(const QString& moduleKey) = 0;
+    // A message for the user where the desktop shows no notifications: a tray balloon, a line of
+    // text. Front ends with no place for one leave it out.
+    virtual void showMessage(const QString& title, const QString& text)
+    {
+        Q_UNUSED(title)
+        Q_UNUSED(text)
+    }
 };

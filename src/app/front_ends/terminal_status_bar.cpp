@@ -51,6 +51,12 @@ std::unique_ptr<StatusItem> TerminalStatusBar::createItem(const QString& moduleK
     return std::make_unique<TerminalStatusItem>(std::move(line), this);
 }
 
+void TerminalStatusBar::showMessage(const QString& title, const QString& text)
+{
+    message_ = text.isEmpty() ? title : title + QStringLiteral(": ") + text;
+    scheduleRedraw();
+}
+
 void TerminalStatusBar::scheduleRedraw()
 {
     if (redrawPending_)
@@ -99,6 +105,8 @@ QStringList TerminalStatusBar::renderLines()
         QString text = line->text.simplified();
         rendered.append(line->moduleKey.leftJustified(keyWidth) + QStringLiteral("  ") + text);
     }
+    if (!message_.isEmpty())
+        rendered.append(QStringLiteral("* ") + message_.simplified());
     return rendered;
 }
 

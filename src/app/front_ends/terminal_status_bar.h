@@ -23,6 +23,8 @@ public:
 
     // New items go above the existing ones, as the bar reads left to right.
     std::unique_ptr<StatusItem> createItem(const QString& moduleKey) override;
+    // Shown under the modules' lines until the next message.
+    void showMessage(const QString& title, const QString& text) override;
 
     // Coalesces the changes of one cycle into one redraw at the next turn of the event loop.
     void scheduleRedraw();
@@ -38,6 +40,7 @@ private:
     bool interactive_ = false;
     bool ownsTerminal_ = false; // out_ is standard output, so its width can be asked
     bool redrawPending_ = false;
+    QString message_;
     bool noticeShown_ = false;
     int drawnLines_ = 0;
     std::vector<std::weak_ptr<TerminalLine>> lines_; // top to bottom

@@ -14,6 +14,16 @@ std::unique_ptr<StatusItem> TrayStatusBar::createItem(const QString& moduleKey)
     return std::make_unique<TrayStatusItem>(moduleKey, this);
 }
 
+void TrayStatusBar::showMessage(const QString& title, const QString& text)
+{
+    for (QSystemTrayIcon* icon : findChildren<QSystemTrayIcon*>()) {
+        if (icon->isVisible()) {
+            icon->showMessage(title, text);
+            return;
+        }
+    }
+}
+
 bool TrayStatusBar::isAvailable()
 {
     return QSystemTrayIcon::isSystemTrayAvailable();

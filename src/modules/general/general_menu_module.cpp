@@ -2,9 +2,14 @@
 #include "modules/general/general_menu_module.h"
 
 #include "prefs/pref_keys.h"
+#include "prefs/theme_files.h"
 #include "toolkit/localization.h"
 
+#include <QCoreApplication>
+#include <QDesktopServices>
+#include <QIcon>
 #include <QMenu>
+#include <QUrl>
 
 General_MenuModule::General_MenuModule(MenuModuleDelegate* delegate, QObject* parent)
     : MenuModule(delegate, ModuleId::General, parent)
@@ -13,11 +18,23 @@ General_MenuModule::General_MenuModule(MenuModuleDelegate* delegate, QObject* pa
 void General_MenuModule::drawBaseStatusBar()
 {
     statusMenu->clear();
-    QAction* preferences = statusMenu->addAction(localized("Preferences..."));
-    connect(preferences, &QAction::triggered, this, &General_MenuModule::openTab);
+    const auto add = [this](const char* text, void (General_MenuModule::*action)(), const char* icon = nullptr) {
+        QAction* item = statusMenu->addAction(localized(text));
+        if (icon != nullptr) {
+            const ThemePicture picture = myDefaults.picture(QLatin1String(icon));
+            if (!picture.image.isNull())
+                item->setIcon(QIcon(QPixmap::fromImage(picture.image)));
+        }
+        connect(item, &QAction::triggered, this, action);
+    };
+    add("Preferences...", &General_MenuModule::openTab, "O01");
+    add("Check for Updates...", &General_MenuModule::checkUpdate, "O02");
+    add("Visit the Web Site", &General_MenuModule::visitWebSite);
     statusMenu->addSeparator();
-    QAction* quit = statusMenu->addAction(localized("Quit"));
-    connect(quit, &QAction::triggered, this, &General_MenuModule::quitMySelf);
+    add("Open the Settings Folder", &General_MenuModule::openAsDir);
+    add("Show Where Tarvel Runs From", &General_MenuModule::openDirContMyself);
+    statusMenu->addSeparator();
+    add("Quit", &General_MenuModule::quitMySelf);
     // The controller never redraws this item on its own, so its picture is set with its menu.
     refreshBar();
 }
@@ -32,6 +49,29 @@ void General_MenuModule::refreshBar()
         image.setDevicePixelRatio(image.width() / picture.size.width());
     showImage(image);
     statusItem->setText(myDefaults.stringValue(PrefKey::PrefName));
+}
+
+void General_MenuModule::checkUpdate()
+{
+    if (myDelegate)
+        myDelegate->checkForUpdates();
+}
+
+void General_MenuModule::visitWebSite()
+{
+    if (myDelegate)
+        myDelegate->visitWebSite();
+}
+
+void General_MenuModule::openAsDir()
+{
+    TvlClasses::checkMyApplicationSupportDir();
+    QDesktopServices::openUrl(QUrl::fromLocalFile(TvlClasses::retApplicationSupportDir()));
+}
+
+void General_MenuModule::openDirContMyself()
+{
+    QDesktopServices::openUrl(QUrl::fromLocalFile(QCoreApplication::applicationDirPath()));
 }
 
 void General_MenuModule::quitMySelf()

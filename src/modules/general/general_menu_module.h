@@ -14,5 +14,11 @@ protected:
     void drawBaseStatusBar() override;
 
 private:
+    void checkUpdate();
+    void visitWebSite();
+    // The file manager at the folder of the settings and the theme files.
+    void openAsDir();
+    // The file manager at the folder of the running program.
+    void openDirContMyself();
     void quitMySelf();
 };

@@ -2,6 +2,7 @@
 #include "modules/general/top_tab_view_controller.h"
 
 #include "modules/general/top_tab_color_section.h"
+#include "modules/general/top_tab_ddns_section.h"
 #include "modules/general/top_tab_theme_section.h"
 #include "modules/menu_module.h"
 #include "modules/module_registry.h"
@@ -19,6 +20,7 @@
 #include <QLabel>
 #include <QMessageBox>
 #include <QPainter>
+#include <QPointer>
 #include <QScrollArea>
 #include <QSpinBox>
 #include <QVBoxLayout>
@@ -73,6 +75,7 @@ TopTabViewController::TopTabViewController(MenuModuleDelegate* delegate, Setting
     layout->addWidget(group(localized("Theme"), theme_, content));
     layout->addWidget(group(localized("Colors"), colors_, content));
     layout->addWidget(group(localized("General"), buildOptions(), content));
+    layout->addWidget(group(localized("Dynamic DNS"), buildDdns(), content));
     layout->addStretch(1);
 
     auto* scroll = new QScrollArea(this);
@@ -131,6 +134,24 @@ QWidget* TopTabViewController::buildOptions()
     return options;
 }
 
+QWidget* TopTabViewController::buildDdns()
+{
+    ddns_ = new TopTabDdnsSection();
+    connect(ddns_, &TopTabDdnsSection::listEdited, this, [this](const QString& list) {
+        store().setString(QLatin1String(DdnsPropertyString), list);
+        commit();
+    });
+    connect(ddns_, &TopTabDdnsSection::runRequested, this, [this] {
+        if (delegate_ == nullptr)
+            return;
+        delegate_->forcedExecutionDdns([section = QPointer(ddns_)](const QString& outcome) {
+            if (section)
+                section->showOutcome(outcome);
+        });
+    });
+    return ddns_;
+}
+
 void TopTabViewController::loadViews()
 {
     loadModuleEnabled();
@@ -142,6 +163,7 @@ void TopTabViewController::loadViews()
     denyUpdate_->setChecked(store().boolForKey(DenyUpdateNotif));
     atLogin_->setChecked(store().boolForKey(AutoLaunchAtLogin));
     colors_->showColors(allDefaults());
+    ddns_->showList(store().stringForKey(DdnsPropertyString));
     rebuildFontMenus();
 }
 

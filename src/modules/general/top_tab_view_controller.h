@@ -9,6 +9,7 @@ class QCheckBox;
 class QLabel;
 class QSpinBox;
 class TopTabColorSection;
+class TopTabDdnsSection;
 class TopTabThemeSection;
 
 class TopTabViewController : public PreferenceTab {
@@ -26,12 +27,14 @@ public:
     ElementOrderList* moduleList() const { return modules_; }
     TopTabThemeSection* themeSection() const { return theme_; }
     TopTabColorSection* colorSection() const { return colors_; }
+    TopTabDdnsSection* ddnsSection() const { return ddns_; }
 
 protected:
     void loadViews() override;
 
 private:
     QWidget* buildOptions();
+    QWidget* buildDdns();
     void moduleSwitched(qint64 code, bool on);
     void orderChanged(const QList<qint64>& order);
     void storeBool(const char* key, bool on);
@@ -45,6 +48,7 @@ private:
     QLabel* barPreview_ = nullptr;
     TopTabThemeSection* theme_;
     TopTabColorSection* colors_;
+    TopTabDdnsSection* ddns_ = nullptr;
     QSpinBox* rebootDays_ = nullptr;
     QCheckBox* atStartup_ = nullptr;
     QCheckBox* denyUpdate_ = nullptr;
