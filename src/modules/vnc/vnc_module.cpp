@@ -1,7 +1,8 @@
-// The VNC module: its settings, its status item, and the hosts its snapshot lists.
+// The VNC module: its settings, its status item and tab, and the hosts its snapshot lists.
 #include "modules/module_descriptor.h"
 #include "modules/vnc/vnc_menu_module.h"
 #include "modules/vnc/vnc_sites.h"
+#include "modules/vnc/vnc_tab_view_controller.h"
 #include "prefs/pref_keys.h"
 
 #include <QJsonArray>
@@ -59,7 +60,7 @@ const ModuleDescriptor& vncModule()
 {
     static const ModuleDescriptor descriptor{vncSchema(),
                                              &makeMenuModule<VNC_MenuModule>,
-                                             nullptr,
+                                             &makePreferenceTab<VNCTabViewController>,
                                              nullptr,
                                              false,
                                              StorageUse::None,
