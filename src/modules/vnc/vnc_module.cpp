@@ -1,6 +1,11 @@
-// The VNC module: its settings so far; its host menu and tab come with the screen-sharing hosts.
+// The VNC module: its settings, its status item and tab, and the hosts its snapshot lists.
 #include "modules/module_descriptor.h"
+#include "modules/vnc/vnc_menu_module.h"
+#include "modules/vnc/vnc_sites.h"
+#include "modules/vnc/vnc_tab_view_controller.h"
 #include "prefs/pref_keys.h"
+
+#include <QJsonArray>
 
 namespace {
 
@@ -29,10 +34,36 @@ ModuleSchema vncSchema()
             nullptr};
 }
 
+// The hosts as the normal menu lists them.
+QString vncSnapshotText(const SnapshotContext& context)
+{
+    QString out = QStringLiteral("VNC\n");
+    const QList<VncHost> hosts = TvlClasses::retVncSite(context.settings, true);
+    if (hosts.isEmpty())
+        return out + QStringLiteral("  no hosts\n");
+    for (const VncHost& host : hosts)
+        out += QStringLiteral("  ") + host.name + QStringLiteral("  ") + host.url + QLatin1Char('\n');
+    return out;
+}
+
+void addVncSnapshotJson(const SnapshotContext& context, QJsonObject& root)
+{
+    QJsonArray hosts;
+    for (const VncHost& host : TvlClasses::retVncSite(context.settings, true))
+        hosts.append(QJsonObject{{QStringLiteral("name"), host.name}, {QStringLiteral("url"), host.url}});
+    root.insert(QLatin1String(context.key), hosts);
+}
+
 } // namespace
 
 const ModuleDescriptor& vncModule()
 {
-    static const ModuleDescriptor descriptor{vncSchema()};
+    static const ModuleDescriptor descriptor{vncSchema(),
+                                             &makeMenuModule<VNC_MenuModule>,
+                                             &makePreferenceTab<VNCTabViewController>,
+                                             nullptr,
+                                             false,
+                                             StorageUse::None,
+                                             &makePlainSnapshot<&vncSnapshotText, &addVncSnapshotJson>};
     return descriptor;
 }
