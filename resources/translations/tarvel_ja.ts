@@ -212,5 +212,137 @@
         <source>Show the Fan label</source>
         <translation>Fanラベルを表示</translation>
     </message>
+    <message>
+        <source>Open VNC Viewer</source>
+        <translation>VNC ビューアを開く</translation>
+    </message>
+    <message>
+        <source>Open All of Servers at Once</source>
+        <translation>すべてのサーバを一度に開く</translation>
+    </message>
+    <message>
+        <source>No VNC viewer</source>
+        <translation>VNC ビューアがありません</translation>
+    </message>
+    <message>
+        <source>No VNC viewer is registered for %1: addresses, so %2 cannot be opened.</source>
+        <translation>%1: アドレスを開く VNC ビューアが登録されていないため、%2 を開けません。</translation>
+    </message>
+    <message>
+        <source>No VNC viewer is registered for %1: addresses. Install one, such as Remmina or TigerVNC.</source>
+        <translation>%1: アドレスを開く VNC ビューアが登録されていません。Remmina や TigerVNC などをインストールしてください。</translation>
+    </message>
+    <message>
+        <source>Hosts</source>
+        <translation>ホスト</translation>
+    </message>
+    <message>
+        <source>In menu</source>
+        <translation>メニューに表示</translation>
+    </message>
+    <message>
+        <source>Name</source>
+        <translation>名前</translation>
+    </message>
+    <message>
+        <source>Address</source>
+        <translation>アドレス</translation>
+    </message>
+    <message>
+        <source>Double-click a name or an address to change it.</source>
+        <translation>名前やアドレスはダブルクリックで変更できます。</translation>
+    </message>
+    <message>
+        <source>Add</source>
+        <translation>追加</translation>
+    </message>
+    <message>
+        <source>Delete</source>
+        <translation>削除</translation>
+    </message>
+    <message>
+        <source>Move Up</source>
+        <translation>上へ移動</translation>
+    </message>
+    <message>
+        <source>Move Down</source>
+        <translation>下へ移動</translation>
+    </message>
+    <message>
+        <source>Connect</source>
+        <translation>接続</translation>
+    </message>
+    <message>
+        <source>Import from Remmina and TigerVNC</source>
+        <translation>Remmina と TigerVNC から読み込む</translation>
+    </message>
+    <message>
+        <source>Import .vncloc Files...</source>
+        <translation>.vncloc ファイルを読み込む...</translation>
+    </message>
+    <message>
+        <source>Choose a folder of .vncloc files</source>
+        <translation>.vncloc ファイルのあるフォルダを選択</translation>
+    </message>
+    <message>
+        <source>Show the VNC item in the menu bar</source>
+        <translation>メニューバーに VNC 項目を表示</translation>
+    </message>
+    <message>
+        <source>Add "Open All of Servers at Once" to the menu</source>
+        <translation>メニューに「すべてのサーバを一度に開く」を追加</translation>
+    </message>
+    <message>
+        <source>No VNC hosts were found.</source>
+        <translation>VNC のホストは見つかりませんでした。</translation>
+    </message>
+    <message>
+        <source>Imported %1 hosts.</source>
+        <translation>%1 件のホストを読み込みました。</translation>
+    </message>
+    <message>
+        <source>New Host</source>
+        <translation>新しいホスト</translation>
+    </message>
+    <message>
+        <source>A host needs a name.</source>
+        <translation>ホストには名前が必要です。</translation>
+    </message>
+    <message>
+        <source>"%1" is not a VNC address. Type vnc://host:port or host:port.</source>
+        <translation>「%1」は VNC のアドレスではありません。vnc://ホスト:ポート または ホスト:ポート の形で入力してください。</translation>
+    </message>
+    <message>
+        <source>Check for Updates...</source>
+        <translation>アップデートを確認...</translation>
+    </message>
+    <message>
+        <source>Visit the Web Site</source>
+        <translation>Web サイトを開く</translation>
+    </message>
+    <message>
+        <source>Open the Settings Folder</source>
+        <translation>設定フォルダを開く</translation>
+    </message>
+    <message>
+        <source>Show Where Tarvel Runs From</source>
+        <translation>Tarvel の場所を表示</translation>
+    </message>
+    <message>
+        <source>Dynamic DNS</source>
+        <translation>ダイナミック DNS</translation>
+    </message>
+    <message>
+        <source>Update Now</source>
+        <translation>今すぐ更新</translation>
+    </message>
+    <message>
+        <source>Looking up the global address...</source>
+        <translation>グローバル IP アドレスを調べています...</translation>
+    </message>
+    <message>
+        <source>Quit</source>
+        <translation>終了</translation>
+    </message>
 </context>
 </TS>
