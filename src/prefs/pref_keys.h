@@ -17,6 +17,8 @@ inline constexpr char MacImage[] = "MacImage";
 inline constexpr char RemovedTempKeys[] = "RemovedTempKeys";
 inline constexpr char DdnsPropertyString[] = "DdnsPropertyString";
 inline constexpr char NowGlobalIpAddr[] = "NowGlobalIpAddr";
+// Address-echo services (an array of URL strings) that replace the built-in table when not empty.
+inline constexpr char GlobalIpServiceList[] = "GlobalIpServiceList";
 // The web search the CPU panel opens for the machine's name (query key "q").
 inline constexpr char MachineSearchAddress[] = "MachineSearchAddress";
 
