@@ -23,6 +23,10 @@ QString usageText()
                           "                                  sample N cycles (default 2), then write each module's\n"
                           "                                  picture to DIR/<module>.png at S pixels per point\n"
                           "                                  (default 2), and the CPU menu's graph to CPU-menu.png\n"
+                          "  global-address [--service URL]...\n"
+                          "                                  look up the machine's global IPv4 address and print it\n"
+                          "                                  (status 1 when no service gives one); each --service\n"
+                          "                                  replaces the echo services, asked in the given order\n"
                           "\n"
                           "Options:\n"
                           "  --root DIR       read /proc and /sys below DIR instead of / (also TARVEL_ROOT)\n"
@@ -53,6 +57,7 @@ struct OptionSet {
     QCommandLineOption prefs{QStringLiteral("preferences")};
     QCommandLineOption out{QStringLiteral("out"), QString(), QStringLiteral("DIR")};
     QCommandLineOption scale{QStringLiteral("scale"), QString(), QStringLiteral("S")};
+    QCommandLineOption service{QStringLiteral("service"), QString(), QStringLiteral("URL")};
     QCommandLineOption help{QStringList{QStringLiteral("h"), QStringLiteral("help")}};
     QCommandLineOption version{QStringList{QStringLiteral("v"), QStringLiteral("version")}};
 };
@@ -78,6 +83,8 @@ QString readPositional(const QCommandLineParser& parser, const OptionSet& o, App
             options.command = AppOptions::Command::Snapshot;
         else if (positional.front() == QLatin1String("render"))
             options.command = AppOptions::Command::Render;
+        else if (positional.front() == QLatin1String("global-address"))
+            options.command = AppOptions::Command::GlobalAddress;
         else
             return QStringLiteral("unknown command '%1'").arg(positional.front());
     }
@@ -97,6 +104,11 @@ QString readCommandOptions(const QCommandLineParser& parser, const OptionSet& o,
         return QStringLiteral("--out and --scale belong to the render command");
     if ((parser.isSet(o.bar) || parser.isSet(o.prefs)) && options.command != AppOptions::Command::Run)
         return QStringLiteral("--bar and --preferences are for running the monitor");
+    if (parser.isSet(o.service) && options.command != AppOptions::Command::GlobalAddress)
+        return QStringLiteral("--service belongs to the global-address command");
+    options.services = parser.values(o.service);
+    if (options.services.contains(QString()))
+        return QStringLiteral("--service takes an address");
     options.bar = parser.isSet(o.bar);
     options.json = parser.isSet(o.json);
     if (render) {
@@ -143,7 +155,8 @@ OptionsResult parseAppOptions(const QStringList& arguments, const QString& envir
     QCommandLineParser parser;
     parser.setSingleDashWordOptionMode(QCommandLineParser::ParseAsLongOptions);
     const OptionSet o;
-    parser.addOptions({o.root, o.settings, o.json, o.cycles, o.bar, o.prefs, o.out, o.scale, o.help, o.version});
+    parser.addOptions(
+        {o.root, o.settings, o.json, o.cycles, o.bar, o.prefs, o.out, o.scale, o.service, o.help, o.version});
     parser.addPositionalArgument(QStringLiteral("command"), QString());
 
     if (!parser.parse(arguments))

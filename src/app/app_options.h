@@ -7,7 +7,7 @@
 #include <optional>
 
 struct AppOptions {
-    enum class Command { Run, Snapshot, Render };
+    enum class Command { Run, Snapshot, Render, GlobalAddress };
     Command command = Command::Run;
     QString root = QStringLiteral("/"); // --root, else TARVEL_ROOT, else "/"
     QString settingsFile;               // --settings; empty means the per-user file
@@ -17,6 +17,7 @@ struct AppOptions {
     int cycles = 2;                     // snapshot and render
     QString outDir;                     // render only
     double scale = 2.0;                 // render only
+    QStringList services;               // global-address: echo services to ask, in this order
 };
 
 struct OptionsResult {

@@ -13,3 +13,4 @@ std::unique_ptr<PlistSettingsStore> openSettingsStore(const AppOptions& options)
 int runMonitor(const AppOptions& options, int argc, char** argv);
 int runSnapshot(const AppOptions& options, int argc, char** argv);
 int runRender(const AppOptions& options, int argc, char** argv);
+int runGlobalAddress(const AppOptions& options, int argc, char** argv);

@@ -23,6 +23,8 @@ int main(int argc, char** argv)
         return runSnapshot(*parsed.options, argc, argv);
     case AppOptions::Command::Render:
         return runRender(*parsed.options, argc, argv);
+    case AppOptions::Command::GlobalAddress:
+        return runGlobalAddress(*parsed.options, argc, argv);
     case AppOptions::Command::Run:
         break;
     }

@@ -17,6 +17,12 @@ inline constexpr char MacImage[] = "MacImage";
 inline constexpr char RemovedTempKeys[] = "RemovedTempKeys";
 inline constexpr char DdnsPropertyString[] = "DdnsPropertyString";
 inline constexpr char NowGlobalIpAddr[] = "NowGlobalIpAddr";
+// Address-echo services (an array of URL strings) that replace the built-in table when not empty.
+inline constexpr char GlobalIpServiceList[] = "GlobalIpServiceList";
+// Where the update check reads the published version, and the page its notice opens; the
+// built-in addresses apply while a key is absent; an empty text means the user wants none.
+inline constexpr char UpdateVersionFileURL[] = "UpdateVersionFileURL";
+inline constexpr char DownloadPageURL[] = "DownloadPageURL";
 // The web search the CPU panel opens for the machine's name (query key "q").
 inline constexpr char MachineSearchAddress[] = "MachineSearchAddress";
 

@@ -72,6 +72,12 @@ TEST(AppOptions, BadArgumentsGiveUsageAndStatusTwo)
         {"render", "--out", "/tmp/pics", "--json"},
         {"snapshot", "--out", "/tmp/pics"},
         {"snapshot", "--bar"},
+        {"--service", "http://127.0.0.1/"},
+        {"snapshot", "--service", "http://127.0.0.1/"},
+        {"global-address", "--service", ""},
+        {"global-address", "--service"},
+        {"global-address", "--json"},
+        {"global-address", "--bar"},
     };
     for (const QStringList& args : bad) {
         const OptionsResult r = parse(args);
@@ -79,4 +85,19 @@ TEST(AppOptions, BadArgumentsGiveUsageAndStatusTwo)
         EXPECT_EQ(r.exitCode, 2) << args.join(' ').toStdString();
         EXPECT_TRUE(r.message.contains(QStringLiteral("Usage:"))) << args.join(' ').toStdString();
     }
+}
+
+TEST(AppOptions, GlobalAddressTakesServicesInOrder)
+{
+    const OptionsResult plain = parse({"global-address"});
+    ASSERT_TRUE(plain.options);
+    EXPECT_EQ(plain.options->command, AppOptions::Command::GlobalAddress);
+    EXPECT_TRUE(plain.options->services.isEmpty());
+
+    const OptionsResult two = parse({"global-address", "--service", "http://127.0.0.1:1/b", "--settings",
+                                     "/tmp/x.plist", "--service", "https://127.0.0.1:2/a"});
+    ASSERT_TRUE(two.options);
+    EXPECT_EQ(two.options->services, QStringList({"http://127.0.0.1:1/b", "https://127.0.0.1:2/a"}));
+    EXPECT_EQ(two.options->settingsFile, QStringLiteral("/tmp/x.plist"));
+    EXPECT_TRUE(parse({"--help"}).message.contains(QStringLiteral("global-address [--service URL]")));
 }
