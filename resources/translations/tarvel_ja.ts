@@ -344,5 +344,103 @@
         <source>Quit</source>
         <translation>終了</translation>
     </message>
+    <message>
+        <source>(No Record)</source>
+        <translation>(記録なし)</translation>
+    </message>
+    <message>
+        <source>Line %0*d</source>
+        <translation>%0*d 行目</translation>
+    </message>
+    <message>
+        <source>Blank line</source>
+        <translation>空行</translation>
+    </message>
+    <message>
+        <source>Comment out</source>
+        <translation>コメントアウト</translation>
+    </message>
+    <message>
+        <source>Invalid Parameter</source>
+        <translation>不正なパラメータ</translation>
+    </message>
+    <message>
+        <source>Global IP Address changed.</source>
+        <translation>グローバルIPアドレスが変更されました。</translation>
+    </message>
+    <message>
+        <source>%@ -&gt; %@</source>
+        <translation>%@ -&gt; %@</translation>
+    </message>
+    <message>
+        <source>%@ -&gt; %@.%@</source>
+        <translation>%@ -&gt; %@.%@</translation>
+    </message>
+    <message>
+        <source>Some error occurred (%@)</source>
+        <translation>エラーが発生しました (%@)</translation>
+    </message>
+    <message>
+        <source>Unknown Error</source>
+        <translation>不明なエラー</translation>
+    </message>
+    <message>
+        <source>The global IP address is unchanged (%@).</source>
+        <translation>グローバルIPアドレスは変わっていません (%@)。</translation>
+    </message>
+    <message>
+        <source>No dynamic DNS lines are set.</source>
+        <translation>ダイナミックDNSの設定行がありません。</translation>
+    </message>
+    <message>
+        <source>The global IP address could not be found.</source>
+        <translation>グローバルIPアドレスを取得できませんでした。</translation>
+    </message>
+    <message>
+        <source>Global IP address %@ recorded.</source>
+        <translation>グローバルIPアドレス %@ を記録しました。</translation>
+    </message>
+    <message>
+        <source>Global IP address %@ sent: %@ of %@ updates succeeded.</source>
+        <translation>グローバルIPアドレス %@ を送信しました: 成功 %@ 件 / 更新 %@ 件。</translation>
+    </message>
+    <message>
+        <source>New version available</source>
+        <translation>新しいバージョンがあります</translation>
+    </message>
+    <message>
+        <source>now ver : %@
+new ver : %@</source>
+        <translation>現在のバージョン : %@
+新しいバージョン : %@</translation>
+    </message>
+    <message>
+        <source>Cancel</source>
+        <translation>キャンセル</translation>
+    </message>
+    <message>
+        <source>No update available</source>
+        <translation>アップデートはありません</translation>
+    </message>
+    <message>
+        <source>Update check unavailable</source>
+        <translation>アップデートを確認できません</translation>
+    </message>
+    <message>
+        <source>No address is set for the version file.</source>
+        <translation>バージョンファイルのアドレスが設定されていません。</translation>
+    </message>
+    <message>
+        <source>Look Up the Global IP Address</source>
+        <translation>グローバル IP アドレスを調べる</translation>
+    </message>
+    <message>
+        <source>No address service answered.</source>
+        <translation>どのアドレスサービスからも応答がありませんでした。</translation>
+    </message>
+    <message>
+        <source>Global IP Address</source>
+        <translation>グローバル IP アドレス</translation>
+    </message>
 </context>
 </TS>

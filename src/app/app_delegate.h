@@ -99,6 +99,10 @@ public:
 
     void checkDdns(bool forced);
     void forcedExecutionDdns(std::function<void(const QString& outcome)> done = {}) override;
+    // A dynamic DNS run ended; the forced run's asker hears how.
+    void ddnsRunFinished(const QString& outcome);
+    void checkForUpdates() override;
+    void visitWebSite() override;
 
     void rebootMeSetting();
     void rebootMe();
@@ -132,8 +136,6 @@ Q_SIGNALS:
     void ddnsLookupRequested(bool forced);
     // The redraw step of a cycle has run.
     void cycleFinished();
-    // The user asked for the download page of a new version.
-    void downloadPageRequested();
     // The current theme was written to its file.
     void themeFileWritten();
     // Every module took its settings again (after a theme write or a theme choice).

@@ -4,7 +4,14 @@
 #include "app/desktop_notifier.h"
 #include "net/dbus_notifier.h"
 #include "net/ddns_settings.h"
+#include "net/tvl_classes_update.h"
+#include "net/update_settings.h"
 #include "prefs/pref_keys.h"
+
+#include <QDesktopServices>
+#include <QUrl>
+
+#include <utility>
 
 namespace {
 
@@ -28,8 +35,30 @@ void AppDelegate::notificationActionInvoked(const QString& tag, const QString& a
 {
     // Clicking the notice itself counts as its first button, as on every desktop.
     if (tag == QLatin1String(UserNotifTag::UpdateExists) &&
-        (action == QLatin1String("download") || action == QLatin1String("default")))
-        Q_EMIT downloadPageRequested();
+        (action == QLatin1String(TvlClasses::kDownloadAction) || action == QLatin1String("default"))) {
+        const QString page = UpdateSettings::downloadPageUrl(*userDefaults_);
+        if (!page.isEmpty())
+            QDesktopServices::openUrl(QUrl(page));
+    }
+}
+
+void AppDelegate::checkForUpdates()
+{
+    TvlClasses::updateCheck(*userDefaults_, *notifier(), QStringLiteral(TARVEL_VERSION));
+}
+
+void AppDelegate::visitWebSite()
+{
+    // The site is where the download page lives.
+    const QUrl page(UpdateSettings::downloadPageUrl(*userDefaults_));
+    if (page.isValid() && !page.host().isEmpty())
+        QDesktopServices::openUrl(page.resolved(QUrl(QStringLiteral("/"))));
+}
+
+void AppDelegate::ddnsRunFinished(const QString& outcome)
+{
+    if (ddnsOutcome_)
+        std::exchange(ddnsOutcome_, {})(outcome);
 }
 
 void AppDelegate::checkDdns(bool forced)

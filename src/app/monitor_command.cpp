@@ -1,5 +1,6 @@
 // tarvel: the monitor itself, in the tray, in a bar window, or as live text without a display.
 #include "app/app_delegate.h"
+#include "net/general_functions_ddns.h"
 #include "app/commands.h"
 #include "app/front_ends/bar_window_status_bar.h"
 #include "app/front_ends/front_end_choice.h"
@@ -41,6 +42,11 @@ int runMonitor(const AppOptions& options, int argc, char** argv)
     AppDelegate delegate(openSettingsStore(options), makeSourceSet(options.root.toStdString()));
     delegate.setStatusBar(bar.get());
     delegate.setPreferencesAvailable(frontEnd != FrontEndKind::Terminal);
+    // The dynamic DNS run reaches outside services, so only the real monitor carries it out.
+    QObject::connect(&delegate, &AppDelegate::ddnsLookupRequested, &delegate, [&delegate](bool forced) {
+        GeneralFunctions::runDdnsCheck(delegate.userDefaults(), *delegate.notifier(), forced, {},
+                                       [&delegate](const QString& outcome) { delegate.ddnsRunFinished(outcome); });
+    });
     delegate.applicationDidFinishLaunching();
     if (options.preferencesTab)
         delegate.openPreferenceTab(*options.preferencesTab);

@@ -40,7 +40,10 @@ public:
         return std::make_unique<Item>(*this, moduleKey);
     }
 
+    void showMessage(const QString& title, const QString& text) override { messages.append(title + u'|' + text); }
+
     QStringList shown;
+    QStringList messages; // "title|text"
     QHash<QString, QImage> images;
     QHash<QString, bool> templated;
     QHash<QString, QString> texts;

@@ -7,6 +7,8 @@
 #include "modules/network/network_panel_rows.h"
 #include "modules/network/network_theme_keys.h"
 #include "modules/standard_menu_items.h"
+#include "net/notifier.h"
+#include "net/tvl_ret_global_ip_address.h"
 #include "prefs/pref_keys.h"
 #include "toolkit/localization.h"
 #include "toolkit/menu_geometry.h"
@@ -16,6 +18,7 @@
 #include <QIcon>
 #include <QLabel>
 #include <QMenu>
+#include <QPointer>
 #include <QProcess>
 #include <QStandardPaths>
 #include <QWidgetAction>
@@ -109,6 +112,10 @@ void Network_MenuModule::drawBaseStatusBar()
         connect(item, &QAction::triggered, this,
                 [settings] { QProcess::startDetached(QLatin1String(settings->program), settings->arguments); });
     }
+    if (myDelegate != nullptr) {
+        QAction* lookUp = statusMenu->addAction(localized("Look Up the Global IP Address"));
+        connect(lookUp, &QAction::triggered, this, &Network_MenuModule::checkGlobalIp);
+    }
     statusMenu->addSeparator();
     auto* graphAction = new QWidgetAction(statusMenu);
     menuGraph_ = new QLabel();
@@ -118,6 +125,7 @@ void Network_MenuModule::drawBaseStatusBar()
     statusMenu->addAction(graphAction);
     auto* panelAction = new QWidgetAction(statusMenu);
     networkCurrent = new Network_Current();
+    networkCurrent->setGlobalAddress(globalAddress_);
     panelAction->setDefaultWidget(networkCurrent);
     statusMenu->addAction(panelAction);
     nicSeparator_ = statusMenu->addSeparator();
@@ -232,4 +240,23 @@ void Network_MenuModule::lookUpNames()
             },
             Qt::QueuedConnection);
     });
+}
+
+void Network_MenuModule::checkGlobalIp()
+{
+    // Only on the user's word: the monitor asks no outside service by itself.
+    TvlRetGlobalIpAddress::lookUpOnce(
+        new TvlRetGlobalIpAddress(myDelegate->settingsStore()),
+        [this, self = QPointer<Network_MenuModule>(this)](const GlobalIpResult& result) {
+            if (!self)
+                return;
+            const QString shown = result.ip.isEmpty() ? QStringLiteral("---") : result.ip;
+            globalAddress_ = shown;
+            if (networkCurrent != nullptr)
+                networkCurrent->setGlobalAddress(shown);
+            if (Notifier* notifier = myDelegate->notifier()) {
+                const QString text = result.ip.isEmpty() ? localized("No address service answered.") : result.ip;
+                notifier->fireNotification({localized("Global IP Address"), text, {}, {}});
+            }
+        });
 }

@@ -65,6 +65,8 @@ private:
     void removeNicMenus();
     void addtionalNicMenus();
     void lookUpNames();
+    // Looks the global address up once and shows it in the panel and as a notification.
+    void checkGlobalIp();
 
     ImageNetworkBar imageNetworkBar;
     ImageNetworkBar imageNetworkMenu;
@@ -78,6 +80,7 @@ private:
     std::shared_ptr<const NetworkBase> networkBaseDict;
     std::shared_ptr<const NetworkBase> listedBase_;
     QHash<QString, QString> hostNames_;
+    QString globalAddress_ = QStringLiteral("---"); // as last looked up
     bool lookUpInFlight_ = false;
     // Last member: its destructor waits for look-ups that use the members above.
     QThreadPool pool_;
