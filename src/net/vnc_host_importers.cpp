@@ -1,7 +1,7 @@
 // Pure readers of other programs' host lists; nothing here asks the user or writes anything.
 #include "net/vnc_host_importers.h"
 
-#include "net/vnc_key_file.h"
+#include "toolkit/key_file.h"
 #include "net/vnc_server_address.h"
 #include "net/vnc_user_dirs.h"
 #include "prefs/plist_io.h"
@@ -46,7 +46,7 @@ QList<VncHost> importScreenShareFileFromAs(const QString& folder)
 
 std::optional<VncHost> parseRemminaProfile(QStringView text)
 {
-    const VncKeyFile file = VncKeyFile::parse(text);
+    const KeyFile file = KeyFile::parse(text);
     const QString group = QStringLiteral("remmina");
     // "VNCI" is Remmina's listening mode: the server comes to the viewer, there is no address.
     if (file.value(group, QStringLiteral("protocol")).compare(QLatin1String("VNC"), Qt::CaseInsensitive) != 0)

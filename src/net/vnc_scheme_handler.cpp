@@ -1,7 +1,7 @@
 // Reads mimeapps.list files and desktop entries; runs no program, so it can be tried on a tree.
 #include "net/vnc_scheme_handler.h"
 
-#include "net/vnc_key_file.h"
+#include "toolkit/key_file.h"
 
 #include <QDirIterator>
 #include <QHash>
@@ -45,7 +45,7 @@ struct Installed {
 
     static Entry read(const QString& id, const QString& path)
     {
-        const VncKeyFile file = VncKeyFile::read(path);
+        const KeyFile file = KeyFile::read(path);
         Entry entry{{id, path, file.value(kEntryGroup, QStringLiteral("Name")),
                      file.value(kEntryGroup, QStringLiteral("Exec"))},
                     file.list(kEntryGroup, QStringLiteral("MimeType")),
@@ -87,7 +87,7 @@ std::optional<VncViewerApp> find(const VncXdgDirs& dirs, const QString& mimeType
     QSet<QString> removed;
     QStringList added;
     for (const QString& path : mimeAppsLists(dirs)) {
-        const VncKeyFile file = VncKeyFile::read(path);
+        const KeyFile file = KeyFile::read(path);
         for (const QString& id : file.list(QStringLiteral("Default Applications"), mimeType)) {
             if (auto app = installed.usable(id))
                 return app;

@@ -3,7 +3,7 @@
 #include "modules/vnc/vnc_screen_sharing.h"
 
 #include "net/notifier.h"
-#include "net/vnc_desktop_exec.h"
+#include "toolkit/desktop_exec.h"
 #include "net/vnc_scheme_handler.h"
 #include "toolkit/localization.h"
 
@@ -43,7 +43,7 @@ bool goScreenSharingApp(const QString& url, Notifier* notifier, const VncXdgDirs
 bool openScreenSharing(Notifier* notifier, const VncXdgDirs& dirs)
 {
     const auto viewer = VncSchemeHandler::find(dirs);
-    const QStringList command = viewer ? VncDesktopExec::arguments(viewer->exec) : QStringList();
+    const QStringList command = viewer ? DesktopExec::arguments(viewer->exec) : QStringList();
     if (command.isEmpty()) {
         tellNoViewer(notifier, QStringLiteral("vnc"), {});
         return false;

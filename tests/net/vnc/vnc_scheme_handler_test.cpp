@@ -1,6 +1,6 @@
 // Which application opens vnc: addresses, over fixture trees and small trees made on the spot,
 // and the command line made of its Exec key.
-#include "net/vnc_desktop_exec.h"
+#include "toolkit/desktop_exec.h"
 #include "net/vnc_scheme_handler.h"
 #include "support/fixture_paths.h"
 
@@ -107,7 +107,7 @@ TEST(VncSchemeHandler, FindsTheHandlerTheRulesChoose)
     }
 }
 
-TEST(VncDesktopExec, FieldCodesAndQuotesMakeTheCommandLine)
+TEST(DesktopExec, FieldCodesAndQuotesMakeTheCommandLine)
 {
     const QStringList url{QStringLiteral("vnc://host:5901")};
     const struct {
@@ -127,5 +127,5 @@ TEST(VncDesktopExec, FieldCodesAndQuotesMakeTheCommandLine)
         {"", url, {}},
     };
     for (const auto& c : cases)
-        EXPECT_EQ(VncDesktopExec::arguments(QString::fromUtf8(c.exec), c.urls), c.expected) << c.exec;
+        EXPECT_EQ(DesktopExec::arguments(QString::fromUtf8(c.exec), c.urls), c.expected) << c.exec;
 }

@@ -1,13 +1,13 @@
 // Exec lines follow the desktop entry rules: spaces separate, double quotes group, and inside
 // quotes a backslash keeps the next character.
-#include "net/vnc_desktop_exec.h"
+#include "toolkit/desktop_exec.h"
 
 #include <optional>
 
-namespace VncDesktopExec {
+namespace DesktopExec {
 namespace {
 
-std::optional<QStringList> split(QStringView exec)
+std::optional<QStringList> splitWords(QStringView exec)
 {
     QStringList words;
     QString word;
@@ -63,7 +63,7 @@ QString expanded(const QString& word, const QStringList& urls)
 
 QStringList arguments(QStringView exec, const QStringList& urls)
 {
-    const auto words = split(exec);
+    const auto words = splitWords(exec);
     if (!words)
         return {};
     QStringList out;
@@ -82,4 +82,9 @@ QStringList arguments(QStringView exec, const QStringList& urls)
     return out;
 }
 
-} // namespace VncDesktopExec
+std::optional<QStringList> words(QStringView exec)
+{
+    return splitWords(exec);
+}
+
+} // namespace DesktopExec

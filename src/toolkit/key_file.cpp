@@ -1,11 +1,9 @@
 // Reading key files the way GLib does for the few features these files use.
-#include "net/vnc_key_file.h"
+#include "toolkit/key_file.h"
 
 #include <QFile>
 
-namespace {
-
-QString unescaped(QStringView raw)
+QString KeyFile::unescaped(QStringView raw)
 {
     QString out;
     out.reserve(raw.size());
@@ -36,11 +34,9 @@ QString unescaped(QStringView raw)
     return out;
 }
 
-} // namespace
-
-VncKeyFile VncKeyFile::parse(QStringView text)
+KeyFile KeyFile::parse(QStringView text)
 {
-    VncKeyFile file;
+    KeyFile file;
     QHash<QString, QString>* group = nullptr;
     for (QStringView line : text.split(QLatin1Char('\n'))) {
         line = line.trimmed();
@@ -60,7 +56,7 @@ VncKeyFile VncKeyFile::parse(QStringView text)
     return file;
 }
 
-VncKeyFile VncKeyFile::read(const QString& path)
+KeyFile KeyFile::read(const QString& path)
 {
     QFile file(path);
     if (!file.open(QIODevice::ReadOnly))
@@ -68,12 +64,12 @@ VncKeyFile VncKeyFile::read(const QString& path)
     return parse(QString::fromUtf8(file.readAll()));
 }
 
-QString VncKeyFile::value(const QString& group, const QString& key) const
+QString KeyFile::value(const QString& group, const QString& key) const
 {
     return unescaped(groups_.value(group).value(key));
 }
 
-QStringList VncKeyFile::list(const QString& group, const QString& key) const
+QStringList KeyFile::list(const QString& group, const QString& key) const
 {
     const QString raw = groups_.value(group).value(key);
     QStringList entries;
