@@ -21,6 +21,7 @@
 
 #include <atomic>
 #include <filesystem>
+#include <functional>
 #include <map>
 #include <memory>
 #include <mutex>
@@ -164,6 +165,8 @@ private:
     mutable std::mutex networkBaseLock;
     std::atomic<bool> terminationRequested_ = false;
     // One SMC connection at a time: the cycle's samples and the start-up table share the source.
+    // Opens the SMC (or what stands in for it), lets use read, closes it; false when it cannot be opened.
+    bool withSmcConnection(const std::function<void(SmcSource&)>& use);
     std::mutex sensorLock;
     // The drives are asked from the Temp menu, on whichever thread shows it.
     std::mutex driveLock;

@@ -22,16 +22,28 @@ std::optional<int> fanLimit(SmcSource& smc, const QString& key)
 }
 } // namespace
 
-SensorDatDict LoadSystemInformation::getSensorDatXml(const QString& macRawName)
+bool LoadSystemInformation::withSmcConnection(const std::function<void(SmcSource&)>& use)
 {
     const std::lock_guard guard(sensorLock);
     SmcSource* smc = sources_.smc.get();
     // Without an SMC or a chip standing in for one, there are no sensors here.
     if (smc == nullptr || !smc->open())
-        return {};
-    const bool smcKeys = smc->servesSmcKeys();
-    const QList<TempSensorEntry> platform = smc->namedTemperatures();
+        return false;
+    use(*smc);
     smc->close();
+    return true;
+}
+
+SensorDatDict LoadSystemInformation::getSensorDatXml(const QString& macRawName)
+{
+    bool smcKeys = false;
+    QList<TempSensorEntry> platform;
+    const bool connected = withSmcConnection([&](SmcSource& smc) {
+        smcKeys = smc.servesSmcKeys();
+        platform = smc.namedTemperatures();
+    });
+    if (!connected)
+        return {};
     QList<SensorDatModel> file;
     if (smcKeys)
         if (const auto bytes = readSensorDatFile(sources_.root))
@@ -48,22 +60,19 @@ TempDetail LoadSystemInformation::getDetailTemp(const SensorDatDict& dict, const
     TempDetail detail{{}, removedTempKeys};
     if (!dict.tempData || dict.tempData->isEmpty())
         return detail;
-    const std::lock_guard guard(sensorLock);
-    SmcSource* smc = sources_.smc.get();
-    // Nothing can be learnt without a connection: the stored keys stay as they are.
-    if (smc == nullptr || !smc->open())
-        return detail;
-    for (const TempSensorEntry& entry : *dict.tempData) {
-        // A key that failed once, at any start, is never read again.
-        if (removedTempKeys.contains(entry.key))
-            continue;
-        SMCValue value;
-        if (readKey(*smc, entry.key, value) != 0 || value.dataSize == 0)
-            detail.removedTempKeys.append(entry.key);
-        else
-            detail.entries.append(entry);
-    }
-    smc->close();
+    // Nothing can be learnt without a connection: the stored keys then stay as they are.
+    withSmcConnection([&](SmcSource& smc) {
+        for (const TempSensorEntry& entry : *dict.tempData) {
+            // A key that failed once, at any start, is never read again.
+            if (removedTempKeys.contains(entry.key))
+                continue;
+            SMCValue value;
+            if (readKey(smc, entry.key, value) != 0 || value.dataSize == 0)
+                detail.removedTempKeys.append(entry.key);
+            else
+                detail.entries.append(entry);
+        }
+    });
     return detail;
 }
 
@@ -72,22 +81,19 @@ SensorSample LoadSystemInformation::getBaseTempNew(const SensorDatDict& dict)
     SensorSample sample;
     if (!dict.tempData)
         return sample;
-    const std::lock_guard guard(sensorLock);
-    SmcSource* smc = sources_.smc.get();
-    if (smc == nullptr || !smc->open())
-        return sample;
     qint64 sum = 0;
     qint64 count = 0;
-    for (const TempSensorEntry& entry : *dict.tempData) {
-        SMCValue value;
-        const int result = readKey(*smc, entry.key, value);
-        if (const auto degrees = acceptedTemperature(result, value)) {
-            sample.values.insert(entry.name, *degrees);
-            sum += *degrees;
-            ++count;
+    withSmcConnection([&](SmcSource& smc) {
+        for (const TempSensorEntry& entry : *dict.tempData) {
+            SMCValue value;
+            const int result = readKey(smc, entry.key, value);
+            if (const auto degrees = acceptedTemperature(result, value)) {
+                sample.values.insert(entry.name, *degrees);
+                sum += *degrees;
+                ++count;
+            }
         }
-    }
-    smc->close();
+    });
     if (count > 0)
         sample.average = sum / count;
     return sample;
@@ -96,24 +102,21 @@ SensorSample LoadSystemInformation::getBaseTempNew(const SensorDatDict& dict)
 QList<FanEntry> LoadSystemInformation::getFanBase()
 {
     QList<FanEntry> fans;
-    const std::lock_guard guard(sensorLock);
-    SmcSource* smc = sources_.smc.get();
-    if (smc == nullptr || !smc->open())
-        return fans;
-    SMCValue number;
-    readKey(*smc, QStringLiteral("FNum"), number);
-    const std::uint32_t count = fanCount(number);
-    for (int i = 0; static_cast<std::uint32_t>(i) < count && i < kMaxFans; ++i) {
-        FanEntry fan{{}, fanKey(i, "ID"), fanKey(i, "Ac"), {}, {}};
-        // A failed read leaves the value empty, which names the fan "(Untitled Fan #n)".
-        SMCValue id;
-        readKey(*smc, fan.idKey, id);
-        fan.name = cleanedFanName(id, i);
-        fan.minimum = fanLimit(*smc, fanKey(i, "Mn"));
-        fan.maximum = fanLimit(*smc, fanKey(i, "Mx"));
-        fans.append(std::move(fan));
-    }
-    smc->close();
+    withSmcConnection([&fans](SmcSource& smc) {
+        SMCValue number;
+        readKey(smc, QStringLiteral("FNum"), number);
+        const std::uint32_t count = fanCount(number);
+        for (int i = 0; static_cast<std::uint32_t>(i) < count && i < kMaxFans; ++i) {
+            FanEntry fan{{}, fanKey(i, "ID"), fanKey(i, "Ac"), {}, {}};
+            // A failed read leaves the value empty, which names the fan "(Untitled Fan #n)".
+            SMCValue id;
+            readKey(smc, fan.idKey, id);
+            fan.name = cleanedFanName(id, i);
+            fan.minimum = fanLimit(smc, fanKey(i, "Mn"));
+            fan.maximum = fanLimit(smc, fanKey(i, "Mx"));
+            fans.append(std::move(fan));
+        }
+    });
     return fans;
 }
 
@@ -122,24 +125,22 @@ SensorSample LoadSystemInformation::getFanDetail(const SensorDatDict& dict)
     SensorSample sample;
     if (dict.fanData.isEmpty())
         return sample;
-    const std::lock_guard guard(sensorLock);
-    SmcSource* smc = sources_.smc.get();
-    if (smc == nullptr || !smc->open())
-        return sample;
     qint64 sum = 0;
-    for (const FanEntry& fan : dict.fanData) {
-        // The read's result is not looked at: an unreadable speed is an empty value, 0 rpm.
-        SMCValue value;
-        readKey(*smc, fan.speedKey, value);
-        const qint64 rpm = convertToNumber(value);
-        if (rpm >= 0) {
-            sample.values.insert(fan.name, rpm);
-            sum += rpm;
+    const bool connected = withSmcConnection([&](SmcSource& smc) {
+        for (const FanEntry& fan : dict.fanData) {
+            // The read's result is not looked at: an unreadable speed is an empty value, 0 rpm.
+            SMCValue value;
+            readKey(smc, fan.speedKey, value);
+            const qint64 rpm = convertToNumber(value);
+            if (rpm >= 0) {
+                sample.values.insert(fan.name, rpm);
+                sum += rpm;
+            }
         }
-    }
-    smc->close();
+    });
     // Over the whole list, fans left out for a negative speed included.
-    sample.average = sum / dict.fanData.size();
+    if (connected)
+        sample.average = sum / dict.fanData.size();
     return sample;
 }
 
