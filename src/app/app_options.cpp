@@ -39,9 +39,38 @@ QString usageText()
                           "  -v, --version    show the version\n");
 }
 
+// One line saying what is wrong and one pointing at the help: the whole usage would bury it.
 OptionsResult usageError(const QString& why)
 {
-    return {std::nullopt, 2, QStringLiteral("tarvel: %1\n\n").arg(why) + usageText()};
+    return {std::nullopt, 2, QStringLiteral("tarvel: %1\nTry 'tarvel --help'.\n").arg(why)};
+}
+
+// The parser's complaint in our words: an unknown option as it was typed, dashes and all.
+QString parserError(const QCommandLineParser& parser, const QStringList& arguments)
+{
+    const QStringList unknown = parser.unknownOptionNames();
+    if (unknown.isEmpty()) {
+        QString text = parser.errorText();
+        if (text.endsWith(QLatin1Char('.')))
+            text.chop(1);
+        return text.isEmpty() ? text : text.front().toLower() + text.mid(1);
+    }
+    const QString& name = unknown.front();
+    for (const QString& argument : arguments.mid(1)) {
+        const QString option = argument.section(QLatin1Char('='), 0, 0);
+        if (option.startsWith(QLatin1Char('-')) && QStringView(option).mid(option.startsWith(QLatin1String("--")) ? 2 : 1) == name)
+            return QStringLiteral("unknown option '%1'").arg(option);
+    }
+    return QStringLiteral("unknown option '--%1'").arg(name);
+}
+
+// "General, CPU, ..., VNC", for telling which names --preferences knows.
+QString moduleNames()
+{
+    QStringList names;
+    for (const ModuleSchema* schema : allModuleSchemas())
+        names.append(QLatin1String(schema->moduleKey));
+    return names.join(QStringLiteral(", "));
 }
 
 } // namespace
@@ -62,6 +91,12 @@ struct OptionSet {
     QCommandLineOption version{QStringList{QStringLiteral("v"), QStringLiteral("version")}};
 };
 
+bool isCommand(const QString& word)
+{
+    return word == QLatin1String("snapshot") || word == QLatin1String("render") ||
+           word == QLatin1String("global-address");
+}
+
 // The command and the tab of --preferences from the positional arguments; an error text or none.
 QString readPositional(const QCommandLineParser& parser, const OptionSet& o, AppOptions& options)
 {
@@ -73,6 +108,8 @@ QString readPositional(const QCommandLineParser& parser, const OptionSet& o, App
             if (const auto id = moduleForKey(positional.front())) {
                 options.preferencesTab = modulePreferenceTab(*id);
                 positional.removeFirst();
+            } else if (positional.size() == 1 && !isCommand(positional.front())) {
+                return QStringLiteral("no module named '%1' (%2)").arg(positional.front(), moduleNames());
             }
         }
     }
@@ -160,7 +197,7 @@ OptionsResult parseAppOptions(const QStringList& arguments, const QString& envir
     parser.addPositionalArgument(QStringLiteral("command"), QString());
 
     if (!parser.parse(arguments))
-        return usageError(parser.errorText());
+        return usageError(parserError(parser, arguments));
     if (parser.isSet(o.help))
         return {std::nullopt, 0, usageText()};
     if (parser.isSet(o.version))

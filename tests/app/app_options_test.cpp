@@ -53,7 +53,7 @@ TEST(AppOptions, CommandsAndOptions)
     EXPECT_TRUE(help.message.contains(QStringLiteral("Usage:")));
 }
 
-TEST(AppOptions, BadArgumentsGiveUsageAndStatusTwo)
+TEST(AppOptions, BadArgumentsSayWhatIsWrongAndGiveStatusTwo)
 {
     const QList<QStringList> bad = {
         {"--bogus"},
@@ -83,8 +83,21 @@ TEST(AppOptions, BadArgumentsGiveUsageAndStatusTwo)
         const OptionsResult r = parse(args);
         EXPECT_FALSE(r.options) << args.join(' ').toStdString();
         EXPECT_EQ(r.exitCode, 2) << args.join(' ').toStdString();
-        EXPECT_TRUE(r.message.contains(QStringLiteral("Usage:"))) << args.join(' ').toStdString();
+        EXPECT_TRUE(r.message.startsWith(QStringLiteral("tarvel: "))) << r.message.toStdString();
+        EXPECT_TRUE(r.message.endsWith(QStringLiteral("\nTry 'tarvel --help'.\n"))) << r.message.toStdString();
+        EXPECT_EQ(r.message.count(QLatin1Char('\n')), 2) << r.message.toStdString();
     }
+}
+
+TEST(AppOptions, MistakesAreNamedAsTyped)
+{
+    const auto firstLine = [](const QStringList& args) { return parse(args).message.section(QLatin1Char('\n'), 0, 0); };
+    EXPECT_EQ(firstLine({"--bogus"}), QStringLiteral("tarvel: unknown option '--bogus'"));
+    EXPECT_EQ(firstLine({"snapshot", "-x"}), QStringLiteral("tarvel: unknown option '-x'"));
+    EXPECT_EQ(firstLine({"--preferences", "Bogus"}),
+              QStringLiteral("tarvel: no module named 'Bogus' (General, CPU, Memory, Network, Disk, Volume, Temp, "
+                             "Fan, VNC)"));
+    EXPECT_EQ(firstLine({"frobnicate"}), QStringLiteral("tarvel: unknown command 'frobnicate'"));
 }
 
 TEST(AppOptions, GlobalAddressTakesServicesInOrder)
