@@ -2,6 +2,7 @@
 #include "preferences/preferences_window.h"
 
 #include "preferences/preference_tab.h"
+#include "preferences/wheel_guard.h"
 #include "toolkit/localization.h"
 
 #include <QApplication>
@@ -24,6 +25,7 @@ PreferencesWindow::PreferencesWindow(QWidget* parent)
     , failure_(new QLabel(this))
 {
     setObjectName(QStringLiteral("Preferences"));
+    WheelGuard::guard(this);
     setWindowTitle(QStringLiteral("%1 %2").arg(QApplication::applicationName(), localized("Preferences")));
     auto* layout = new QVBoxLayout(this);
     layout->addWidget(tabs_, 1);
