@@ -9,6 +9,7 @@
 #include <QCloseEvent>
 #include <QLabel>
 #include <QScreen>
+#include <QShortcut>
 #include <QTabWidget>
 #include <QVBoxLayout>
 
@@ -40,6 +41,9 @@ PreferencesWindow::PreferencesWindow(QWidget* parent)
     version->setEnabled(false);
     layout->addWidget(version);
     connect(tabs_, &QTabWidget::currentChanged, this, &PreferencesWindow::tabSelected);
+    // Closed from the keyboard as any settings window is; every change is saved already.
+    for (const QKeySequence& keys : {QKeySequence(QKeySequence::Close), QKeySequence(Qt::Key_Escape)})
+        connect(new QShortcut(keys, this), &QShortcut::activated, this, &QWidget::close);
     resize(kDefaultSize);
 }
 

@@ -79,6 +79,17 @@ TEST_F(PreferencesTest, WindowHasOneTabPerModuleTitledWithTheApplication)
     ASSERT_NE(t.app->preferencePanel(), nullptr);
     EXPECT_EQ(t.app->preferencePanel()->currentTab(), 1);
     EXPECT_TRUE(t.app->preferencePanel()->isVisible());
+
+    // Escape and the desktop's close keys close it too.
+    for (const QKeySequence& keys : {QKeySequence(Qt::Key_Escape), QKeySequence(QKeySequence::Close)}) {
+        t.app->openPreferenceTab(1);
+        window = t.app->preferencePanel();
+        window->activateWindow();
+        ASSERT_TRUE(QTest::qWaitForWindowActive(window));
+        QTest::keySequence(window, keys);
+        QTest::qWait(10);
+        EXPECT_EQ(t.app->preferencePanel(), nullptr) << keys.toString().toStdString();
+    }
 }
 
 TEST_F(PreferencesTest, SwitchingCpuOffAndOnRemovesAndRestoresItsItemAndElements)
