@@ -51,14 +51,19 @@ TEST_F(TerminalTest, RedrawsInPlaceOverTheLinesDrawnBefore)
     TerminalStatusBar bar(&buffer, true);
     auto general = bar.createItem(QStringLiteral("General"));
     auto cpu = bar.createItem(QStringLiteral("CPU"));
+    general->setText(QStringLiteral("Tarvel"));
     bar.flush();
-    EXPECT_FALSE(buffer.data().contains("\x1b[2A"));
+    // CPU has no figure yet, so no line: only General's was drawn.
+    EXPECT_FALSE(buffer.data().contains("CPU"));
+    EXPECT_FALSE(buffer.data().contains("\x1b[1A"));
 
     const qsizetype firstDraw = buffer.data().size();
     cpu->setText(QStringLiteral("50%"));
+    bar.showMessage(QStringLiteral("No update available"), {});
     bar.flush();
     const QByteArray redraw = buffer.data().mid(firstDraw);
-    EXPECT_TRUE(redraw.startsWith("\x1b[2A")) << redraw.toStdString();
+    EXPECT_TRUE(redraw.startsWith("\x1b[1A")) << redraw.toStdString();
     EXPECT_TRUE(redraw.contains("CPU      50%\n"));
+    EXPECT_TRUE(redraw.contains("* No update available\n"));
     EXPECT_FALSE(redraw.contains("No display found"));
 }

@@ -103,6 +103,9 @@ QStringList TerminalStatusBar::renderLines()
         const auto line = weak.lock();
         // A multi-line text would break the count of lines to move back over.
         QString text = line->text.simplified();
+        // A module shows its line once it has something to say, not as an empty label.
+        if (text.isEmpty())
+            continue;
         rendered.append(line->moduleKey.leftJustified(keyWidth) + QStringLiteral("  ") + text);
     }
     if (!message_.isEmpty())
