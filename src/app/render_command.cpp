@@ -31,15 +31,23 @@ int runRender(const AppOptions& options, int argc, char** argv)
     QObject::connect(&delegate, &AppDelegate::cycleFinished, &app, [&] {
         if (++finished < options.cycles)
             return;
-        bool written = bar.writeAll(options.outDir);
+        QStringList names;
+        bool written = bar.writeAll(options.outDir, &names);
         for (const ModuleSchema* schema : allModuleSchemas()) {
             MenuModule* module = delegate.menuModule(schema->id);
             const QImage graph = module != nullptr ? module->menuGraphImage() : QImage();
-            if (!graph.isNull())
-                written = ImageStatusBar::writePng(options.outDir,
-                                                   QLatin1String(schema->moduleKey) + QStringLiteral("-menu"), graph) &&
-                          written;
+            const QString name = QLatin1String(schema->moduleKey) + QStringLiteral("-menu");
+            if (graph.isNull())
+                continue;
+            const bool ok = ImageStatusBar::writePng(options.outDir, name, graph);
+            if (ok)
+                names.append(name + QStringLiteral(".png"));
+            written = ok && written;
         }
+        // Each file on a line of its own, so scripts can pick up what was made.
+        QTextStream out(stdout);
+        for (const QString& name : std::as_const(names))
+            out << QDir(options.outDir).filePath(name) << '\n';
         if (!written) {
             QTextStream(stderr) << "tarvel: could not write every picture to " << options.outDir << '\n';
             status = 1;

@@ -29,9 +29,12 @@ TEST(ImageStatusBar, KeepsTheLatestPictureAndWritesOneFilePerPicturedModule)
 
     QTemporaryDir temporary;
     const QString dir = temporary.filePath(QStringLiteral("out"));
-    ASSERT_TRUE(bar.writeAll(dir));
+    QStringList names;
+    ASSERT_TRUE(bar.writeAll(dir, &names));
     EXPECT_EQ(QDir(dir).entryList(QDir::Files),
               (QStringList{QStringLiteral("CPU.png"), QStringLiteral("General.png")}));
+    names.sort();
+    EXPECT_EQ(names, QDir(dir).entryList(QDir::Files));
     const QImage written(QDir(dir).filePath(QStringLiteral("CPU.png")));
     EXPECT_EQ(written.size(), QSize(110, 40));
     EXPECT_EQ(written.pixel(0, 0), QColor(Qt::red).rgba());

@@ -41,13 +41,17 @@ QString ImageStatusBar::text(const QString& moduleKey) const
     return item ? item->text : QString();
 }
 
-bool ImageStatusBar::writeAll(const QString& dir) const
+bool ImageStatusBar::writeAll(const QString& dir, QStringList* written) const
 {
     bool allWritten = true;
     for (const auto& weak : items_) {
         const auto item = weak.lock();
-        if (item && !item->image.isNull())
-            allWritten = writePng(dir, item->moduleKey, item->image) && allWritten;
+        if (!item || item->image.isNull())
+            continue;
+        const bool ok = writePng(dir, item->moduleKey, item->image);
+        if (ok && written != nullptr)
+            written->append(item->moduleKey + QStringLiteral(".png"));
+        allWritten = ok && allWritten;
     }
     return allWritten;
 }

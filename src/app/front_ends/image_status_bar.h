@@ -22,7 +22,8 @@ public:
     QString text(const QString& moduleKey) const;
 
     // Writes every item that has a picture to dir as <module>.png; false if any write failed.
-    bool writeAll(const QString& dir) const;
+    // The names written are added to written when it is given.
+    bool writeAll(const QString& dir, QStringList* written = nullptr) const;
     // Writes image to dir as <name>.png, recording its pixel ratio as the file's resolution
     // (72 dots per inch at ratio 1) so that viewers show it at its size in points.
     static bool writePng(const QString& dir, const QString& name, const QImage& image);
