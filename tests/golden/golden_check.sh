@@ -31,7 +31,7 @@ run_tree() { # name, root, pictures to compare
   local args=(--root "$root" --settings "$home/settings.plist")
   "$tarvel" "${args[@]}" snapshot --json | normalize >"$home/snapshot.json"
   "$tarvel" "${args[@]}" snapshot | normalize >"$home/snapshot.txt"
-  "$tarvel" "${args[@]}" render --out "$home/render" 2>/dev/null
+  "$tarvel" "${args[@]}" render --out "$home/render" >/dev/null 2>&1
   check "$name.snapshot.json" "$home/snapshot.json"
   check "$name.snapshot.txt" "$home/snapshot.txt"
   for picture in "$@"; do

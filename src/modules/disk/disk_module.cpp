@@ -80,12 +80,15 @@ QString diskSnapshotText(const SnapshotContext& context)
     const DiskBaseDict& disks = context.disks;
     const History<DiskSample> history = context.info.history<DiskSample>(context.slot);
     const std::vector<StorageBarSet> sets = diskBarSets(diskPictureSettings(context.settings), disks);
-    QString out = QStringLiteral("Disk\n  bar    ") + diskBarText(sets, disks, history) + QLatin1Char('\n');
-    if (history.size() < 2)
-        out += QStringLiteral("  (rates need two samples; sample more cycles)\n");
+    // A rate shown is a rate measured: before two samples there is none to show.
+    const bool measured = history.size() >= 2;
+    QString out = QStringLiteral("Disk\n");
+    out += measured ? QStringLiteral("  bar    ") + diskBarText(sets, disks, history) + QLatin1Char('\n')
+                    : QStringLiteral("  (rates need two samples; sample more cycles)\n");
     for (const auto& [key, disk] : disks) {
         out += QStringLiteral("  ") + diskTitleText(disk) + QLatin1Char('\n');
-        for (const QString& line : {diskFactsText(disk), diskRatesText(history, key), diskTotalsText(history, key)})
+        const QString rates = measured ? diskRatesText(history, key) : QString();
+        for (const QString& line : {diskFactsText(disk), rates, diskTotalsText(history, key)})
             if (!line.isEmpty())
                 out += QStringLiteral("    ") + line + QLatin1Char('\n');
     }
