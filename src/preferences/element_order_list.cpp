@@ -24,6 +24,9 @@ ElementOrderList::ElementOrderList(QWidget* parent)
 
 void ElementOrderList::setEntries(const QList<Entry>& entries)
 {
+    // The entry the user is working on stays selected when the stored order comes back, so a
+    // second Alt+Up moves it again.
+    const QVariant selected = currentItem() != nullptr ? currentItem()->data(kCodeRole) : QVariant();
     filling_ = true;
     clear();
     for (const Entry& entry : entries) {
@@ -31,6 +34,8 @@ void ElementOrderList::setEntries(const QList<Entry>& entries)
         item->setData(kCodeRole, entry.code);
         item->setFlags(Qt::ItemIsEnabled | Qt::ItemIsSelectable | Qt::ItemIsUserCheckable | Qt::ItemIsDragEnabled);
         item->setCheckState(entry.on ? Qt::Checked : Qt::Unchecked);
+        if (selected.isValid() && selected.toLongLong() == entry.code)
+            setCurrentItem(item);
     }
     // Tall enough for every entry, so that dragging never needs scrolling.
     if (count() > 0)

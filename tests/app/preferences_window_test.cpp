@@ -140,6 +140,19 @@ TEST_F(PreferencesTest, MovingAModuleReordersTheBar)
     EXPECT_EQ(bar.shown.last(), QStringLiteral("General"));
 }
 
+TEST_F(PreferencesTest, AltUpMovesTheSameModuleAgainAfterTheSettingsCameBack)
+{
+    ElementOrderList* list = top().moduleList();
+    list->setCurrentRow(2); // Network
+    for (int press = 0; press < 2; ++press) {
+        QTest::keyClick(list, Qt::Key_Up, Qt::AltModifier);
+        QTest::qWait(kSettleMs); // the change goes round and the list is filled again
+    }
+    EXPECT_EQ(bar.shown.first(), QStringLiteral("Network"));
+    ASSERT_NE(list->currentItem(), nullptr);
+    EXPECT_EQ(list->currentRow(), 0);
+}
+
 TEST_F(PreferencesTest, ABurstOfColourChangesIsWrittenOnceAndReloadedOnce)
 {
     int writes = 0;
