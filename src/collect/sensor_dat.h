@@ -54,6 +54,12 @@ struct SensorSample {
     std::optional<qint64> average;
 
     bool empty() const { return values.isEmpty() && !average; }
+    // The named sensor's or fan's reading; none when it gave no valid one this time.
+    std::optional<qint64> reading(const QString& name) const
+    {
+        const auto it = values.constFind(name);
+        return it == values.cend() ? std::nullopt : std::optional<qint64>(it.value());
+    }
 };
 
 // A drive's own temperature report: its model and whole degrees (0 when not read).

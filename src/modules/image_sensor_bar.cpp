@@ -18,10 +18,7 @@ enum ElementCode : qint64 { Graph = 1, Text = 2 };
 
 std::optional<qint64> sensorValue(const SensorSample& sample, const QString& shown)
 {
-    if (shown.isEmpty())
-        return sample.average;
-    const auto it = sample.values.constFind(shown);
-    return it == sample.values.cend() ? std::nullopt : std::optional<qint64>(it.value());
+    return shown.isEmpty() ? sample.average : sample.reading(shown);
 }
 
 int sensorShownElementCount(const SensorPictureSettings& settings)

@@ -28,11 +28,8 @@ QList<SensorPanelRow> fanPanelRows(const QList<FanEntry>& fans, const SensorSamp
     if (fans.isEmpty())
         return {{Kind::Note, localized("No fans were found."), {}, {}}};
     QList<SensorPanelRow> rows;
-    for (const FanEntry& fan : fans) {
-        const auto it = sample.values.constFind(fan.name);
-        rows.append({Kind::Reading, fan.name, speed(it == sample.values.cend() ? std::nullopt : std::optional(*it)),
-                     limits(fan)});
-    }
+    for (const FanEntry& fan : fans)
+        rows.append({Kind::Reading, fan.name, speed(sample.reading(fan.name)), limits(fan)});
     rows.append({Kind::Reading, localized("Average"), speed(sample.average), {}});
     return rows;
 }

@@ -21,12 +21,6 @@ QString marks(const TempSensorEntry& entry, const TempUnit& unit)
     return parts.join(QStringLiteral(", "));
 }
 
-std::optional<qint64> reading(const SensorSample& sample, const QString& name)
-{
-    const auto it = sample.values.constFind(name);
-    return it == sample.values.cend() ? std::nullopt : std::optional<qint64>(it.value());
-}
-
 } // namespace
 
 QList<SensorPanelRow> tempPanelRows(const std::optional<QList<TempSensorEntry>>& table, const SensorSample& sample,
@@ -47,7 +41,7 @@ QList<SensorPanelRow> tempPanelRows(const std::optional<QList<TempSensorEntry>>&
             rows.append({Kind::Heading, group.isEmpty() ? localized("Sensors") : group, {}, {}});
             for (const TempSensorEntry& entry : *table) {
                 if (entry.group == group)
-                    rows.append({Kind::Reading, entry.name, degrees(reading(sample, entry.name), unit),
+                    rows.append({Kind::Reading, entry.name, degrees(sample.reading(entry.name), unit),
                                  marks(entry, unit)});
             }
         }
