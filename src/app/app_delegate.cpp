@@ -144,18 +144,13 @@ void AppDelegate::loadSensorDatDict()
     SettingsStore& store = *userDefaults_;
     SensorDatDict table = loadInfo_->getSensorDatXml(store.stringForKey(PrefKey::MacRawName));
     if (table.tempData) {
-        QStringList removed;
-        for (const QVariant& key : store.arrayForKey(PrefKey::RemovedTempKeys))
-            removed.append(key.toString());
+        const QStringList removed = QVariant(store.arrayForKey(PrefKey::RemovedTempKeys)).toStringList();
         TempDetail detail = loadInfo_->getDetailTemp(table, removed);
-        if (detail.removedTempKeys.isEmpty()) {
+        if (detail.removedTempKeys.isEmpty())
             store.removeObjectForKey(PrefKey::RemovedTempKeys);
-        } else {
-            QVariantList keys;
-            for (const QString& key : std::as_const(detail.removedTempKeys))
-                keys.append(key);
-            store.setArray(PrefKey::RemovedTempKeys, keys);
-        }
+        else
+            store.setArray(PrefKey::RemovedTempKeys,
+                           QVariantList(detail.removedTempKeys.cbegin(), detail.removedTempKeys.cend()));
         store.synchronize();
         if (!detail.entries.isEmpty())
             table.tempData = std::move(detail.entries);
