@@ -1,7 +1,7 @@
 // Add and remove announcements of hwmon devices from the device manager's monitor socket.
 #include "collect/linux/hwmon_watch.h"
 
-#include "collect/collect_log.h"
+#include "collect/linux/udev_monitor.h"
 
 #include <libudev.h>
 #include <poll.h>
@@ -10,20 +10,8 @@
 
 HwmonWatch::HwmonWatch()
     : udev_(udev_new())
-{
-    if (udev_ == nullptr)
-        return;
-    // Announced after the device manager has run its rules, when the attributes are in place.
-    monitor_ = udev_monitor_new_from_netlink(udev_, "udev");
-    if (monitor_ == nullptr)
-        return;
-    if (udev_monitor_filter_add_match_subsystem_devtype(monitor_, "hwmon", nullptr) < 0 ||
-        udev_monitor_enable_receiving(monitor_) < 0) {
-        qCDebug(lcCollect) << "cannot listen for hwmon device events";
-        udev_monitor_unref(monitor_);
-        monitor_ = nullptr;
-    }
-}
+    , monitor_(openUdevMonitor(udev_, "hwmon"))
+{}
 
 HwmonWatch::~HwmonWatch()
 {

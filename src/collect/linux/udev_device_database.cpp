@@ -4,6 +4,7 @@
 #include "collect/collect_log.h"
 #include "collect/hex_escapes.h"
 #include "collect/linux/text_fields.h"
+#include "collect/linux/udev_monitor.h"
 
 #include <libudev.h>
 #include <sys/sysmacros.h>
@@ -80,20 +81,9 @@ int UdevDeviceDatabase::eventDescriptor()
 {
     if (udev_ == nullptr)
         return -1;
-    if (monitor_ == nullptr) {
-        // Events after udev has run its rules, so that a new label is already in the database.
-        monitor_ = udev_monitor_new_from_netlink(udev_, "udev");
-        if (monitor_ == nullptr)
-            return -1;
-        if (udev_monitor_filter_add_match_subsystem_devtype(monitor_, "block", nullptr) < 0 ||
-            udev_monitor_enable_receiving(monitor_) < 0) {
-            qCDebug(lcCollect) << "cannot listen for block device events";
-            udev_monitor_unref(monitor_);
-            monitor_ = nullptr;
-            return -1;
-        }
-    }
-    return udev_monitor_get_fd(monitor_);
+    if (monitor_ == nullptr)
+        monitor_ = openUdevMonitor(udev_, "block");
+    return monitor_ != nullptr ? udev_monitor_get_fd(monitor_) : -1;
 }
 
 std::vector<std::string> UdevDeviceDatabase::takeChangedDevices()

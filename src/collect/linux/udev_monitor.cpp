@@ -1,0 +1,22 @@
+// One place for the monitor set-up the block-device and hwmon watchers share.
+#include "collect/linux/udev_monitor.h"
+
+#include "collect/collect_log.h"
+
+#include <libudev.h>
+
+udev_monitor* openUdevMonitor(udev* context, const char* subsystem)
+{
+    if (context == nullptr)
+        return nullptr;
+    udev_monitor* monitor = udev_monitor_new_from_netlink(context, "udev");
+    if (monitor == nullptr)
+        return nullptr;
+    if (udev_monitor_filter_add_match_subsystem_devtype(monitor, subsystem, nullptr) < 0 ||
+        udev_monitor_enable_receiving(monitor) < 0) {
+        qCDebug(lcCollect) << "cannot listen for" << subsystem << "device events";
+        udev_monitor_unref(monitor);
+        return nullptr;
+    }
+    return monitor;
+}
