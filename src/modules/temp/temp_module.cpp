@@ -11,7 +11,6 @@
 #include "prefs/pref_keys.h"
 #include "prefs/pref_measure.h"
 #include "toolkit/label_lists.h"
-#include "toolkit/temperature_format.h"
 
 namespace {
 
@@ -76,8 +75,7 @@ QString tempSnapshotText(const SnapshotContext& context)
     const ModuleDefaults& d = context.settings;
     const TempUnit unit{static_cast<int>(d.intValue(Temp_Unit_Mode)), d.stringValue(Temp_Unit_ModeStr)};
     const SensorSample newest = newestSensorSample(context);
-    const std::optional<qint64> shown = sensorValue(newest, tempShownSensor(d));
-    const QString bar = TvlClasses::calcTempWithUnit(shown ? static_cast<float>(*shown) : 0.0F, unit.mode, unit.text, true);
+    const QString bar = tempDegreesText(sensorValue(newest, tempShownSensor(d)), unit);
     // The drives are only listed unless the settings allow asking them.
     const QList<SmartReading> drives = context.loadInfo.getSmartDetailTemp(!d.boolValue(Temp_AccessForSmartDisks));
     return sensorSnapshotText(context, bar, tempPanelRows(context.sensors.tempData, newest, unit, drives));

@@ -6,22 +6,22 @@
 
 namespace {
 
-QString degrees(std::optional<qint64> celsius, const TempUnit& unit)
-{
-    return TvlClasses::calcTempWithUnit(celsius ? static_cast<float>(*celsius) : 0.0F, unit.mode, unit.text, true);
-}
-
 QString marks(const TempSensorEntry& entry, const TempUnit& unit)
 {
     QStringList parts;
     if (entry.high)
-        parts.append(localized("high %1").arg(degrees(*entry.high, unit)));
+        parts.append(localized("high %1").arg(tempDegreesText(*entry.high, unit)));
     if (entry.critical)
-        parts.append(localized("critical %1").arg(degrees(*entry.critical, unit)));
+        parts.append(localized("critical %1").arg(tempDegreesText(*entry.critical, unit)));
     return parts.join(QStringLiteral(", "));
 }
 
 } // namespace
+
+QString tempDegreesText(std::optional<qint64> celsius, const TempUnit& unit)
+{
+    return TvlClasses::calcTempWithUnit(celsius ? static_cast<float>(*celsius) : 0.0F, unit.mode, unit.text, true);
+}
 
 QList<SensorPanelRow> tempPanelRows(const std::optional<QList<TempSensorEntry>>& table, const SensorSample& sample,
                                     const TempUnit& unit, const QList<SmartReading>& drives)
@@ -41,18 +41,18 @@ QList<SensorPanelRow> tempPanelRows(const std::optional<QList<TempSensorEntry>>&
             rows.append({Kind::Heading, group.isEmpty() ? localized("Sensors") : group, {}, {}});
             for (const TempSensorEntry& entry : *table) {
                 if (entry.group == group)
-                    rows.append({Kind::Reading, entry.name, degrees(sample.reading(entry.name), unit),
+                    rows.append({Kind::Reading, entry.name, tempDegreesText(sample.reading(entry.name), unit),
                                  marks(entry, unit)});
             }
         }
-        rows.append({Kind::Reading, localized("Average"), degrees(sample.average, unit), {}});
+        rows.append({Kind::Reading, localized("Average"), tempDegreesText(sample.average, unit), {}});
     }
     // The drive list starts with its "---" row, which stands for the section's heading.
     for (qsizetype i = 0; i < drives.size(); ++i) {
         if (i == 0)
             rows.append({Kind::Heading, localized("Drives"), {}, {}});
         else
-            rows.append({Kind::Reading, drives.at(i).model, degrees(drives.at(i).temperature, unit), {}});
+            rows.append({Kind::Reading, drives.at(i).model, tempDegreesText(drives.at(i).temperature, unit), {}});
     }
     return rows;
 }

@@ -12,6 +12,9 @@ struct TempUnit {
     QString text; // "°C"
 };
 
+// Whole degrees in the unit, "---" (its placeholder) without a reading.
+QString tempDegreesText(std::optional<qint64> celsius, const TempUnit& unit);
+
 // table: the sensor table's temperatures (none: the machine names no sensor). drives: the drive
 // list with its "---" row in front, or empty. A sensor missing from the sample shows the
 // placeholder; a table without sensors gives a note that none were found.
