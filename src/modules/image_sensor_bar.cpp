@@ -51,10 +51,15 @@ void ImageSensorBar::redrawWithSize(QSizeF size, Insets newInsets, bool highLigh
     shown_ = shown;
 }
 
-QColor ImageSensorBar::levelColor(double value) const
+double ImageSensorBar::fractionOf(qint64 value) const
+{
+    const double maximum = mySettings.maximum;
+    return maximum > 0 ? std::clamp(static_cast<double>(value) / maximum, 0.0, 1.0) : 0.0;
+}
+
+QColor ImageSensorBar::levelColor(double fraction) const
 {
     const SensorPictureSettings& settings = mySettings;
-    const double fraction = settings.maximum > 0 ? std::clamp(value / settings.maximum, 0.0, 1.0) : 0.0;
     return retGraphColor(fraction, settings.low, settings.warning, settings.critical, settings.gradient);
 }
 
@@ -89,9 +94,9 @@ void ImageSensorBar::drawGraph(QPainter& painter, TextAttributes& attributes, do
         const std::optional<qint64> value = sensorValue(resumeArray[i - 1], shown_);
         if (!value || settings.maximum <= 0)
             continue;
-        const double fraction = std::clamp(static_cast<double>(*value) / settings.maximum, 0.0, 1.0);
+        const double fraction = fractionOf(*value);
         painter.fillRect(QRectF(right - 1, insets.top, 1, fraction * height),
-                         drawingColor(levelColor(static_cast<double>(*value)), drawInWhite));
+                         drawingColor(levelColor(fraction), drawInWhite));
     }
     if (right > x && drawEmptyLine)
         tvlDrawEmptyUnderLine(painter, settings.emptyLine, x, insets.top, right - x);
@@ -105,14 +110,17 @@ void ImageSensorBar::drawText(QPainter& painter, TextAttributes& attributes, con
     const SensorPictureSettings& settings = mySettings;
     const std::optional<qint64> value =
         resumeArray.empty() ? std::nullopt : sensorValue(resumeArray.back(), shown_);
-    const QColor ink = settings.colored && value ? levelColor(static_cast<double>(*value)) : settings.textColor;
-    TextAttributes own = attributes;
-    const bool shrunk = piled && settings.piledFontSize > 0;
+    const QColor ink = settings.colored && value ? levelColor(fractionOf(*value)) : settings.textColor;
+    if (!piled) {
+        tvlDrawString(painter, valueText(value, false), 1, 2, ink, attributes, frame, settings.fontAdjust, drawInWhite);
+        return;
+    }
+    // On the graph: the heavier shadow, and the smaller size where the full one does not fit.
+    TextAttributes onGraph = attributes;
+    const bool shrunk = settings.piledFontSize > 0;
     if (shrunk)
-        own.font.setPointSizeF(settings.piledFontSize);
-    if (piled)
-        own.shadow = retPiledTextShadow(settings.textAttributes.shadow ? settings.textAttributes.shadow->color
-                                                                        : QColor(Qt::transparent));
-    tvlDrawString(painter, valueText(value, shrunk), 1, piled ? 1 : 2, ink, piled ? own : attributes, frame,
-                  settings.fontAdjust, drawInWhite);
+        onGraph.font.setPointSizeF(settings.piledFontSize);
+    onGraph.shadow = retPiledTextShadow(settings.textAttributes.shadow ? settings.textAttributes.shadow->color
+                                                                       : QColor(Qt::transparent));
+    tvlDrawString(painter, valueText(value, shrunk), 1, 1, ink, onGraph, frame, settings.fontAdjust, drawInWhite);
 }

@@ -41,7 +41,10 @@ public:
 private:
     void drawGraph(QPainter& painter, TvlClasses::TextAttributes& attributes, double& x) const;
     void drawText(QPainter& painter, TvlClasses::TextAttributes& attributes, const QRectF& frame, bool piled) const;
-    QColor levelColor(double value) const;
+    // The figure's share of the full scale, 0 to 1.
+    double fractionOf(qint64 value) const;
+    // Low, warning from 0.7, critical from 0.9 (blended between them with the gradient setting).
+    QColor levelColor(double fraction) const;
 
     QString shown_;
     // Linux panels highlight an open item themselves; the picture keeps its colours.
