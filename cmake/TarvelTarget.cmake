@@ -36,9 +36,10 @@ function(tarvel_library name)
   tarvel_target_defaults(${name})
 endfunction()
 
-# tarvel_test(NAME SOURCES... LIBS ...): one GoogleTest binary registered with CTest.
+# tarvel_test(NAME SOURCES... LIBS ... [LOCK resource]): one GoogleTest binary registered with
+# CTest; tests that share a LOCK never run at the same time (the machine's mount table, say).
 function(tarvel_test name)
-  cmake_parse_arguments(ARG "" "" "SOURCES;LIBS" ${ARGN})
+  cmake_parse_arguments(ARG "" "LOCK" "SOURCES;LIBS" ${ARGN})
   add_executable(${name} ${ARG_SOURCES})
   target_link_libraries(${name} PRIVATE ${ARG_LIBS} tarvel_test_support GTest::gtest GTest::gmock)
   tarvel_target_defaults(${name})
@@ -47,6 +48,9 @@ function(tarvel_test name)
   if(TARVEL_TSAN)
     list(APPEND properties ENVIRONMENT_MODIFICATION
          "TSAN_OPTIONS=set:suppressions=${PROJECT_SOURCE_DIR}/tools/tsan.supp")
+  endif()
+  if(ARG_LOCK)
+    list(APPEND properties RESOURCE_LOCK ${ARG_LOCK})
   endif()
   gtest_discover_tests(${name} DISCOVERY_TIMEOUT 60 PROPERTIES ${properties})
 endfunction()
