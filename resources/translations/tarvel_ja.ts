@@ -442,5 +442,33 @@ new ver : %@</source>
         <source>Global IP Address</source>
         <translation>グローバル IP アドレス</translation>
     </message>
+    <message>
+        <source>The settings file %1 is not a regular file; the default settings are used and nothing is saved there.</source>
+        <translation>設定ファイル %1 は通常のファイルではありません。既定の設定を使い、そこには何も保存しません。</translation>
+    </message>
+    <message>
+        <source>The settings file %1 could not be read; it was moved to %2 and the default settings are used.</source>
+        <translation>設定ファイル %1 を読み込めませんでした。%2 に移動し、既定の設定を使います。</translation>
+    </message>
+    <message>
+        <source>The settings file %1 could not be read nor moved aside; the default settings are used and the file is left as it is.</source>
+        <translation>設定ファイル %1 を読み込めず、退避もできませんでした。既定の設定を使い、ファイルはそのまま残します。</translation>
+    </message>
+    <message>
+        <source>The settings could not be saved to %1.</source>
+        <translation>設定を %1 に保存できませんでした。</translation>
+    </message>
+    <message>
+        <source>The colour theme %1 could not be read nor moved aside; the light theme is used and the file is left as it is.</source>
+        <translation>カラーテーマ %1 を読み込めず、退避もできませんでした。ライトテーマを使い、ファイルはそのまま残します。</translation>
+    </message>
+    <message>
+        <source>The colour theme %1 could not be read; it was moved to %2 and the light theme is used.</source>
+        <translation>カラーテーマ %1 を読み込めませんでした。%2 に移動し、ライトテーマを使います。</translation>
+    </message>
+    <message>
+        <source>The colour theme %1 is not a regular file; the light theme is used and nothing is saved there.</source>
+        <translation>カラーテーマ %1 は通常のファイルではありません。ライトテーマを使い、そこには何も保存しません。</translation>
+    </message>
 </context>
 </TS>

@@ -109,7 +109,7 @@ void AppDelegate::applicationDidFinishLaunching(bool startTimer)
     if (MachineSource* machine = loadInfo_->sources().machine.get())
         collectMyMacDetail(store, machineFacts(*machine));
     loadSensorDatDict();
-    themeColorDict_ = TvlClasses::checkThemeValues(TvlClasses::checkNowThemeFile());
+    loadThemeColorDict();
     reloadGeneralDefaults(false);
     for (const ModuleSchema* schema : allModuleSchemas()) {
         if (schema->id != ModuleId::General)

@@ -148,6 +148,8 @@ private:
     void prepareSettingsStore();
     // The sensor table: every sensor named, less those that do not answer, and the fan list.
     void loadSensorDatDict();
+    // The current theme, repaired; a damaged or foreign theme file is reported, never lost.
+    void loadThemeColorDict();
     // Takes a module's reloaded settings; its interval reaches the schedule at once.
     void setModuleDefaults(ModuleId id, ModuleDefaults defaults);
     void reloadModuleDefaults(ModuleId id);

@@ -203,7 +203,7 @@ void AppDelegate::processFontOrColor(const QVariantMap& info, bool& skipRest)
         QTimer::singleShot(kColorWriteDelayMs, this, &AppDelegate::writeToColorThemeFile);
     }
     if (flag(info, NotifKey::ModuleThemeChanged))
-        themeColorDict_ = TvlClasses::checkThemeValues(TvlClasses::checkNowThemeFile());
+        loadThemeColorDict();
 }
 
 void AppDelegate::processModuleNotif(ModuleId id, const QVariantMap& info, bool removeFirst, bool refreshItems)
@@ -239,6 +239,14 @@ void AppDelegate::handOutTabDefaults(bool themeChanged)
         top->rebuildThemeMenus();
         top->rebuildFontMenus();
     }
+}
+
+void AppDelegate::loadThemeColorDict()
+{
+    QString problem;
+    themeColorDict_ = TvlClasses::checkThemeValues(TvlClasses::checkNowThemeFile(&problem));
+    if (!problem.isEmpty())
+        qCWarning(lcApp).noquote() << problem;
 }
 
 void AppDelegate::writeNowThemeFile()

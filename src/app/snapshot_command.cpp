@@ -15,6 +15,8 @@ std::unique_ptr<PlistSettingsStore> openSettingsStore(const AppOptions& options)
                                                                                      : options.settingsFile);
     if (!store->openProblem().isEmpty())
         QTextStream(stderr) << store->openProblem() << '\n';
+    // Commands without a window have nobody else to tell that their settings were not kept.
+    store->setSaveProblemReporter([](const QString& problem) { QTextStream(stderr) << problem << '\n'; });
     return store;
 }
 

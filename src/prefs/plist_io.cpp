@@ -1,6 +1,9 @@
 // Property-list files read and written through libplist, as Qt variants.
 #include "prefs/plist_io.h"
 
+#include "prefs/binary_plist_depth.h"
+#include "prefs/guarded_file.h"
+
 #include <QDateTime>
 #include <QFile>
 #include <QSaveFile>
@@ -8,6 +11,7 @@
 
 #include <plist/plist.h>
 
+#include <algorithm>
 #include <cstdlib>
 #include <limits>
 #include <memory>
@@ -69,7 +73,7 @@ QVariant arrayToVariant(plist_t node, int depth)
 QVariant toVariant(plist_t node, int depth)
 {
     // A hostile file could nest deeply enough to exhaust the stack.
-    if (!node || depth > 256)
+    if (!node || depth > kMaxNesting)
         return {};
     switch (plist_get_node_type(node)) {
     case PLIST_DICT:
@@ -187,11 +191,41 @@ plist_t fromVariant(const QVariant& value)
     }
 }
 
+bool startsAt(const QByteArray& bytes, qsizetype at, QByteArrayView word)
+{
+    return QByteArrayView(bytes).sliced(std::min(at, bytes.size())).startsWith(word);
+}
+
+// libplist builds and frees its trees recursively, so a file nested deeply enough overflows the
+// stack before any of our checks could see the tree: count the nesting in the text first.
+bool xmlNestingWithin(const QByteArray& bytes, int limit)
+{
+    int depth = 0;
+    for (qsizetype i = bytes.indexOf('<'); i >= 0; i = bytes.indexOf('<', i + 1)) {
+        const bool closing = startsAt(bytes, i + 1, "/");
+        const qsizetype name = i + (closing ? 2 : 1);
+        if (!startsAt(bytes, name, "dict") && !startsAt(bytes, name, "array"))
+            continue;
+        const qsizetype end = bytes.indexOf('>', name);
+        if (end < 0)
+            return true; // unfinished text: the parser rejects it
+        if (closing)
+            --depth;
+        else if (bytes.at(end - 1) != '/' && ++depth > limit)
+            return false;
+    }
+    return true;
+}
+
 } // namespace
 
 std::optional<QVariant> parse(const QByteArray& bytes)
 {
     if (bytes.isEmpty() || bytes.size() > std::numeric_limits<int32_t>::max())
+        return std::nullopt;
+    const bool nestingFits =
+        bytes.startsWith("bplist") ? binaryNestingWithin(bytes, kMaxNesting) : xmlNestingWithin(bytes, kMaxNesting);
+    if (!nestingFits)
         return std::nullopt;
     plist_t root = nullptr;
     plist_from_memory(bytes.constData(), static_cast<uint32_t>(bytes.size()), &root);
@@ -221,10 +255,10 @@ QByteArray toXml(const QVariant& value)
 
 std::optional<QVariantMap> readDictionary(const QString& path)
 {
-    QFile file(path);
-    if (!file.open(QIODevice::ReadOnly))
+    const std::optional<QByteArray> bytes = GuardedFile::readBounded(path, kMaxFileBytes);
+    if (!bytes)
         return std::nullopt;
-    const std::optional<QVariant> root = parse(file.readAll());
+    const std::optional<QVariant> root = parse(*bytes);
     if (!root || root->typeId() != QMetaType::QVariantMap)
         return std::nullopt;
     return root->toMap();

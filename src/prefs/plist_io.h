@@ -10,6 +10,10 @@
 
 namespace PlistIo {
 
+// Settings and themes (with their pictures) stay far below these; anything beyond is not ours.
+inline constexpr int kMaxNesting = 64;
+inline constexpr qint64 kMaxFileBytes = 32 * 1024 * 1024;
+
 // Parses XML or binary property-list bytes; empty optional when they are not a property list.
 // Dictionaries become QVariantMap, arrays QVariantList, data QByteArray, dates QDateTime,
 // booleans bool, integers qint64, reals double, strings QString.
@@ -18,8 +22,9 @@ std::optional<QVariant> parse(const QByteArray& bytes);
 // The XML property-list form of a variant built from the types above.
 QByteArray toXml(const QVariant& value);
 
-// The dictionary stored at path; empty optional when the file is missing, unreadable or its
-// top level is not a dictionary.
+// The dictionary stored at path; empty optional when the file is missing, not a regular file,
+// larger than kMaxFileBytes, nested deeper than kMaxNesting, unreadable or its top level is not
+// a dictionary.
 std::optional<QVariantMap> readDictionary(const QString& path);
 
 // Writes the dictionary as an XML property list through a temporary file renamed into place,

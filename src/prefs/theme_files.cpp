@@ -1,9 +1,11 @@
 // The support folder and its theme files: installing the reference themes, saving named copies.
 #include "prefs/theme_files.h"
 
-#include "prefs/pref_keys.h"
+#include "prefs/guarded_file.h"
 #include "prefs/plist_io.h"
+#include "prefs/pref_keys.h"
 #include "prefs/theme_keys.h"
+#include "toolkit/localization.h"
 
 #include <QDir>
 #include <QFile>
@@ -14,8 +16,8 @@ namespace TvlClasses {
 
 QString retApplicationSupportDir()
 {
-    return QStandardPaths::writableLocation(QStandardPaths::GenericDataLocation) + u'/'
-           + QLatin1String(kThemeFolderName);
+    return QStandardPaths::writableLocation(QStandardPaths::GenericDataLocation) + u'/' +
+           QLatin1String(kThemeFolderName);
 }
 
 void checkMyApplicationSupportDir()
@@ -46,7 +48,7 @@ bool replaceThemeFile(const QString& from, const QString& to)
     return true;
 }
 
-QVariantMap checkNowThemeFile()
+QVariantMap checkNowThemeFile(QString* problem)
 {
     checkMyApplicationSupportDir();
     for (const char* name : {kLightThemeName, kDarkThemeName}) {
@@ -54,11 +56,34 @@ QVariantMap checkNowThemeFile()
         replaceThemeFile(retBundleThemePath(QLatin1String(name)), retThemeFilePath(fileName));
     }
     const QString nowPath = retThemeFilePath(QLatin1String(kNowThemeFileName));
-    if (!QFileInfo::exists(nowPath)) {
-        const QString light = QLatin1String(kLightThemeName) + u'.' + QLatin1String(kThemeExtension);
-        replaceThemeFile(retThemeFilePath(light), nowPath);
+    const QString lightPath = retBundleThemePath(QLatin1String(kLightThemeName));
+    const GuardedFile::Target now = GuardedFile::resolve(nowPath);
+    const auto tell = [problem](const QString& text) {
+        if (problem)
+            *problem = text;
+    };
+    if (now.kind == GuardedFile::Kind::Regular) {
+        if (std::optional<QVariantMap> theme = PlistIo::readDictionary(now.path))
+            return *theme;
+        // The user's colours may be in there: keep the file, start again from the light theme.
+        const std::optional<QString> aside = GuardedFile::setAside(now.path);
+        if (!aside) {
+            tell(localized("The colour theme %1 could not be read nor moved aside; "
+                           "the light theme is used and the file is left as it is.")
+                     .arg(nowPath));
+            return PlistIo::readDictionary(lightPath).value_or(QVariantMap());
+        }
+        tell(localized("The colour theme %1 could not be read; it was moved to %2 and the "
+                       "light theme is used.")
+                 .arg(nowPath, *aside));
+    } else if (now.kind == GuardedFile::Kind::Other) {
+        tell(localized("The colour theme %1 is not a regular file; the light theme "
+                       "is used and nothing is saved there.")
+                 .arg(nowPath));
+        return PlistIo::readDictionary(lightPath).value_or(QVariantMap());
     }
-    return PlistIo::readDictionary(nowPath).value_or(QVariantMap());
+    replaceThemeFile(lightPath, now.path);
+    return PlistIo::readDictionary(now.path).value_or(QVariantMap());
 }
 
 bool saveThemeFile(const QString& path, const QVariantMap& theme)

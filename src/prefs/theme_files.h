@@ -22,8 +22,10 @@ QString retBundleThemePath(const QString& themeName);
 bool replaceThemeFile(const QString& from, const QString& to);
 
 // Refreshes the reference themes in the support folder, creates the current theme from the
-// light one when there is none, and returns the current theme (empty when it is unreadable).
-QVariantMap checkNowThemeFile();
+// light one when there is none, and returns the current theme. A damaged current theme is moved
+// aside and replaced by the light one; one that is not a regular file is left alone and the light
+// theme is returned. Either is described in problem.
+QVariantMap checkNowThemeFile(QString* problem = nullptr);
 
 // Writes a copy of the theme, named after the file and with any PNG overrides of the support
 // folder, atomically to path. False when it could not be written.

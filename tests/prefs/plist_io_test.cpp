@@ -115,6 +115,22 @@ TEST(PlistIoParse, RefusesWhatIsNotAPropertyList)
     EXPECT_FALSE(PlistIo::parse("<?xml version=\"1.0\"?><plist><dict><key>a</key>").has_value());
 }
 
+TEST(PlistIoParse, NestingIsBoundedInBothFormsBeforeLibplistSeesIt)
+{
+    const auto nested = [](int depth) {
+        QVariant value = QVariantList{QStringLiteral("leaf"), 1};
+        for (int i = 1; i < depth; ++i)
+            value = QVariantList{value, i};
+        return QVariantMap{{QStringLiteral("k"), value}};
+    };
+    const QVariantMap fits = nested(PlistIo::kMaxNesting - 2);
+    const QVariantMap deep = nested(PlistIo::kMaxNesting + 2);
+    EXPECT_TRUE(PlistIo::parse(PlistIo::toXml(fits)).has_value());
+    EXPECT_TRUE(PlistIo::parse(binaryPlistOf(fits)).has_value());
+    EXPECT_FALSE(PlistIo::parse(PlistIo::toXml(deep)).has_value());
+    EXPECT_FALSE(PlistIo::parse(binaryPlistOf(deep)).has_value());
+}
+
 TEST_F(PlistFileTest, ReadsAndWritesDictionaries)
 {
     const QVariantMap written{{QStringLiteral("Z01"), QVariantList{0.0, 0.5, 1.0, 1.0}}};

@@ -4,6 +4,10 @@
 #include "prefs/theme_repair.h"
 #include "theme_test_folder.h"
 
+#include <QDir>
+#include <QFile>
+#include <QFileInfo>
+
 #include <limits>
 
 using TvlClasses::checkNowThemeFile;
@@ -108,22 +112,30 @@ TEST_F(ThemeRepairTest, DarkThemeIsFilledFromTheDarkReference)
     EXPECT_EQ(repaired.value(QStringLiteral("_AlternativeTheme")).toString(), QStringLiteral("_Untitled_"));
 }
 
-TEST_F(ThemeRepairTest, UnreadableCurrentThemeIsRebuiltFromTheLightReference)
+TEST_F(ThemeRepairTest, DamagedCurrentThemeIsSetAsideAndTheLightThemeTakesItsPlace)
 {
-    writeFolderBytes(QStringLiteral("_now_theme.plist"), "this is not a property list");
+    const QByteArray damaged("this is not a property list");
+    writeFolderBytes(QStringLiteral("_now_theme.plist"), damaged);
 
-    const QVariantMap read = checkNowThemeFile();
-    ASSERT_TRUE(read.isEmpty());
-    const QVariantMap repaired = checkThemeValues(read);
+    QString problem;
+    EXPECT_EQ(checkNowThemeFile(&problem), light_);
+    EXPECT_TRUE(problem.contains(QStringLiteral("moved to")));
+    const QDir folder(TvlClasses::retApplicationSupportDir());
+    const QStringList aside = folder.entryList({QStringLiteral("_now_theme.plist.unreadable-*")});
+    ASSERT_EQ(aside.size(), 1);
+    QFile kept(folder.filePath(aside.front()));
+    ASSERT_TRUE(kept.open(QIODevice::ReadOnly));
+    EXPECT_EQ(kept.readAll(), damaged);
+    EXPECT_EQ(nowTheme(), light_);
+}
 
-    EXPECT_EQ(repaired.keys(), light_.keys());
-    EXPECT_FALSE(repaired.value(QStringLiteral("_ForDarkAppearance")).toBool());
-    for (const char* key : {"_Name", "_Author", "_Credit", "_AlternativeTheme"})
-        EXPECT_EQ(repaired.value(QLatin1String(key)).toString(), QStringLiteral("_Untitled_")) << key;
-    for (const QString& key : TvlClasses::themePictureKeys() + TvlClasses::themeColorKeys())
-        EXPECT_EQ(repaired.value(key), light_.value(key)) << key.toStdString();
-    // "_Untitled_" is no installed font, so the stand-in takes its place.
-    const TvlClasses::ThemeFont fallback = TvlClasses::fallbackThemeFont();
-    EXPECT_EQ(repaired.value(QStringLiteral("_FontName")).toString(), fallback.family);
-    EXPECT_EQ(nowTheme(), repaired);
+TEST_F(ThemeRepairTest, ACurrentThemeThatIsNoFileIsLeftAloneAndTheLightThemeIsUsed)
+{
+    ASSERT_TRUE(QFile::remove(folderFile(QStringLiteral("_now_theme.plist"))));
+    ASSERT_TRUE(QDir().mkpath(folderFile(QStringLiteral("_now_theme.plist"))));
+
+    QString problem;
+    EXPECT_EQ(checkThemeValues(checkNowThemeFile(&problem)).keys(), light_.keys());
+    EXPECT_FALSE(problem.isEmpty());
+    EXPECT_TRUE(QFileInfo(folderFile(QStringLiteral("_now_theme.plist"))).isDir());
 }
