@@ -308,9 +308,12 @@ void AppDelegate::loadSysInfoTimer()
     input.info = infoDict_;
     input.volumeBase = volumeTracker_->sharedVolumeBaseDict();
     input.sensors = sensorDatDict_;
-    executor_->runInBackground([this, input = std::move(input)]() mutable {
+    // The body holds the executor itself, not the member: while the controller is destroyed the
+    // member is already empty as the executor waits for this body to finish.
+    CycleExecutor* executor = executor_.get();
+    executor->runInBackground([this, executor, input = std::move(input)]() mutable {
         CycleOutput output = SamplingCycle::runBody(*loadInfo_, std::move(input));
-        executor_->postToMain([this, output = std::move(output)] {
+        executor->postToMain([this, output = std::move(output)] {
             // Read, not moved from: the pool thread may be the one that destroys this task, and
             // copies leave its members untouched (the histories' counts are atomic).
             redrawStep(output);

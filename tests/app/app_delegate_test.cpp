@@ -7,6 +7,9 @@
 #include <QThread>
 
 #include <algorithm>
+#include <chrono>
+#include <future>
+#include <thread>
 #include <gtest/gtest.h>
 
 namespace {
@@ -121,6 +124,33 @@ TEST(AppCycle, BodyRunsOffTheMainThreadAndResultsArriveOnIt)
     ASSERT_TRUE(cycles.wait(10000));
     ASSERT_EQ(t.cpuHistory().size(), 1u);
     EXPECT_EQ(t.cpuHistory().back()[0], (CpuRecord{20, 20, 0, 40}));
+}
+
+TEST(AppCycle, QuittingWhileTheBodyRunsWaitsForItAndForgetsItsResult)
+{
+    TestApp t;
+    t.queueTicks(ticks(100));
+    std::promise<void> entered;
+    std::promise<void> release;
+    std::shared_future<void> released = release.get_future().share();
+    std::atomic<bool> first{true};
+    t.beforeCpuRead = [&] {
+        if (!first.exchange(false))
+            return;
+        entered.set_value();
+        released.wait();
+    };
+    t.launch(/*threaded=*/true);
+    entered.get_future().wait();
+    // The body is inside the collector while the controller goes; it must be let finish, and
+    // what it hands back must find nothing torn down under it.
+    std::thread releaser([&] {
+        std::this_thread::sleep_for(std::chrono::milliseconds(50));
+        release.set_value();
+    });
+    t.app.reset();
+    releaser.join();
+    QCoreApplication::processEvents();
 }
 
 TEST(AppDdns, FirstUnforcedCheckComesAtTheEndOfThe599thCycle)

@@ -6,6 +6,8 @@
 std::optional<std::vector<ProcessorTicks>> ScriptedCpuSource::readProcessorTicks()
 {
     readThread = QThread::currentThreadId();
+    if (beforeRead)
+        beforeRead();
     if (script_->empty())
         return std::nullopt;
     auto ticks = script_->front();
@@ -46,6 +48,7 @@ void TestApp::launchOn(StatusBar* bar, bool threaded)
     SourceSet sources = root.empty() ? SourceSet{} : makeSourceSet(root);
     auto source = std::make_unique<ScriptedCpuSource>(script);
     cpu = source.get();
+    cpu->beforeRead = beforeCpuRead;
     sources.cpu = std::move(source);
     app = std::make_unique<AppDelegate>(std::make_unique<PlistSettingsStore>(settingsPath()), std::move(sources));
     app->setStatusBar(bar);

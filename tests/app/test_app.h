@@ -27,6 +27,8 @@ public:
     std::optional<std::vector<ProcessorTicks>> readProcessorTicks() override;
     // The thread of the latest read, to check where the cycle body ran.
     std::atomic<Qt::HANDLE> readThread{nullptr};
+    // Runs at the start of every read, on the reading thread: a test holds the body there.
+    std::function<void()> beforeRead;
     std::optional<std::int64_t> bootTime() override { return 1000; }
     std::optional<double> awakeSeconds() override { return 42.0; }
     std::optional<LoadAverages> loadAverages() override { return LoadAverages{0.5, 0.25, 0.75}; }
@@ -65,6 +67,8 @@ struct TestApp {
     std::filesystem::path root;
     QTemporaryDir dir;
     std::shared_ptr<std::deque<std::vector<ProcessorTicks>>> script;
+    // Handed to the scripted source at launch.
+    std::function<void()> beforeCpuRead;
     ManualExecutor* executor = nullptr;
     ScriptedCpuSource* cpu = nullptr;
     std::unique_ptr<AppDelegate> app;
