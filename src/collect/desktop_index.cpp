@@ -2,9 +2,9 @@
 #include "collect/desktop_index.h"
 
 #include "collect/desktop_entry.h"
+#include "toolkit/guarded_file.h"
 
 #include <QDir>
-#include <QFile>
 #include <QSet>
 
 #include <algorithm>
@@ -88,10 +88,12 @@ void DesktopIndex::rebuild()
             if (seenIds.contains(id))
                 continue;
             seenIds.insert(id);
-            QFile handle(QString::fromStdString(file.string()));
-            if (!handle.open(QIODevice::ReadOnly))
+            // Entries are a few kilobytes; a pipe or a device in their place is skipped unread.
+            const std::optional<QByteArray> bytes =
+                GuardedFile::readBounded(QString::fromStdString(file.string()), 1024 * 1024);
+            if (!bytes)
                 continue;
-            const auto entry = parseDesktopEntry(QString::fromUtf8(handle.readAll()), locale_);
+            const auto entry = parseDesktopEntry(QString::fromUtf8(*bytes), locale_);
             if (!entry || !entry->shown)
                 continue;
             // Several entries may start one program; the first in precedence names it.

@@ -1,11 +1,13 @@
 // Reads and parses the sensor description property list with libplist.
 #include "collect/sensor_dat_file.h"
 
-#include <QFile>
+#include "toolkit/guarded_file.h"
+#include "toolkit/plist_nesting.h"
 
 #include <plist/plist.h>
 
 #include <cstdlib>
+#include <limits>
 #include <memory>
 
 namespace {
@@ -51,16 +53,16 @@ std::optional<QString> stringValue(plist_t node)
 
 std::optional<QByteArray> readSensorDatFile(const std::filesystem::path& root)
 {
-    QFile file(QString::fromStdString((root / "usr/share/snmp/SensorDat.xml").string()));
-    if (!file.open(QIODevice::ReadOnly))
-        return std::nullopt;
-    return file.readAll();
+    // The system's table is a few hundred kilobytes.
+    return GuardedFile::readBounded(QString::fromStdString((root / "usr/share/snmp/SensorDat.xml").string()),
+                                    8 * 1024 * 1024);
 }
 
 QList<SensorDatModel> parseSensorDat(const QByteArray& bytes)
 {
     QList<SensorDatModel> models;
-    if (bytes.isEmpty())
+    // Models, their fields and the sensors: anything deeper is not the table.
+    if (bytes.isEmpty() || bytes.size() > std::numeric_limits<int32_t>::max() || !plistNestingWithin(bytes, 8))
         return models;
     plist_t raw = nullptr;
     plist_from_memory(bytes.constData(), static_cast<uint32_t>(bytes.size()), &raw);

@@ -1,10 +1,11 @@
 // Pure readers of other programs' host lists; nothing here asks the user or writes anything.
 #include "net/vnc_host_importers.h"
 
-#include "toolkit/key_file.h"
 #include "net/vnc_server_address.h"
 #include "net/vnc_user_dirs.h"
 #include "prefs/plist_io.h"
+#include "toolkit/guarded_file.h"
+#include "toolkit/key_file.h"
 
 #include <QDir>
 #include <QFile>
@@ -26,8 +27,8 @@ QStringList filesBySuffix(const QString& folder, const QString& suffix)
 
 QString readText(const QString& path)
 {
-    QFile file(path);
-    return file.open(QIODevice::ReadOnly) ? QString::fromUtf8(file.readAll()) : QString();
+    // Host lists and .vncloc files are small; a pipe or a device in their place is not read.
+    return QString::fromUtf8(GuardedFile::readBounded(path, 1024 * 1024).value_or(QByteArray()));
 }
 
 } // namespace

@@ -1,8 +1,8 @@
 // Property-list files read and written through libplist, as Qt variants.
 #include "prefs/plist_io.h"
 
-#include "prefs/binary_plist_depth.h"
-#include "prefs/guarded_file.h"
+#include "toolkit/guarded_file.h"
+#include "toolkit/plist_nesting.h"
 
 #include <QDateTime>
 #include <QFile>
@@ -11,7 +11,6 @@
 
 #include <plist/plist.h>
 
-#include <algorithm>
 #include <cstdlib>
 #include <limits>
 #include <memory>
@@ -191,41 +190,13 @@ plist_t fromVariant(const QVariant& value)
     }
 }
 
-bool startsAt(const QByteArray& bytes, qsizetype at, QByteArrayView word)
-{
-    return QByteArrayView(bytes).sliced(std::min(at, bytes.size())).startsWith(word);
-}
-
-// libplist builds and frees its trees recursively, so a file nested deeply enough overflows the
-// stack before any of our checks could see the tree: count the nesting in the text first.
-bool xmlNestingWithin(const QByteArray& bytes, int limit)
-{
-    int depth = 0;
-    for (qsizetype i = bytes.indexOf('<'); i >= 0; i = bytes.indexOf('<', i + 1)) {
-        const bool closing = startsAt(bytes, i + 1, "/");
-        const qsizetype name = i + (closing ? 2 : 1);
-        if (!startsAt(bytes, name, "dict") && !startsAt(bytes, name, "array"))
-            continue;
-        const qsizetype end = bytes.indexOf('>', name);
-        if (end < 0)
-            return true; // unfinished text: the parser rejects it
-        if (closing)
-            --depth;
-        else if (bytes.at(end - 1) != '/' && ++depth > limit)
-            return false;
-    }
-    return true;
-}
-
 } // namespace
 
 std::optional<QVariant> parse(const QByteArray& bytes)
 {
     if (bytes.isEmpty() || bytes.size() > std::numeric_limits<int32_t>::max())
         return std::nullopt;
-    const bool nestingFits =
-        bytes.startsWith("bplist") ? binaryNestingWithin(bytes, kMaxNesting) : xmlNestingWithin(bytes, kMaxNesting);
-    if (!nestingFits)
+    if (!plistNestingWithin(bytes, kMaxNesting))
         return std::nullopt;
     plist_t root = nullptr;
     plist_from_memory(bytes.constData(), static_cast<uint32_t>(bytes.size()), &root);

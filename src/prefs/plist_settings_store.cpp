@@ -1,7 +1,7 @@
 // Property-list settings file: load, set aside when damaged, atomic writes, never anything else.
 #include "prefs/plist_settings_store.h"
 
-#include "prefs/guarded_file.h"
+#include "toolkit/guarded_file.h"
 #include "prefs/plist_io.h"
 #include "toolkit/localization.h"
 

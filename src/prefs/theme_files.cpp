@@ -1,7 +1,7 @@
 // The support folder and its theme files: installing the reference themes, saving named copies.
 #include "prefs/theme_files.h"
 
-#include "prefs/guarded_file.h"
+#include "toolkit/guarded_file.h"
 #include "prefs/plist_io.h"
 #include "prefs/pref_keys.h"
 #include "prefs/theme_keys.h"

@@ -6,6 +6,7 @@
 
 #include <csignal>
 #include <fstream>
+#include <sys/stat.h>
 #include <sys/wait.h>
 #include <unistd.h>
 
@@ -114,4 +115,20 @@ TEST(ProcFile, KeepsItsDescriptorWhenMoved)
     ProcFile second(std::move(first));
     EXPECT_EQ(second.descriptor(), descriptor);
     EXPECT_EQ(second.read(), std::optional<std::string_view>("x"));
+}
+
+TEST(ProcFile, WhatIsNoRegularFileIsNeverReadNeitherBlockingNorWithoutEnd)
+{
+    QTemporaryDir dir;
+    const std::filesystem::path root = dir.path().toStdString();
+    // A pipe nobody writes would block, /dev/zero would never end, a folder is no text.
+    ASSERT_EQ(::mkfifo((root / "fifo").c_str(), 0600), 0);
+    std::filesystem::create_symlink("/dev/zero", root / "zero");
+    std::filesystem::create_directory(root / "folder");
+    for (const char* name : {"fifo", "zero", "folder"}) {
+        ProcFile file(root / name);
+        EXPECT_FALSE(file.read().has_value()) << name;
+        EXPECT_EQ(file.descriptor(), -1) << name;
+        EXPECT_FALSE(ProcFile::readOnce(root / name).has_value()) << name;
+    }
 }

@@ -5,23 +5,37 @@
 
 #include <cerrno>
 #include <fcntl.h>
+#include <sys/stat.h>
 #include <unistd.h>
 
 namespace {
 // Most kernel text files fit; /proc/stat on large machines grows the buffer once.
 constexpr std::size_t kInitialBuffer = 4096;
 
+// Kernel text files are regular files. A pipe nobody writes would block a read for ever and a
+// device such as /dev/zero never ends, so anything else standing in their place (in a tree
+// given with --root, say) is not opened; non-blocking, so that even opening a pipe cannot wait.
 int openReadOnly(const std::filesystem::path& path)
 {
     int fd;
     do {
-        fd = ::open(path.c_str(), O_RDONLY | O_CLOEXEC);
+        fd = ::open(path.c_str(), O_RDONLY | O_CLOEXEC | O_NONBLOCK);
     } while (fd < 0 && errno == EINTR);
+    if (fd < 0)
+        return fd;
+    struct stat info {};
+    if (::fstat(fd, &info) != 0 || !S_ISREG(info.st_mode)) {
+        ::close(fd);
+        errno = EINVAL;
+        return -1;
+    }
     return fd;
 }
-}
+} // namespace
 
-ProcFile::ProcFile(std::filesystem::path path) : path_(std::move(path)) {}
+ProcFile::ProcFile(std::filesystem::path path)
+    : path_(std::move(path))
+{}
 
 ProcFile::~ProcFile()
 {
@@ -29,8 +43,10 @@ ProcFile::~ProcFile()
 }
 
 ProcFile::ProcFile(ProcFile&& other) noexcept
-    : path_(std::move(other.path_)), fd_(other.fd_), failureReported_(other.failureReported_),
-      buffer_(std::move(other.buffer_))
+    : path_(std::move(other.path_))
+    , fd_(other.fd_)
+    , failureReported_(other.failureReported_)
+    , buffer_(std::move(other.buffer_))
 {
     other.fd_ = -1;
 }
@@ -80,8 +96,13 @@ std::optional<std::string> ProcFile::readOnce(const std::filesystem::path& path)
     std::string text(256, '\0');
     std::size_t total = 0;
     for (;;) {
-        if (total == text.size())
+        if (total == text.size()) {
+            if (total >= ProcFile::kMaxBytes) {
+                ::close(fd);
+                return std::nullopt;
+            }
             text.resize(text.size() * 2);
+        }
         const ssize_t got = ::read(fd, text.data() + total, text.size() - total);
         if (got < 0 && errno == EINTR)
             continue;
@@ -126,10 +147,12 @@ std::optional<std::size_t> ProcFile::readAll()
     std::size_t total = 0;
     // Read until end of file: a kernel file may hand out its text in more than one piece.
     for (;;) {
-        if (total == buffer_.size())
+        if (total == buffer_.size()) {
+            if (total >= kMaxBytes)
+                return std::nullopt;
             buffer_.resize(buffer_.size() * 2);
-        const ssize_t got = ::pread(fd_, buffer_.data() + total, buffer_.size() - total,
-                                    static_cast<off_t>(total));
+        }
+        const ssize_t got = ::pread(fd_, buffer_.data() + total, buffer_.size() - total, static_cast<off_t>(total));
         if (got < 0) {
             if (errno == EINTR)
                 continue;

@@ -9,6 +9,10 @@
 
 class ProcFile {
 public:
+    // No kernel text file we read comes near this (a /proc/self/mountinfo of 30,000 mounts
+    // is about 4 MiB); a file that grows beyond it reads as unreadable rather than without end.
+    static constexpr std::size_t kMaxBytes = 16U * 1024U * 1024U;
+
     explicit ProcFile(std::filesystem::path path);
     ~ProcFile();
     ProcFile(ProcFile&& other) noexcept;
@@ -16,7 +20,8 @@ public:
     ProcFile(const ProcFile&) = delete;
     ProcFile& operator=(const ProcFile&) = delete;
 
-    // The whole file as it is now, or empty when it cannot be opened or read. The view is
+    // The whole file as it is now, or empty when it cannot be opened or read, is not a regular
+    // file or is longer than kMaxBytes. The view is
     // valid until the next read. A file that vanished (its process ended, its device went
     // away) is reopened once before giving up.
     std::optional<std::string_view> read();

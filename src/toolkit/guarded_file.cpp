@@ -1,5 +1,5 @@
 // Files the user owns: resolving links, bounded reads, setting aside under a name never used.
-#include "prefs/guarded_file.h"
+#include "toolkit/guarded_file.h"
 
 #include <QDateTime>
 #include <QFile>

@@ -1,12 +1,12 @@
-// Walks a binary property list's object table without recursion to bound its nesting.
-#include "prefs/binary_plist_depth.h"
+// Bounds a property list's nesting without recursion: the binary object table, the XML tags.
+#include "toolkit/plist_nesting.h"
 
 #include <algorithm>
 #include <cstdint>
 #include <optional>
 #include <vector>
 
-namespace PlistIo {
+namespace PlistNesting {
 namespace {
 
 constexpr qsizetype kTrailerBytes = 32;
@@ -142,4 +142,38 @@ bool binaryNestingWithin(QByteArrayView bytes, int limit)
     return height[layout->top] <= limit;
 }
 
-} // namespace PlistIo
+namespace {
+
+bool startsAt(QByteArrayView bytes, qsizetype at, QByteArrayView word)
+{
+    return bytes.sliced(std::min(at, bytes.size())).startsWith(word);
+}
+
+} // namespace
+
+bool xmlNestingWithin(QByteArrayView bytes, int limit)
+{
+    int depth = 0;
+    for (qsizetype i = bytes.indexOf('<'); i >= 0; i = bytes.indexOf('<', i + 1)) {
+        const bool closing = startsAt(bytes, i + 1, "/");
+        const qsizetype name = i + (closing ? 2 : 1);
+        if (!startsAt(bytes, name, "dict") && !startsAt(bytes, name, "array"))
+            continue;
+        const qsizetype end = bytes.indexOf('>', name);
+        if (end < 0)
+            return true; // unfinished text: the parser rejects it
+        if (closing)
+            --depth;
+        else if (bytes.at(end - 1) != '/' && ++depth > limit)
+            return false;
+    }
+    return true;
+}
+
+} // namespace PlistNesting
+
+bool plistNestingWithin(QByteArrayView bytes, int limit)
+{
+    return bytes.startsWith("bplist") ? PlistNesting::binaryNestingWithin(bytes, limit)
+                                      : PlistNesting::xmlNestingWithin(bytes, limit);
+}
