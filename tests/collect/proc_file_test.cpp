@@ -1,11 +1,15 @@
-// The kept-open file: fresh contents on every read, reopening, and files larger than its buffer.
+// Reading kernel files and file systems: fresh contents, reopening, large files, and nothing that blocks.
 #include "collect/linux/proc_file.h"
+#include "collect/linux/statvfs_with_deadline.h"
+#include "collect/linux/sys_root.h"
 
 #include <QTemporaryDir>
 #include <gtest/gtest.h>
 
+#include <atomic>
 #include <csignal>
 #include <fstream>
+#include <future>
 #include <sys/stat.h>
 #include <sys/wait.h>
 #include <unistd.h>
@@ -22,7 +26,7 @@ void overwrite(const std::filesystem::path& path, const std::string& text)
     std::ofstream out(path, std::ios::binary | std::ios::trunc);
     out << text;
 }
-}
+} // namespace
 
 TEST(ProcFile, SeesEachNewContentThroughTheSameDescriptor)
 {
@@ -131,4 +135,35 @@ TEST(ProcFile, WhatIsNoRegularFileIsNeverReadNeitherBlockingNorWithoutEnd)
         EXPECT_EQ(file.descriptor(), -1) << name;
         EXPECT_FALSE(ProcFile::readOnce(root / name).has_value()) << name;
     }
+}
+
+TEST(StatvfsWithDeadline, AShareThatHangsAnswersNothingAndHoldsNoOtherQuery)
+{
+    std::promise<void> release;
+    const std::shared_future<void> released = release.get_future().share();
+    std::atomic<int> hungCalls{0};
+    StatvfsWithDeadline probe(std::chrono::milliseconds(100), [&, released](const char* path, struct statvfs* info) {
+        if (std::string_view(path) == "/dead/share") {
+            ++hungCalls;
+            released.wait();
+        }
+        return ::statvfs("/", info);
+    });
+
+    EXPECT_FALSE(probe.query("/dead/share").has_value());
+    // The same share is not asked again while the first call hangs; the others are answered.
+    EXPECT_FALSE(probe.query("/dead/share").has_value());
+    EXPECT_TRUE(probe.query("/").has_value());
+    EXPECT_TRUE(probe.query("/").has_value());
+    EXPECT_EQ(hungCalls.load(), 1);
+    release.set_value();
+}
+
+TEST(SysRoot, PathsFromTheTreeNeverLeaveIt)
+{
+    const SysRoot root("/tmp/tree");
+    EXPECT_EQ(root.join("/proc/stat"), std::filesystem::path("/tmp/tree/proc/stat"));
+    // A mount point read from the tree's own table may climb as it likes: it stays inside.
+    EXPECT_EQ(root.join("/../../../.."), std::filesystem::path("/tmp/tree/"));
+    EXPECT_EQ(root.join("mnt/../../../etc"), std::filesystem::path("/tmp/tree/etc"));
 }

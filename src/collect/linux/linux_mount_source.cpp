@@ -82,14 +82,10 @@ int LinuxMountSource::changeDescriptor()
 
 std::optional<FileSystemSpace> LinuxMountSource::space(const std::string& mountPoint)
 {
-    struct statvfs info {};
-    const std::filesystem::path path = root_.join(mountPoint);
-    int rc;
-    do {
-        rc = ::statvfs(path.c_str(), &info);
-    } while (rc != 0 && errno == EINTR);
-    if (rc != 0)
+    const std::optional<struct statvfs> answer = statvfs_.query(root_.join(mountPoint));
+    if (!answer)
         return std::nullopt;
+    const struct statvfs& info = *answer;
     // Sizes count in fragments; a file system that leaves the fragment size out means blocks.
     const std::uint64_t unit = info.f_frsize != 0 ? info.f_frsize : info.f_bsize;
     return FileSystemSpace{static_cast<std::uint64_t>(info.f_blocks) * unit,

@@ -2,6 +2,7 @@
 #pragma once
 
 #include "collect/linux/proc_file.h"
+#include "collect/linux/statvfs_with_deadline.h"
 #include "collect/linux/sys_root.h"
 #include "collect/mount_source.h"
 
@@ -24,4 +25,6 @@ private:
     std::mutex lock_;
     // Kept open only to be polled: the kernel flags a mount or unmount on this descriptor.
     ProcFile watch_;
+    // A share whose server is gone may hold statvfs for minutes; the cycle does not wait.
+    StatvfsWithDeadline statvfs_{std::chrono::milliseconds(1000)};
 };

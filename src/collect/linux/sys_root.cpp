@@ -1,7 +1,8 @@
 // Joins relative kernel paths onto the chosen root.
 #include "collect/linux/sys_root.h"
 
-SysRoot::SysRoot(std::filesystem::path root) : root_(std::move(root))
+SysRoot::SysRoot(std::filesystem::path root)
+    : root_(std::move(root))
 {
     if (root_.empty())
         root_ = "/";
@@ -9,8 +10,9 @@ SysRoot::SysRoot(std::filesystem::path root) : root_(std::move(root))
 
 std::filesystem::path SysRoot::join(std::string_view relative) const
 {
-    // A leading slash would make operator/ discard the root, silently reading the live system.
-    while (!relative.empty() && relative.front() == '/')
-        relative.remove_prefix(1);
-    return root_ / relative;
+    // Resolved as if from "/" first: ".." cannot climb above it, so a path from the tree (a mount
+    // point of "/../..", say) stays in the tree; and a leading slash would make operator/
+    // discard the root, silently reading the live system.
+    const std::filesystem::path inside = (std::filesystem::path("/") / relative).lexically_normal();
+    return root_ / inside.relative_path();
 }
