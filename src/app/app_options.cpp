@@ -157,7 +157,8 @@ QString readCommandOptions(const QCommandLineParser& parser, const OptionSet& o,
         bool ok = true;
         if (parser.isSet(o.scale))
             options.scale = parser.value(o.scale).toDouble(&ok);
-        if (!ok || options.scale < 0.5 || options.scale > 8)
+        // Written as a range that holds, so that nan (which compares false) falls outside it.
+        if (!ok || !(options.scale >= 0.5 && options.scale <= 8))
             return QStringLiteral("--scale takes a number from 0.5 to 8");
     }
     if (parser.isSet(o.cycles)) {

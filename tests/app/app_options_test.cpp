@@ -69,6 +69,7 @@ TEST(AppOptions, BadArgumentsSayWhatIsWrongAndGiveStatusTwo)
         {"--settings", ""},
         {"render"},
         {"render", "--out", "/tmp/pics", "--scale", "0"},
+        {"render", "--out", "/tmp/pics", "--scale", "nan"},
         {"render", "--out", "/tmp/pics", "--json"},
         {"snapshot", "--out", "/tmp/pics"},
         {"snapshot", "--bar"},

@@ -68,6 +68,9 @@ TEST(LoadAverageText, AveragesAndSchedulingEntities)
             {"two averages", "0.02 0.04", rejectedLine("three load averages expected", "0.02 0.04", 1)},
             {"a word among them", "0.02 x 0.05 1/2 3\n",
              rejectedLine("three load averages expected", "0.02 x 0.05 1/2 3", 1)},
+            {"what no kernel counts", "nan 0.04 0.05", rejectedLine("load averages out of range", "nan 0.04 0.05", 1)},
+            {"negative", "0.02 -1 0.05", rejectedLine("load averages out of range", "0.02 -1 0.05", 1)},
+            {"beyond any machine", "1e308 inf 0", rejectedLine("load averages out of range", "1e308 inf 0", 1)},
         },
         parseLoadAverage, [](const LoadAverageLine& line) {
             return LoadSummary{line.averages.one, line.averages.five, line.averages.fifteen, line.runnable,

@@ -95,14 +95,15 @@ void addNetworkSnapshotJson(const SnapshotContext& context, QJsonObject& root)
     if (history.empty())
         return;
     const NetworkSample& sample = history.back();
-    QJsonObject object{{"to_up", static_cast<qint64>(sample.toUp)},
-                       {"to_dw", static_cast<qint64>(sample.toDw)},
-                       {"int", sample.interval}};
-    for (const InterfacePackets& p : sample.packets) {
-        object.insert(QString::fromStdString(p.name) + QLatin1String("_up"), static_cast<qint64>(p.up));
-        object.insert(QString::fromStdString(p.name) + QLatin1String("_dw"), static_cast<qint64>(p.dw));
-    }
-    root.insert(QLatin1String(context.key), object);
+    // Interfaces get an object of their own: named "to", one would otherwise write over the totals.
+    QJsonObject interfaces;
+    for (const InterfacePackets& p : sample.packets)
+        interfaces.insert(QString::fromStdString(p.name),
+                          QJsonObject{{"up", static_cast<qint64>(p.up)}, {"dw", static_cast<qint64>(p.dw)}});
+    root.insert(QLatin1String(context.key), QJsonObject{{"to_up", static_cast<qint64>(sample.toUp)},
+                                                        {"to_dw", static_cast<qint64>(sample.toDw)},
+                                                        {"int", sample.interval},
+                                                        {"packets", interfaces}});
 }
 
 } // namespace
