@@ -31,6 +31,49 @@ QVariant readField(const SettingsStore& store, const PrefField& field)
     return {};
 }
 
+// A number outside its range, or stored as something that is no number, would be drawn or
+// counted as it stands ("over -5 s", a picture of negative width): the first-run value takes its
+// place, in the store too, so that the preferences show what is used.
+bool repairNumber(SettingsStore& store, const PrefField& field, QVariant& value)
+{
+    if (!field.range)
+        return false;
+    const QString key = QString::fromLatin1(field.key);
+    const QVariant stored = store.objectForKey(key);
+    bool isNumber = false;
+    stored.toDouble(&isNumber);
+    const qint64 number = value.toLongLong();
+    const bool fits = number >= field.range->minimum && number <= field.range->maximum;
+    if (!stored.isValid() || (isNumber && fits))
+        return false;
+    value = field.factory;
+    store.setObject(key, field.factory);
+    return true;
+}
+
+// An order holds known codes, each once; a damaged one keeps the first of each in its order.
+bool repairOrder(SettingsStore& store, const PrefField& field, QVariant& value)
+{
+    if (field.type != PrefType::Array || field.factory.typeId() != QMetaType::QVariantList)
+        return false;
+    const QVariantList known = field.factory.toList();
+    const QVariantList stored = value.toList();
+    QVariantList kept;
+    for (const QVariant& code : stored) {
+        if (kept.size() == known.size())
+            break;
+        bool isInt = false;
+        const int n = code.toInt(&isInt);
+        if (isInt && known.contains(QVariant(n)) && !kept.contains(QVariant(n)))
+            kept.append(n);
+    }
+    if (kept.size() == stored.size())
+        return false;
+    value = kept;
+    store.setArray(QString::fromLatin1(field.key), kept);
+    return true;
+}
+
 ThemePicture decodePicture(const QVariant& data, PictureSize size)
 {
     ThemePicture picture;
@@ -67,8 +110,15 @@ ModuleDefaults loadModuleDefaults(const ModuleSchema& schema, SettingsStore& sto
                                   ModuleSchemaList all)
 {
     ModuleDefaults dict;
-    for (const PrefField& field : schema.fields)
-        dict.set(QString::fromLatin1(field.key), readField(store, field));
+    bool repaired = false;
+    for (const PrefField& field : schema.fields) {
+        QVariant value = readField(store, field);
+        repaired = repairNumber(store, field, value) || repaired;
+        repaired = repairOrder(store, field, value) || repaired;
+        dict.set(QString::fromLatin1(field.key), value);
+    }
+    if (repaired)
+        store.synchronize();
     addThemeEntries(dict, schema, theme);
     if (schema.derive != nullptr)
         schema.derive(dict, store, theme, all);

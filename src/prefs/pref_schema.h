@@ -9,6 +9,7 @@
 #include <QVariantMap>
 
 #include <initializer_list>
+#include <optional>
 #include <span>
 #include <vector>
 
@@ -22,11 +23,19 @@ enum class PrefType {
     Array,
 };
 
+// The values a number may take; one read outside them is replaced by the first-run value.
+struct PrefRange {
+    qint64 minimum = 0;
+    qint64 maximum = 0;
+};
+
 struct PrefField {
     const char* key;
     PrefType type;
     // The first-run value; invalid for keys that are read but never written at first run.
     QVariant factory;
+    // Numbers only; none when every value is usable.
+    std::optional<PrefRange> range = std::nullopt;
 };
 
 // How a theme picture's drawing size is set.
@@ -65,6 +74,9 @@ struct ModuleSchema {
 namespace SchemaParts {
 
 QVariantList ints(std::initializer_list<int> values);
+// Seconds between samples, and a picture's graph width in points.
+inline constexpr PrefRange kIntervalRange{1, 3600};
+inline constexpr PrefRange kGraphWidthRange{1, 1000};
 // The three tool items every module menu may offer, appended to the fields.
 std::vector<PrefField> withToolItems(std::vector<PrefField> fields, const char* amon, const char* cnsl,
                                      const char* tmnl);

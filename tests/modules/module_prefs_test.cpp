@@ -152,6 +152,35 @@ TEST(PrefFunctions, MaximaAreRepairedInTheStore)
     EXPECT_EQ(PrefFunctions::loadFanDefaults(s.store, {}).intValue(Fax_MaxRpm), 3000);
 }
 
+TEST(PrefFunctions, NumbersOutOfRangeAndDamagedOrdersAreRepairedInTheStore)
+{
+    Store s;
+    s.store.setInteger(Cpu_UpdateInterval, -5);
+    s.store.setString(Cpu_GraphWidth, QStringLiteral("wide"));
+    s.store.setDouble(Network_UpdateInterval, 1e300);
+    s.store.setInteger(Network_Limen_Base, 500);
+    s.store.setInteger(Network_GraphWidth, 70);
+    QVariantList order{9, 3, QStringLiteral("x"), 3, 1};
+    for (int i = 0; i < 200000; ++i)
+        order.append(i % 10);
+    s.store.setArray(TopItemSortArray, order);
+    s.store.setArray(CpuItemSortArray, {4, 4, 4});
+
+    const ModuleDefaults cpu = PrefFunctions::loadCpuDefaults(s.store, {});
+    const ModuleDefaults network = PrefFunctions::loadNetworkDefaults(s.store, {});
+    PrefFunctions::loadGeneralDefaults(s.store, {});
+
+    EXPECT_EQ(cpu.intValue(Cpu_UpdateInterval), 2);
+    EXPECT_EQ(cpu.intValue(Cpu_GraphWidth), 3);
+    EXPECT_EQ(network.intValue(Network_UpdateInterval), 2);
+    EXPECT_EQ(network.intValue(Network_Limen_Base), 1);
+    EXPECT_EQ(network.intValue(Network_GraphWidth), 70);
+    PlistSettingsStore reread(s.store.path());
+    EXPECT_EQ(reread.integerForKey(Cpu_UpdateInterval), 2);
+    EXPECT_EQ(reread.arrayForKey(TopItemSortArray), (QVariantList{3, 1, 2, 4, 5, 6, 7, 8}));
+    EXPECT_EQ(reread.arrayForKey(CpuItemSortArray), (QVariantList{4}));
+}
+
 TEST(PrefFunctions, PiledFontSizeAndHyphens)
 {
     EXPECT_EQ(PrefFunctions::calcPiledFontSize(QStringLiteral("88"), 2.9, QString(), 100), 3.0);

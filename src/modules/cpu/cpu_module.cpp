@@ -35,9 +35,9 @@ ModuleSchema cpuSchema()
                            {Cpu_Display_LevelBar, T::Bool, false},
                            {Cpu_Display_CircleMeter, T::Bool, false},
                            {Cpu_Display_Text, T::Bool, true},
-                           {Cpu_UpdateInterval, T::TruncatedInteger, 2},
+                           {Cpu_UpdateInterval, T::TruncatedInteger, 2, kIntervalRange},
                            // 3, where every other module starts at 30: a narrow graph by design.
-                           {Cpu_GraphWidth, T::TruncatedInteger, 3},
+                           {Cpu_GraphWidth, T::TruncatedInteger, 3, kGraphWidthRange},
                            {Cpu_AverageMultiProcessors, T::Bool, true},
                            {Cpu_Text_DisplayAverage, T::Bool, false},
                            {CPU_GraphAsLine, T::Bool, false},
