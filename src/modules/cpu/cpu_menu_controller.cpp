@@ -13,6 +13,7 @@
 #include <QDesktopServices>
 #include <QGraphicsOpacityEffect>
 #include <QGridLayout>
+#include <QHBoxLayout>
 #include <QLabel>
 #include <QPixmap>
 #include <QPushButton>
@@ -83,13 +84,25 @@ CPU_MenuController::CPU_MenuController(LoadSystemInformation& loadInfo, Settings
         grid->addWidget(optionLabels_[line], row++, 2);
     }
 
-    processNameLabel = new QLabel(this);
+    // Names in the figures' face too: two faces have two line heights, and the shares would
+    // drift below their names line by line.
+    processNameLabel = PanelLabels::figure(this, Qt::AlignLeft);
+    processNameLabel->setObjectName(QStringLiteral("processNames"));
     processNameLabel->setForegroundRole(QPalette::PlaceholderText);
-    processPerLabel = PanelLabels::figure(this, Qt::AlignRight);
-    processPerLabel->setAlignment(Qt::AlignRight | Qt::AlignTop);
     processNameLabel->setAlignment(Qt::AlignLeft | Qt::AlignTop);
-    grid->addWidget(processNameLabel, row, 0, 1, 2);
-    grid->addWidget(processPerLabel, row, 2);
+    processPerLabel = PanelLabels::figure(this, Qt::AlignRight);
+    processPerLabel->setObjectName(QStringLiteral("processShares"));
+    processPerLabel->setAlignment(Qt::AlignRight | Qt::AlignTop);
+    // Room for the whole list from the start: an open menu does not grow when it arrives.
+    for (QLabel* label : {processNameLabel, processPerLabel})
+        label->setMinimumHeight(label->fontMetrics().lineSpacing() * kProcessRows);
+    // A row of its own across the panel: long process names must not widen the share names'
+    // column above them.
+    auto* processes = new QHBoxLayout();
+    processes->setSpacing(grid->horizontalSpacing());
+    processes->addWidget(processNameLabel, 1);
+    processes->addWidget(processPerLabel);
+    grid->addLayout(processes, row, 0, 1, 3);
     grid->setColumnStretch(2, 1);
 }
 
@@ -147,7 +160,7 @@ void CPU_MenuController::replaceData(qint64, const CpuPictureSettings& settings,
     pool_.start([this, names = procDict] {
         const QStringList options = cpuGetOptionData(loadInfo_.cpuOptionFigures());
         const QStringList processes =
-            loadInfo_.psGetProccessAsKv(QStringLiteral("%cpu"), names, 10, -1).value_or(QStringList());
+            loadInfo_.psGetProccessAsKv(QStringLiteral("%cpu"), names, kProcessRows, -1).value_or(QStringList());
         QMetaObject::invokeMethod(
             this, [this, options, processes] { applyDetails(options, processes); }, Qt::QueuedConnection);
     });
@@ -160,9 +173,10 @@ void CPU_MenuController::applyDetails(const QStringList& options, const QStringL
         for (std::size_t line = 0; line < optionLabels_.size(); ++line)
             optionLabels_[line]->setText(options.value(static_cast<qsizetype>(line)));
     }
+    // The list ends in a line feed, which would count as an eleventh line.
     if (processes.size() == 2) {
-        processNameLabel->setText(processes.at(0));
-        processPerLabel->setText(processes.at(1));
+        processNameLabel->setText(processes.at(0).trimmed());
+        processPerLabel->setText(processes.at(1).trimmed());
     }
     Q_EMIT detailsUpdated();
 }
