@@ -203,7 +203,7 @@ void AppDelegate::processFontOrColor(const QVariantMap& info, bool& skipRest)
         QTimer::singleShot(kColorWriteDelayMs, this, &AppDelegate::writeToColorThemeFile);
     }
     if (flag(info, NotifKey::ModuleThemeChanged))
-        themeColorDict_ = TvlClasses::checkThemeValues(TvlClasses::checkNowThemeFile());
+        takeTheme(TvlClasses::checkThemeValues(TvlClasses::checkNowThemeFile()));
 }
 
 void AppDelegate::processModuleNotif(ModuleId id, const QVariantMap& info, bool removeFirst, bool refreshItems)
