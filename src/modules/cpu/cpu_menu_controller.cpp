@@ -15,6 +15,7 @@
 #include <QGridLayout>
 #include <QHBoxLayout>
 #include <QLabel>
+#include <QPainter>
 #include <QPixmap>
 #include <QPushButton>
 #include <QUrl>
@@ -34,6 +35,15 @@ void setOpacity(QWidget* widget, double opacity)
         widget->setGraphicsEffect(effect);
     }
     effect->setOpacity(opacity);
+}
+
+QImage inTextColour(const QImage& picture, const QColor& colour)
+{
+    QImage shape = picture.convertToFormat(QImage::Format_ARGB32_Premultiplied);
+    QPainter painter(&shape);
+    painter.setCompositionMode(QPainter::CompositionMode_SourceIn);
+    painter.fillRect(shape.rect(), colour);
+    return shape;
 }
 
 QPixmap swatch(const QColor& color)
@@ -68,7 +78,9 @@ CPU_MenuController::CPU_MenuController(LoadSystemInformation& loadInfo, Settings
     machinImage = new QLabel(this);
     grid->addWidget(machinImage, row, 0);
     grid->addWidget(machinNameButton, row++, 1, 1, 2);
-    grid->addWidget(PanelLabels::title(this, "Cpu Type"), row, 0, 1, 2);
+    // Column 0 is a gutter for the swatches and the machine's picture: a title spanning it would
+    // widen it and push the share names away from their swatches.
+    grid->addWidget(PanelLabels::title(this, "Cpu Type"), row, 1);
     cpuKindLabel = new QLabel(this);
     grid->addWidget(cpuKindLabel, row++, 2);
     for (QLabel*& gpu : gpuLabels_) {
@@ -79,7 +91,7 @@ CPU_MenuController::CPU_MenuController(LoadSystemInformation& loadInfo, Settings
     const char* titles[] = {"Uptime Boot/Actv", nullptr, "Scheduling Stat", "Load Average", "Host Name"};
     for (std::size_t line = 0; line < optionLabels_.size(); ++line) {
         if (titles[line] != nullptr)
-            grid->addWidget(PanelLabels::title(this, titles[line]), row, 0, 1, 2);
+            grid->addWidget(PanelLabels::title(this, titles[line]), row, 1);
         optionLabels_[line] = line < 2 ? PanelLabels::figure(this, Qt::AlignLeft) : new QLabel(this);
         grid->addWidget(optionLabels_[line], row++, 2);
     }
@@ -102,7 +114,7 @@ CPU_MenuController::CPU_MenuController(LoadSystemInformation& loadInfo, Settings
     processes->setSpacing(grid->horizontalSpacing());
     processes->addWidget(processNameLabel, 1);
     processes->addWidget(processPerLabel);
-    grid->addLayout(processes, row, 0, 1, 3);
+    grid->addLayout(processes, row, 1, 1, 2);
     grid->setColumnStretch(2, 1);
 }
 
@@ -122,10 +134,12 @@ void CPU_MenuController::loadBaseData(const ThemePicture& label)
     font.setUnderline(known);
     machinNameButton->setFont(font);
 
-    // No vendor picture service here: the theme's processor picture stands for the machine.
+    // No vendor picture service here: the theme's processor picture stands for the machine, as
+    // a shape in the menu's text colour (a dark theme's white picture would vanish on a light
+    // menu, and the other way round).
     if (!label.image.isNull())
         machinImage->setPixmap(
-            QPixmap::fromImage(label.image)
+            QPixmap::fromImage(inTextColour(label.image, palette().color(QPalette::WindowText)))
                 .scaledToHeight(static_cast<int>(label.size.height()) * machinImage->devicePixelRatioF(),
                                 Qt::SmoothTransformation));
 
