@@ -127,6 +127,13 @@ TEST_F(BarWindowTest, WithAMenuOpenAClickOrAMoveOntoAnotherItemOpensThatOne)
     sendMouse(&menuB, QEvent::MouseButtonPress, itemCentre(QStringLiteral("B")));
     EXPECT_FALSE(menuA.isVisible());
     EXPECT_FALSE(menuB.isVisible());
+
+    // A click on another item comes with the pointer moving there first: its menu stays open.
+    QTest::mouseClick(bar->findChild<BarItemWidget*>(QStringLiteral("A")), Qt::LeftButton);
+    sendMouse(&menuA, QEvent::MouseMove, itemCentre(QStringLiteral("B")));
+    sendMouse(&menuB, QEvent::MouseButtonPress, itemCentre(QStringLiteral("B")));
+    EXPECT_TRUE(menuB.isVisible());
+    EXPECT_FALSE(menuA.isVisible());
 }
 
 TEST(BarWindowTheme, ADarkThemeDarkensTheBarBehindItsPictures)

@@ -94,6 +94,7 @@ void BarWindowStatusBar::layoutItems()
 
 void BarWindowStatusBar::itemPressed(BarItemWidget* item)
 {
+    openedByMove_ = false;
     if (item == openItem_ && openMenu_)
         openMenu_->hide();
     else
@@ -158,15 +159,19 @@ bool BarWindowStatusBar::menuMouseEvent(QEvent::Type type, const QPoint& global,
         return false;
     if (item != openItem_) {
         openMenu(item);
+        openedByMove_ = type == QEvent::MouseMove;
         return true;
     }
-    // A press on the open item closes its menu here, so that no platform hands the press on
-    // to the item to open it again.
-    if (type == QEvent::MouseButtonPress) {
+    if (type != QEvent::MouseButtonPress)
+        return false;
+    // The pointer on its way to a click on this item opened its menu already: the click meant
+    // to open it, so it stays. Otherwise a press on the open item closes its menu, here, so
+    // that no platform hands the press on to the item to open it again.
+    if (openedByMove_)
+        openedByMove_ = false;
+    else
         openMenu_->hide();
-        return true;
-    }
-    return false;
+    return true;
 }
 
 bool BarWindowStatusBar::menuKeyEvent(int key)
@@ -181,6 +186,7 @@ bool BarWindowStatusBar::menuKeyEvent(int key)
     if (next == nullptr)
         return false;
     openMenu(next);
+    openedByMove_ = false;
     return true;
 }
 

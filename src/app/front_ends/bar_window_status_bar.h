@@ -54,4 +54,6 @@ private:
     std::vector<BarItemWidget*> items_;
     QPointer<BarItemWidget> openItem_;
     QPointer<QMenu> openMenu_;
+    // The open menu came up as the pointer moved onto its item, not by a click.
+    bool openedByMove_ = false;
 };
