@@ -6,7 +6,7 @@ set -euo pipefail
 PACKAGES=(
   g++ cmake make pkg-config
   qt6-base-dev qt6-tools-dev qt6-tools-dev-tools qt6-l10n-tools libgl-dev
-  libplist-dev libudev-dev libmount-dev libpci-dev libatasmart-dev
+  libplist-dev libudev-dev libmount-dev libpci-dev libatasmart-dev libxcb1-dev
   libgtest-dev libgmock-dev
   fonts-dejavu-core
   xvfb x11-utils trayer dbus-daemon

@@ -14,6 +14,7 @@
 #include "preferences/preferences_window.h"
 #include "prefs/pref_functions.h"
 #include "prefs/pref_keys.h"
+#include "prefs/theme_appearance.h"
 #include "prefs/theme_files.h"
 #include "prefs/theme_repair.h"
 
@@ -54,6 +55,13 @@ void AppDelegate::setStatusBar(StatusBar* bar)
     statusBar_ = bar;
     if (notifier_ != nullptr)
         notifier_->setFallback(bar);
+}
+
+void AppDelegate::takeTheme(QVariantMap theme)
+{
+    themeColorDict_ = std::move(theme);
+    if (statusBar_ != nullptr)
+        statusBar_->setDarkAppearance(TvlClasses::isDarkTheme(themeColorDict_));
 }
 
 void AppDelegate::setCycleExecutor(std::unique_ptr<CycleExecutor> executor)

@@ -167,6 +167,8 @@ private:
     // The descriptions, as rebuilt, to the modules and the previews that draw from them.
     void handOutStorageDescriptions();
     void writeNowThemeFile();
+    // The theme in use from now on; the status bar takes its appearance.
+    void takeTheme(QVariantMap theme);
 
     std::unique_ptr<SettingsStore> userDefaults_;
     bool isDebugMode_ = false;

@@ -244,7 +244,7 @@ void AppDelegate::handOutTabDefaults(bool themeChanged)
 void AppDelegate::loadThemeColorDict()
 {
     QString problem;
-    themeColorDict_ = TvlClasses::checkThemeValues(TvlClasses::checkNowThemeFile(&problem));
+    takeTheme(TvlClasses::checkThemeValues(TvlClasses::checkNowThemeFile(&problem)));
     if (!problem.isEmpty())
         qCWarning(lcApp).noquote() << problem;
 }

@@ -53,11 +53,21 @@ std::optional<std::vector<ProcessRow>> ProcessCpuSampler::sample(ProcessSource& 
                       : 0;
         std::unordered_map<std::int64_t, std::uint64_t> ticks;
         ticks.reserve(scan->size());
+        // Read once per scan, and only when some process has no earlier reading.
+        std::optional<std::optional<double>> uptimeTicks;
         for (ProcessRecord& record : *scan) {
             double percent = 0;
             const auto previous = prevTicks_.find(record.pid);
-            if (elapsedTicks > 0 && previous != prevTicks_.end() && record.cpuTicks >= previous->second)
+            if (elapsedTicks > 0 && previous != prevTicks_.end() && record.cpuTicks >= previous->second) {
                 percent = roundedPercent(static_cast<double>(record.cpuTicks - previous->second) / elapsedTicks * 100);
+            } else {
+                if (!uptimeTicks) {
+                    const auto seconds = source.uptimeSeconds();
+                    uptimeTicks =
+                        seconds ? std::optional(*seconds * static_cast<double>(ticksPerSecond_)) : std::nullopt;
+                }
+                percent = shareSinceStart(record, *uptimeTicks);
+            }
             ticks.emplace(record.pid, record.cpuTicks);
             rows.push_back({record.pid, std::move(record.command), percent});
         }
@@ -73,4 +83,13 @@ std::optional<std::vector<ProcessRow>> ProcessCpuSampler::sample(ProcessSource& 
         return a.value != b.value ? a.value > b.value : a.pid < b.pid;
     });
     return rows;
+}
+
+double ProcessCpuSampler::shareSinceStart(const ProcessRecord& record, std::optional<double> uptimeTicks) const
+{
+    // Started less than a tick ago, or on a clock ahead of the uptime read: no life to share.
+    const double life = uptimeTicks ? *uptimeTicks - static_cast<double>(record.startTicks) : 0;
+    if (life < 1)
+        return 0;
+    return roundedPercent(static_cast<double>(record.cpuTicks) / life * 100);
 }

@@ -28,14 +28,17 @@ public:
     ProcessCpuSampler(long ticksPerSecond, std::uint64_t pageSize);
 
     // Rows for the value column "%cpu" or "rss", largest value first (ties by pid). For
-    // "%cpu", a process first seen in this scan (or whose pid was reused) counts as 0 rather
-    // than its share since it started: that would need its start time and the uptime, two
-    // more reads per process, and it would stand out for one interval only. On the first
-    // call every share is 0. Empty when the scan fails or the column is unknown.
+    // "%cpu", a process seen in the previous scan gets its share of the interval between the
+    // two; one first seen in this scan (every process on the first call, or one whose pid was
+    // reused) gets its share since it started, so that a list opened for the first time is
+    // not all zeros. Empty when the scan fails or the column is unknown.
     std::optional<std::vector<ProcessRow>> sample(ProcessSource& source, std::string_view column,
                                                   Clock::time_point now = Clock::now());
 
 private:
+    // The share of one processor that ticks of processor time make over the process's life.
+    double shareSinceStart(const ProcessRecord& record, std::optional<double> uptimeTicks) const;
+
     long ticksPerSecond_;
     std::uint64_t pageSize_;
     std::unordered_map<std::int64_t, std::uint64_t> prevTicks_;

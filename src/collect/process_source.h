@@ -14,10 +14,11 @@ struct ProcessCounts {
 // One process as the kernel accounts it; no names are resolved and nothing is sorted.
 struct ProcessRecord {
     std::int64_t pid = 0;
-    std::string command;           // the short command name the kernel keeps
-    std::uint64_t cpuTicks = 0;    // user plus system time, in clock ticks
+    std::string command;        // the short command name the kernel keeps
+    std::uint64_t cpuTicks = 0; // user plus system time, in clock ticks
     std::uint64_t residentPages = 0;
     std::int64_t threads = 0;
+    std::uint64_t startTicks = 0; // when it started, in clock ticks after boot
 };
 
 class ProcessSource {
@@ -26,6 +27,8 @@ public:
     virtual std::optional<ProcessCounts> counts() = 0;
     // Every process that could be read; processes that end during the scan are left out.
     virtual std::optional<std::vector<ProcessRecord>> scanProcesses() = 0;
+    // Seconds since boot on the clock that start times count on (suspended time included).
+    virtual std::optional<double> uptimeSeconds() { return std::nullopt; }
     // The program file a process runs, when the system lets this user see it. Asked for one
     // process at a time so that a scan for figures alone does not pay for it.
     virtual std::optional<std::string> executablePath(std::int64_t /*pid*/) { return std::nullopt; }

@@ -3,8 +3,13 @@
 
 #include "modules/module_registry.h"
 
+#include <QActionEvent>
+#include <QCoreApplication>
 #include <QGuiApplication>
 #include <QMenu>
+#include <QScreen>
+
+#include <algorithm>
 
 MenuModule::MenuModule(MenuModuleDelegate* delegate, ModuleId id, QObject* parent)
     : QObject(parent)
@@ -27,6 +32,7 @@ void MenuModule::initDrawStatusBar(StatusBar& bar)
     statusMenu = new QMenu();
     connect(statusMenu, &QMenu::aboutToShow, this, &MenuModule::menuWillOpen);
     connect(statusMenu, &QMenu::aboutToHide, this, &MenuModule::menuDidClose);
+    statusMenu->installEventFilter(this);
     statusItem = bar.createItem(objectName());
     statusItem->setMenu(statusMenu);
     drawBaseStatusBar();
@@ -49,12 +55,46 @@ void MenuModule::menuWillOpen()
     refreshBar();
     prepareMenuOpening();
     redrawStatusItem();
+    // The panels were just filled: the menu is measured from them, not from the last opening.
+    fitMenuToContent();
 }
 
 void MenuModule::menuDidClose()
 {
     menuOpened_ = false;
+    if (statusMenu)
+        statusMenu->setMinimumWidth(0);
     refreshBar();
+}
+
+bool MenuModule::eventFilter(QObject* watched, QEvent* event)
+{
+    // A panel whose size hint changed asks its parent, the menu, to lay it out again.
+    if (watched == statusMenu && event->type() == QEvent::LayoutRequest && statusMenu->isVisible())
+        fitMenuToContent();
+    return QObject::eventFilter(watched, event);
+}
+
+void MenuModule::fitMenuToContent()
+{
+    if (!statusMenu || statusMenu->actions().isEmpty())
+        return;
+    const bool shown = statusMenu->isVisible();
+    if (shown)
+        statusMenu->setMinimumWidth(statusMenu->width());
+    QActionEvent changed(QEvent::ActionChanged, statusMenu->actions().constFirst());
+    QCoreApplication::sendEvent(statusMenu, &changed);
+    const QScreen* screen = statusMenu->screen();
+    if (!shown || screen == nullptr)
+        return;
+    const QRect area = screen->availableGeometry();
+    QRect frame = statusMenu->geometry();
+    frame.moveRight(std::min(frame.right(), area.right()));
+    frame.moveBottom(std::min(frame.bottom(), area.bottom()));
+    frame.moveLeft(std::max(frame.left(), area.left()));
+    frame.moveTop(std::max(frame.top(), area.top()));
+    if (frame.topLeft() != statusMenu->pos())
+        statusMenu->move(frame.topLeft());
 }
 
 void MenuModule::openTab()

@@ -111,6 +111,8 @@ public:
     void menuDidClose();
 
 protected:
+    bool eventFilter(QObject* watched, QEvent* event) override;
+
     // (Re)builds the menu's items.
     virtual void drawBaseStatusBar() = 0;
     // Redraws what the open menu shows.
@@ -139,6 +141,11 @@ protected:
     ModuleDefaults mnDefaults;
 
 private:
+    // Measures the menu's rows again after a panel in it changed size: the menu itself only
+    // does so when an item changes. An open menu grows into the screen but does not narrow
+    // while it is looked at, so its edge does not jump with every tick's figures.
+    void fitMenuToContent();
+
     ModuleId id_;
     bool menuOpened_ = false;
     bool settingsRead_ = false;

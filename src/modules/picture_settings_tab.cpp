@@ -8,6 +8,7 @@
 #include "prefs/pref_functions.h"
 #include "prefs/pref_keys.h"
 #include "prefs/settings_store.h"
+#include "prefs/theme_appearance.h"
 #include "toolkit/localization.h"
 
 #include <QCheckBox>
@@ -172,8 +173,8 @@ QComboBox* PictureSettingsTab::addPopup(QFormLayout* form, const char* key, cons
     return popup;
 }
 
-QSpinBox* PictureSettingsTab::addNumber(QFormLayout* form, const char* key, const char* text, int minimum,
-                                       int maximum, int step, const QString& unit)
+QSpinBox* PictureSettingsTab::addNumber(QFormLayout* form, const char* key, const char* text, int minimum, int maximum,
+                                        int step, const QString& unit)
 {
     auto* box = new QSpinBox();
     box->setObjectName(QLatin1String(key));
@@ -209,6 +210,11 @@ void PictureSettingsTab::buildFrame(const char* previewName, QWidget* display, Q
 void PictureSettingsTab::loadControls()
 {
     changedDefaults_.clear();
+    alternativeTheme_ = TvlClasses::retAlternativeTheme(theme());
+    alternativeDefaults_ =
+        alternativeTheme_.isEmpty()
+            ? ModuleDefaults()
+            : PrefFunctions::loadModuleDefaults(schema(), store(), alternativeTheme_, allModuleSchemas());
     const ModuleDefaults& d = myDefaults();
     if (elementList_ != nullptr) {
         QList<ElementOrderList::Entry> entries;
@@ -242,21 +248,23 @@ void PictureSettingsTab::loadControls()
     }
 }
 
-ModuleDefaults PictureSettingsTab::previewDefaults() const
-{
-    return changedDefaults_.isEmpty() ? myDefaults() : changedDefaults_;
-}
-
 void PictureSettingsTab::settingsChanged()
 {
     changedDefaults_ = PrefFunctions::loadModuleDefaults(schema(), store(), theme(), allModuleSchemas());
+    if (!alternativeTheme_.isEmpty())
+        alternativeDefaults_ =
+            PrefFunctions::loadModuleDefaults(schema(), store(), alternativeTheme_, allModuleSchemas());
     redrawPreview();
 }
 
-void PictureSettingsTab::showPreview(const QImage& image)
+void PictureSettingsTab::redrawPreview()
 {
-    if (preview_ != nullptr)
-        preview_->setImage(image);
+    if (preview_ == nullptr)
+        return;
+    preview_->setImage(drawPreview(changedDefaults_.isEmpty() ? myDefaults() : changedDefaults_),
+                       TvlClasses::isDarkTheme(theme()));
+    preview_->setAlternativeImage(alternativeTheme_.isEmpty() ? QImage() : drawPreview(alternativeDefaults_),
+                                  TvlClasses::isDarkTheme(alternativeTheme_));
 }
 
 void PictureSettingsTab::switchChanged(const char* key, bool on, const QVariantMap& userInfo, bool alsoGeneral)

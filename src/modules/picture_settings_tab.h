@@ -6,6 +6,7 @@
 
 #include <QList>
 #include <QVariantHash>
+#include <QVariantMap>
 
 #include <utility>
 #include <vector>
@@ -72,14 +73,15 @@ protected:
 
     // Fills every control made above from the settings; derived tabs call it from loadViews().
     void loadControls();
-    // The module's settings as the store holds them now: after a change of this tab, read again
-    // from the store with their derived values, so the preview follows at once instead of after
-    // the round trip through the application.
-    ModuleDefaults previewDefaults() const;
     // A control wrote the store: the preview is drawn from the stored settings.
     void settingsChanged();
-    virtual void redrawPreview() = 0;
-    void showPreview(const QImage& image);
+    // Draws the preview again: the picture with the theme in use, on the panel that theme is
+    // made for, and with the theme's alternative on its own. After a change of this tab the
+    // settings are read again from the store with their derived values, so the preview follows
+    // at once instead of after the round trip through the application.
+    void redrawPreview();
+    // The module's picture drawn from these settings, at zoom() times the screen's ratio.
+    virtual QImage drawPreview(const ModuleDefaults& defaults) = 0;
 
 private:
     struct PopupControl {
@@ -113,4 +115,8 @@ private:
     std::vector<NumberControl> numbers_;
     // The stored settings since this tab's last change; empty until then.
     ModuleDefaults changedDefaults_;
+    // The theme in use's alternative, and this module's settings in its colours; empty when
+    // the theme names none.
+    QVariantMap alternativeTheme_;
+    ModuleDefaults alternativeDefaults_;
 };

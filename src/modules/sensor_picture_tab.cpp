@@ -13,13 +13,12 @@ SensorPictureTab::SensorPictureTab(ModuleId id, QList<Element> elements, const c
     , build_(build)
 {}
 
-void SensorPictureTab::redrawPreview()
+QImage SensorPictureTab::drawPreview(const ModuleDefaults& defaults)
 {
-    const ModuleDefaults defaults = previewDefaults();
     const SensorPictureSettings settings = build_(defaults);
     const double height = TvlClasses::retRootMenuHeight();
     bar_->redrawWithSize(QSizeF(sensorBarWidth(settings), height),
                          TvlClasses::retStatusMenuInsets(sensorShownElementCount(settings)), false, true, settings,
                          liveHistory(), shownSensor(defaults));
-    showPreview(bar_->image(devicePixelRatioF() * PicturePreview::zoom()));
+    return bar_->image(devicePixelRatioF() * PicturePreview::zoom());
 }

@@ -15,7 +15,7 @@ protected:
                      SensorPictureSettings (*build)(const ModuleDefaults&), SettingsStore& store,
                      PrefNotificationCenter& center, QWidget* parent);
 
-    void redrawPreview() override;
+    QImage drawPreview(const ModuleDefaults& defaults) override;
     // The sample entry the preview follows: a sensor's name, or empty for the average.
     virtual QString shownSensor(const ModuleDefaults& defaults) const
     {

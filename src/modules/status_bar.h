@@ -35,4 +35,7 @@ public:
         Q_UNUSED(title)
         Q_UNUSED(text)
     }
+    // The theme in use is made for a dark panel (or a light one); front ends that draw the
+    // panel behind the pictures themselves match it.
+    virtual void setDarkAppearance(bool dark) { Q_UNUSED(dark) }
 };

@@ -1,7 +1,8 @@
-// Two panel strips, light over dark, each showing the same picture at its left end.
+// Panel strips in the colours the themes are made for, each showing its picture at its left end.
 #include "preferences/picture_preview.h"
 
 #include "toolkit/localization.h"
+#include "toolkit/panel_color.h"
 
 #include <QPainter>
 #include <QScrollBar>
@@ -30,35 +31,53 @@ PicturePreview::PicturePreview(QWidget* parent)
 
 QColor PicturePreview::lightPanelColor()
 {
-    return {0xec, 0xec, 0xec};
+    return TvlClasses::retPanelColor(false);
 }
 
 QColor PicturePreview::darkPanelColor()
 {
-    return {0x24, 0x24, 0x24};
+    return TvlClasses::retPanelColor(true);
 }
 
-void PicturePreview::setImage(const QImage& image)
+void PicturePreview::setImage(const QImage& image, bool darkPanel)
 {
-    image_ = image;
+    strips_[0] = {image, darkPanel};
+    picturesChanged();
+}
+
+void PicturePreview::setAlternativeImage(const QImage& image, bool darkPanel)
+{
+    strips_[1] = {image, darkPanel};
+    picturesChanged();
+}
+
+void PicturePreview::picturesChanged()
+{
     updateScrolling();
     updateGeometry();
     viewport()->update();
 }
 
-QSizeF PicturePreview::imageSize() const
+QSizeF PicturePreview::imageSize(const Strip& strip) const
 {
-    return image_.isNull() ? QSizeF() : image_.deviceIndependentSize() * zoom();
+    return strip.image.isNull() ? QSizeF() : strip.image.deviceIndependentSize() * zoom();
+}
+
+int PicturePreview::stripCount() const
+{
+    return strips_[1].image.isNull() ? 1 : 2;
 }
 
 int PicturePreview::stripHeight() const
 {
-    return std::max(kMinimumPictureHeight, static_cast<int>(std::ceil(imageSize().height()))) + 2 * kPadding;
+    const double tallest = std::max(imageSize(strips_[0]).height(), imageSize(strips_[1]).height());
+    return std::max(kMinimumPictureHeight, static_cast<int>(std::ceil(tallest))) + 2 * kPadding;
 }
 
 int PicturePreview::contentWidth() const
 {
-    return static_cast<int>(std::ceil(imageSize().width())) + 2 * kPadding;
+    const double widest = std::max(imageSize(strips_[0]).width(), imageSize(strips_[1]).width());
+    return static_cast<int>(std::ceil(widest)) + 2 * kPadding;
 }
 
 QSize PicturePreview::sizeHint() const
@@ -78,7 +97,7 @@ void PicturePreview::updateScrolling()
     bar->setPageStep(viewport()->width());
     // The strips keep their height; the scroll bar, when shown, is added below them.
     const int barHeight = bar->maximum() > 0 ? bar->sizeHint().height() : 0;
-    setFixedHeight(2 * stripHeight() + barHeight);
+    setFixedHeight(stripCount() * stripHeight() + barHeight);
 }
 
 void PicturePreview::resizeEvent(QResizeEvent* event)
@@ -98,26 +117,21 @@ void PicturePreview::paintEvent(QPaintEvent* event)
 {
     Q_UNUSED(event)
     QPainter painter(viewport());
-    const int strip = stripHeight();
+    const int height = stripHeight();
     const int width = viewport()->width();
     const int left = kPadding - horizontalScrollBar()->value();
-    const QSizeF size = imageSize();
-    const struct {
-        QColor panel;
-        QColor caption;
-        const char* text;
-    } strips[] = {{lightPanelColor(), QColor(0x80, 0x80, 0x80), "Light"},
-                  {darkPanelColor(), QColor(0xa0, 0xa0, 0xa0), "Dark"}};
-    for (int i = 0; i < 2; ++i) {
-        const QRect frame(0, i * strip, width, strip);
-        painter.fillRect(frame, strips[i].panel);
+    for (int i = 0; i < stripCount(); ++i) {
+        const Strip& strip = strips_[i];
+        const QRect frame(0, i * height, width, height);
+        painter.fillRect(frame, TvlClasses::retPanelColor(strip.dark));
         // The caption sits at the right end, out of the picture's way, and only where it fits.
-        const QString caption = localized(strips[i].text);
+        const QString caption = localized(strip.dark ? "Dark" : "Light");
         if (width - contentWidth() - kPadding > painter.fontMetrics().horizontalAdvance(caption)) {
-            painter.setPen(strips[i].caption);
+            painter.setPen(strip.dark ? QColor(0xa0, 0xa0, 0xa0) : QColor(0x80, 0x80, 0x80));
             painter.drawText(frame.adjusted(0, 0, -kPadding, 0), Qt::AlignRight | Qt::AlignVCenter, caption);
         }
-        if (!image_.isNull())
-            painter.drawImage(QRectF(QPointF(left, frame.top() + (strip - size.height()) / 2), size), image_);
+        const QSizeF size = imageSize(strip);
+        if (!strip.image.isNull())
+            painter.drawImage(QRectF(QPointF(left, frame.top() + (height - size.height()) / 2), size), strip.image);
     }
 }

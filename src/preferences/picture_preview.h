@@ -1,4 +1,5 @@
-// A status-item picture shown as it looks on a light and on a dark panel, one strip each.
+// A status-item picture on the panel its theme is made for, and below it the same picture drawn
+// with the theme's alternative on that theme's own panel.
 #pragma once
 
 #include <QAbstractScrollArea>
@@ -9,16 +10,20 @@ class PicturePreview : public QAbstractScrollArea {
 public:
     explicit PicturePreview(QWidget* parent = nullptr);
 
-    // Shows the picture (its device pixel ratio sets its size in points) over both strips,
+    // The picture drawn with the theme in use (its device pixel ratio sets its size in points),
     // magnified by zoom(); draw it at zoom() times the screen's ratio to keep it sharp.
-    void setImage(const QImage& image);
+    void setImage(const QImage& image, bool darkPanel = false);
+    // The picture drawn with the theme's alternative, shown in a second strip; a null image (no
+    // alternative) leaves the strip out.
+    void setAlternativeImage(const QImage& image, bool darkPanel);
     static constexpr double zoom() { return 2.0; }
-    const QImage& image() const { return image_; }
+    const QImage& image() const { return strips_[0].image; }
+    const QImage& alternativeImage() const { return strips_[1].image; }
 
     QSize sizeHint() const override;
     QSize minimumSizeHint() const override;
 
-    // The panels' colours: pictures are drawn with the theme's colours and must read on both.
+    // The panels' colours: a theme's pictures are drawn to read on the one it is made for.
     static QColor lightPanelColor();
     static QColor darkPanelColor();
 
@@ -28,11 +33,17 @@ protected:
     void scrollContentsBy(int dx, int dy) override;
 
 private:
-    QSizeF imageSize() const;
+    struct Strip {
+        QImage image;
+        bool dark = false;
+    };
+    QSizeF imageSize(const Strip& strip) const;
+    int stripCount() const;
     int stripHeight() const;
     int contentWidth() const;
+    void picturesChanged();
     // A picture per core can be wider than the window: it scrolls rather than widening it.
     void updateScrolling();
 
-    QImage image_;
+    Strip strips_[2];
 };

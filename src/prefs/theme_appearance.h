@@ -14,4 +14,11 @@ namespace TvlClasses {
 std::optional<QString> retAppearanceSwitchTheme(const QVariantMap& nowTheme, bool desktopIsDark,
                                                 const QVariantList& themeList);
 
+// The theme the current one switches to when the appearance changes, read from the support
+// folder; empty when it names none, or when the file cannot be read.
+QVariantMap retAlternativeTheme(const QVariantMap& nowTheme);
+
+// Whether a theme is made for a dark panel.
+bool isDarkTheme(const QVariantMap& theme);
+
 } // namespace TvlClasses

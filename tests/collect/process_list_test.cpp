@@ -23,7 +23,9 @@ std::vector<ProcessRow> capturedRows()
 class ScriptedProcessSource : public ProcessSource {
 public:
     std::deque<std::optional<std::vector<ProcessRecord>>> scans;
+    std::optional<double> uptime;
     std::optional<ProcessCounts> counts() override { return std::nullopt; }
+    std::optional<double> uptimeSeconds() override { return uptime; }
     std::optional<std::vector<ProcessRecord>> scanProcesses() override
     {
         auto next = scans.front();
@@ -32,9 +34,10 @@ public:
     }
 };
 
-ProcessRecord record(std::int64_t pid, const char* command, std::uint64_t ticks, std::uint64_t pages = 0)
+ProcessRecord record(std::int64_t pid, const char* command, std::uint64_t ticks, std::uint64_t pages = 0,
+                     std::uint64_t startTicks = 0)
 {
-    return {pid, command, ticks, pages, 1};
+    return {pid, command, ticks, pages, 1, startTicks};
 }
 } // namespace
 
@@ -64,32 +67,53 @@ TEST(ProcessList, MemoryModeHandsBytesToTheFormatter)
     EXPECT_EQ(list[1], TvlClasses::calcMemorySize(2097152, 2) + "\n" + TvlClasses::calcMemorySize(1024, 2) + "\n");
 }
 
-TEST(ProcessCpuSampler, SharesOverTheIntervalAndProcessesComingAndGoing)
+TEST(ProcessCpuSampler, SharesSinceStartFirstThenOverTheInterval)
 {
     ScriptedProcessSource source;
-    source.scans = {std::vector{record(1, "init", 500), record(2, "busy", 1000), record(3, "ends", 40)},
-                    std::vector{record(1, "init", 510), record(2, "busy", 1150), record(4, "new", 900)}, std::nullopt};
+    // 100 ticks a second; the first scan comes 100 s after boot, the second 2 s later.
+    source.scans = {
+        std::vector{record(1, "init", 500, 0, 0), record(2, "busy", 1000, 0, 9000), record(3, "ends", 40, 0, 9990)},
+        std::vector{record(1, "init", 510, 0, 0), record(2, "busy", 1150, 0, 9000), record(4, "new", 90, 0, 10020)},
+        std::nullopt};
     ProcessCpuSampler sampler(100, 4096);
     const ProcessCpuSampler::Clock::time_point start{};
 
+    // No earlier scan: each process's processor time over its life (1000 ticks of 1000 is a
+    // whole processor; the one started a tenth of a second ago used four).
+    source.uptime = 100.0;
     const auto first = sampler.sample(source, "%cpu", start);
     ASSERT_TRUE(first);
-    for (const ProcessRow& row : *first)
-        EXPECT_EQ(row.value, 0) << row.command;
+    ASSERT_EQ(first->size(), 3u);
+    EXPECT_EQ((*first)[0].command, "ends");
+    EXPECT_DOUBLE_EQ((*first)[0].value, 400.0);
+    EXPECT_DOUBLE_EQ((*first)[1].value, 100.0);
+    EXPECT_DOUBLE_EQ((*first)[2].value, 5.0);
 
-    // Two seconds at 100 ticks a second: 150 ticks is 75% of one processor, 10 ticks 5%.
+    // Two seconds later: 150 ticks is 75% of one processor, 10 ticks 5%; the newcomer's 90
+    // ticks over its 180 are 50%, not all it brought along counted against the interval.
+    source.uptime = 102.0;
     const auto second = sampler.sample(source, "%cpu", start + 2s);
     ASSERT_TRUE(second);
     ASSERT_EQ(second->size(), 3u);
     EXPECT_EQ((*second)[0].command, "busy");
     EXPECT_DOUBLE_EQ((*second)[0].value, 75.0);
-    EXPECT_EQ((*second)[1].command, "init");
-    EXPECT_DOUBLE_EQ((*second)[1].value, 5.0);
-    // The newcomer has no earlier ticks, however many it brought along.
-    EXPECT_EQ((*second)[2].command, "new");
-    EXPECT_EQ((*second)[2].value, 0);
+    EXPECT_EQ((*second)[1].command, "new");
+    EXPECT_DOUBLE_EQ((*second)[1].value, 50.0);
+    EXPECT_EQ((*second)[2].command, "init");
+    EXPECT_DOUBLE_EQ((*second)[2].value, 5.0);
 
     EXPECT_FALSE(sampler.sample(source, "%cpu", start + 3s));
+}
+
+TEST(ProcessCpuSampler, WithoutAnUptimeAFirstScanIsIdle)
+{
+    ScriptedProcessSource source;
+    source.scans = {std::vector{record(1, "init", 500, 0, 0), record(2, "late", 70, 0, 20000)}};
+    ProcessCpuSampler sampler(100, 4096);
+    const auto rows = sampler.sample(source, "%cpu");
+    ASSERT_TRUE(rows);
+    for (const ProcessRow& row : *rows)
+        EXPECT_EQ(row.value, 0) << row.command;
 }
 
 TEST(ProcessCpuSampler, ResidentSizeInKiBAndAReusedPid)
@@ -101,7 +125,8 @@ TEST(ProcessCpuSampler, ResidentSizeInKiBAndAReusedPid)
     ProcessCpuSampler sampler(100, 4096);
     const ProcessCpuSampler::Clock::time_point start{};
     ASSERT_TRUE(sampler.sample(source, "%cpu", start));
-    // Fewer ticks than before means another process now has the pid: no share, not a wrap.
+    // Fewer ticks than before means another process now has the pid: not a wrap (and without
+    // an uptime, no share since its start either).
     EXPECT_EQ(sampler.sample(source, "%cpu", start + 1s)->front().value, 0);
 
     const auto memory = sampler.sample(source, "rss");

@@ -1,4 +1,5 @@
-// Runs tarvel on a virtual X screen, as a bar window and inside a tray host, and checks the screen.
+// Runs tarvel on a virtual X screen, as a bar window (a dock) and inside a tray host, and checks
+// the screen.
 #include "app/front_ends/bar_window_status_bar.h"
 #include "prefs/plist_settings_store.h"
 #include "prefs/pref_keys.h"
@@ -94,4 +95,56 @@ TEST_F(VirtualScreenTest, TrayHostReceivesTheIcons)
     screen.copy(panel).save(QStringLiteral(E2E_OUTPUT_DIR "/tray.png"));
     const QRect icons = boundsDifferingFrom(screen, panel, screen.pixel(panel.topLeft()));
     EXPECT_GE(icons.width(), panel.height() / 2) << "nothing drawn in the panel";
+}
+
+TEST_F(VirtualScreenTest, BarWindowIsADockThatHoldsTheTopOfTheScreen)
+{
+    if (QStandardPaths::findExecutable(QStringLiteral("xprop")).isEmpty() ||
+        QStandardPaths::findExecutable(QStringLiteral("xwininfo")).isEmpty())
+        GTEST_SKIP() << "xprop or xwininfo is not installed";
+    {
+        PlistSettingsStore store(settingsPath());
+        store.setBool(PrefKey::DisplayTopWindowAtStartup, false);
+        ASSERT_TRUE(store.synchronize());
+    }
+    QProcess& tarvel = start(QStringLiteral(TARVEL_EXECUTABLE), tarvelArguments({QStringLiteral("--bar")}));
+    ASSERT_TRUE(tarvel.waitForStarted());
+    // The bar is the window named Tarvel that spans the screen (Qt keeps small helper windows
+    // of the same name).
+    const QRegularExpression barLine(
+        QStringLiteral("^\\s*(0x[0-9a-f]+) \"Tarvel\":.*\\s%1x(\\d+)\\+0\\+0").arg(screenSize().width()));
+    QString window;
+    int height = 0;
+    ASSERT_TRUE(waitUntil([&] {
+        QProcess info;
+        info.setProcessEnvironment(environment());
+        info.start(QStringLiteral("xwininfo"), {QStringLiteral("-root"), QStringLiteral("-children")});
+        info.waitForFinished(20000);
+        for (const QString& line : QString::fromLocal8Bit(info.readAllStandardOutput()).split(u'\n')) {
+            const auto match = barLine.match(line);
+            if (match.hasMatch()) {
+                window = match.captured(1);
+                height = match.captured(2).toInt();
+            }
+        }
+        return !window.isEmpty();
+    })) << "no bar window across the screen";
+
+    // Window managers keep maximised windows out of the band the strut reserves.
+    QProcess xprop;
+    xprop.setProcessEnvironment(environment());
+    xprop.start(QStringLiteral("xprop"), {QStringLiteral("-id"), window, QStringLiteral("_NET_WM_WINDOW_TYPE"),
+                                          QStringLiteral("_NET_WM_STRUT_PARTIAL"), QStringLiteral("_NET_WM_STRUT")});
+    ASSERT_TRUE(xprop.waitForFinished(20000));
+    const QString properties = QString::fromLocal8Bit(xprop.readAllStandardOutput());
+    const int right = screenSize().width() - 1;
+    EXPECT_TRUE(properties.contains(QStringLiteral("_NET_WM_WINDOW_TYPE(ATOM) = _NET_WM_WINDOW_TYPE_DOCK")))
+        << qPrintable(properties);
+    EXPECT_TRUE(
+        properties.contains(QStringLiteral("_NET_WM_STRUT_PARTIAL(CARDINAL) = 0, 0, %1, 0, 0, 0, 0, 0, 0, %2, 0, 0")
+                                .arg(height)
+                                .arg(right)))
+        << qPrintable(properties);
+    EXPECT_TRUE(properties.contains(QStringLiteral("_NET_WM_STRUT(CARDINAL) = 0, 0, %1, 0").arg(height)))
+        << qPrintable(properties);
 }

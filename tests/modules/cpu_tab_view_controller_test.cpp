@@ -6,12 +6,15 @@
 #include "preferences/element_order_list.h"
 #include "preferences/picture_preview.h"
 #include "preferences/pref_notification.h"
+#include "prefs/plist_io.h"
+#include "prefs/theme_files.h"
 #include "support/memory_settings_store.h"
 #include "tab_settings.h"
 #include "toolkit/menu_geometry.h"
 
 #include <QCheckBox>
 #include <QSlider>
+#include <QTemporaryDir>
 #include <QThread>
 #include <gtest/gtest.h>
 
@@ -20,12 +23,14 @@ using namespace PrefKey;
 namespace {
 
 struct TabFixture {
-    explicit TabFixture(const ModuleDefaults& cpu)
+    // themeKeys: entries of the theme beyond its font.
+    explicit TabFixture(const ModuleDefaults& cpu, const QVariantMap& themeKeys = {})
     {
         QObject::connect(&center, &PrefNotificationCenter::posted,
                          [this](const PrefNotification& n) { posts.push_back(n); });
         all[moduleIndex(ModuleId::Cpu)] = cpu;
         theme = storeTabSettings(store, ModuleId::Cpu, cpu);
+        theme.insert(themeKeys);
         shown = store.values;
         tab.setMyDefaults(all, theme);
     }
@@ -108,7 +113,7 @@ TEST(CpuTab, EachControlStoresItsKeyAndPostsTheCpuNotification)
     EXPECT_EQ(f.posts.back().name, QLatin1String("CpuModuleNotif"));
 }
 
-TEST(CpuTab, PreviewIsTheBarPictureOfTheTabsSettingsOverLightAndDarkPanels)
+TEST(CpuTab, PreviewIsTheBarPictureOfTheTabsSettings)
 {
     const double height = TvlClasses::retRootMenuHeight();
     ModuleDefaults settings = graphAndText();
@@ -130,16 +135,36 @@ TEST(CpuTab, PreviewIsTheBarPictureOfTheTabsSettingsOverLightAndDarkPanels)
     EXPECT_TRUE(stored.boolValue(Cpu_Display_LevelBar));
     EXPECT_EQ(stored.intValue(Cpu_GraphWidth), 60);
     EXPECT_DOUBLE_EQ(f.previewWidth(), cpuBarWidth(cpuPictureSettings(stored), 4, height));
+}
 
-    PicturePreview preview;
-    QImage red(10, 20, QImage::Format_ARGB32_Premultiplied);
-    red.fill(Qt::red);
-    preview.setImage(red);
-    preview.resize(200, preview.height());
-    const QImage shot = preview.grab().toImage();
+TEST(CpuTab, PreviewShowsTheThemeOnItsOwnPanelAndItsAlternativeOnTheOther)
+{
+    QTemporaryDir home;
+    const QByteArray dataHome = qgetenv("XDG_DATA_HOME");
+    qputenv("XDG_DATA_HOME", home.path().toLocal8Bit());
+    TvlClasses::checkMyApplicationSupportDir();
+    const auto light = PlistIo::readDictionary(TvlClasses::retBundleThemePath(QStringLiteral("_light_theme")));
+    ASSERT_TRUE(light);
+    ASSERT_TRUE(
+        PlistIo::writeDictionaryAtomically(TvlClasses::retThemeFilePath(QStringLiteral("light.plist")), *light));
+
+    // A dark theme whose alternative is the light one: dark strip first, the light one below.
+    TabFixture dark(graphAndText(), {{_ForDarkAppearance, true}, {_AlternativeTheme, QStringLiteral("light.plist")}});
+    auto* preview = dark.find<PicturePreview>("CpuPreview");
+    EXPECT_FALSE(preview->image().isNull());
+    EXPECT_FALSE(preview->alternativeImage().isNull());
+    preview->resize(300, preview->height());
+    const QImage shot = preview->grab().toImage();
     const int strip = shot.height() / 2;
-    EXPECT_EQ(shot.pixelColor(100, strip / 2), PicturePreview::lightPanelColor());
-    EXPECT_EQ(shot.pixelColor(100, strip + strip / 2), PicturePreview::darkPanelColor());
-    EXPECT_EQ(shot.pixelColor(10, strip / 2), QColor(Qt::red));
-    EXPECT_EQ(shot.pixelColor(10, strip + strip / 2), QColor(Qt::red));
+    EXPECT_EQ(shot.pixelColor(shot.width() / 2, strip / 2), PicturePreview::darkPanelColor());
+    EXPECT_EQ(shot.pixelColor(shot.width() / 2, strip + strip / 2), PicturePreview::lightPanelColor());
+
+    // A light theme naming no alternative that exists: its own strip alone.
+    TabFixture alone(graphAndText(), {{_AlternativeTheme, QStringLiteral("gone.plist")}});
+    auto* single = alone.find<PicturePreview>("CpuPreview");
+    EXPECT_TRUE(single->alternativeImage().isNull());
+    EXPECT_LT(single->height(), preview->height());
+    single->resize(300, single->height());
+    EXPECT_EQ(single->grab().toImage().pixelColor(150, single->height() / 2), PicturePreview::lightPanelColor());
+    qputenv("XDG_DATA_HOME", dataHome);
 }

@@ -1,4 +1,4 @@
-// One status item's picture inside the bar window, opening its menu on a click.
+// One status item's picture inside the bar window; the window opens its menu on a click.
 #include "app/front_ends/bar_item_widget.h"
 
 #include <QMenu>
@@ -42,6 +42,11 @@ void BarItemWidget::setMenu(QMenu* menu)
     menu_ = menu;
 }
 
+QMenu* BarItemWidget::menu() const
+{
+    return menu_;
+}
+
 QSize BarItemWidget::sizeHint() const
 {
     if (image_.isNull())
@@ -70,5 +75,5 @@ void BarItemWidget::mousePressEvent(QMouseEvent* event)
         QWidget::mousePressEvent(event);
         return;
     }
-    menu_->popup(mapToGlobal(QPoint(0, height())));
+    Q_EMIT pressed();
 }

@@ -1,4 +1,4 @@
-// One status item's picture inside the bar window, opening its menu on a click.
+// One status item's picture inside the bar window; the window opens its menu on a click.
 #pragma once
 
 #include <QImage>
@@ -14,6 +14,7 @@ public:
 
     void setImage(const QImage& image, bool templated);
     void setMenu(QMenu* menu);
+    QMenu* menu() const;
 
     // The picture's size in points (its pixels over its pixel ratio), rounded up.
     QSize sizeHint() const override;
@@ -21,6 +22,8 @@ public:
 Q_SIGNALS:
     // The picture's size changed, so the bar must lay its items out again.
     void pictureResized();
+    // Pressed with the left button while no menu had the pointer.
+    void pressed();
 
 protected:
     void paintEvent(QPaintEvent* event) override;

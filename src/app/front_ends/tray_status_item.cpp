@@ -1,6 +1,7 @@
 // One status item shown as a system tray icon.
 #include "app/front_ends/tray_status_item.h"
 
+#include "app/front_ends/menu_placement.h"
 #include "app/front_ends/tray_icon_image.h"
 
 #include <QCursor>
@@ -14,9 +15,13 @@ TrayStatusItem::TrayStatusItem(const QString& moduleKey, QObject* owner)
 {
     icon_->setObjectName(moduleKey);
     // A menu bar opens its menu on the first click; most trays only do so on the context click.
+    // It opens beside the icon, not over it; trays that do not tell where the icon is (those
+    // spoken to over D-Bus) get it at the pointer.
     QObject::connect(icon_, &QSystemTrayIcon::activated, icon_, [this](QSystemTrayIcon::ActivationReason reason) {
-        if (reason == QSystemTrayIcon::Trigger && menu_)
-            menu_->popup(QCursor::pos());
+        if (reason != QSystemTrayIcon::Trigger || !menu_)
+            return;
+        const QRect icon = icon_->geometry();
+        popupBeside(*menu_, icon.isValid() && !icon.isEmpty() ? icon : QRect(QCursor::pos(), QSize(1, 1)));
     });
 }
 

@@ -19,6 +19,7 @@ bool isProcessEntry(const std::string& name)
 LinuxProcessSource::LinuxProcessSource(const SysRoot& root)
     : root_(root)
     , loadavg_(root.join("proc/loadavg"))
+    , uptime_(root.join("proc/uptime"))
 {}
 
 std::optional<ProcessCounts> LinuxProcessSource::counts()
@@ -73,6 +74,15 @@ std::optional<std::vector<ProcessRecord>> LinuxProcessSource::scanProcesses()
     // Files of processes that ended are closed here, as the old map goes.
     statFiles_ = std::move(kept);
     return records;
+}
+
+std::optional<double> LinuxProcessSource::uptimeSeconds()
+{
+    const std::lock_guard guard(lock_);
+    const auto text = uptime_.read();
+    if (!text)
+        return std::nullopt;
+    return acceptParsed(uptime_.path(), parseUptime(*text));
 }
 
 std::optional<std::string> LinuxProcessSource::executablePath(std::int64_t pid)

@@ -16,6 +16,7 @@ public:
     std::optional<ProcessCounts> counts() override;
     std::optional<std::vector<ProcessRecord>> scanProcesses() override;
     std::optional<std::string> executablePath(std::int64_t pid) override;
+    std::optional<double> uptimeSeconds() override;
 
 private:
     // Kept-open stat files between scans: one open per process instead of one per scan. Past
@@ -26,6 +27,7 @@ private:
     SysRoot root_;
     std::mutex lock_;
     ProcFile loadavg_;
+    ProcFile uptime_;
     std::mutex scanLock_;
     std::unordered_map<std::int64_t, ProcFile> statFiles_;
 };

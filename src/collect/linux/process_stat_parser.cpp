@@ -1,4 +1,5 @@
-// Parses one process's stat line; fields are counted after the command name's closing ")".
+// Parses one process's stat line, where fields are counted after the command name's closing
+// ")", and the uptime line.
 #include "collect/linux/process_stat_parser.h"
 
 #include "collect/linux/text_fields.h"
@@ -8,6 +9,7 @@ namespace {
 constexpr int kUtime = 11;
 constexpr int kStime = 12;
 constexpr int kThreads = 17;
+constexpr int kStartTime = 19;
 constexpr int kRss = 21;
 } // namespace
 
@@ -29,6 +31,7 @@ Parsed<ProcessRecord> parseProcessStat(std::string_view text)
     std::string_view rest = text.substr(close + 1);
     std::optional<std::uint64_t> utime, stime, rss;
     std::optional<std::int64_t> threads;
+    std::optional<std::uint64_t> start;
     for (int index = 0; index <= kRss; ++index) {
         const std::string_view field = trimSpace(takeField(rest));
         if (field.empty())
@@ -43,6 +46,9 @@ Parsed<ProcessRecord> parseProcessStat(std::string_view text)
         case kThreads:
             threads = parseNumber<std::int64_t>(field);
             break;
+        case kStartTime:
+            start = parseNumber<std::uint64_t>(field);
+            break;
         case kRss: {
             // rss is signed in the kernel's accounting; a negative value reads as none resident.
             const auto pages = parseNumber<std::int64_t>(field);
@@ -54,10 +60,20 @@ Parsed<ProcessRecord> parseProcessStat(std::string_view text)
             break;
         }
     }
-    if (!utime || !stime || !threads || !rss)
+    if (!utime || !stime || !threads || !rss || !start)
         return reject("times, thread count or resident set size not a number");
     record.cpuTicks = *utime + *stime;
     record.threads = *threads;
     record.residentPages = *rss;
+    record.startTicks = *start;
     return record;
+}
+
+Parsed<double> parseUptime(std::string_view text)
+{
+    std::string_view rest = text;
+    const auto seconds = parseNumber<double>(trimSpace(takeField(rest)));
+    if (!seconds || *seconds < 0)
+        return rejectedLine("uptime is not a number of seconds", firstLine(text), 1);
+    return *seconds;
 }

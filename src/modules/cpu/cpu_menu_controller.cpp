@@ -13,7 +13,9 @@
 #include <QDesktopServices>
 #include <QGraphicsOpacityEffect>
 #include <QGridLayout>
+#include <QHBoxLayout>
 #include <QLabel>
+#include <QPainter>
 #include <QPixmap>
 #include <QPushButton>
 #include <QUrl>
@@ -33,6 +35,15 @@ void setOpacity(QWidget* widget, double opacity)
         widget->setGraphicsEffect(effect);
     }
     effect->setOpacity(opacity);
+}
+
+QImage inTextColour(const QImage& picture, const QColor& colour)
+{
+    QImage shape = picture.convertToFormat(QImage::Format_ARGB32_Premultiplied);
+    QPainter painter(&shape);
+    painter.setCompositionMode(QPainter::CompositionMode_SourceIn);
+    painter.fillRect(shape.rect(), colour);
+    return shape;
 }
 
 QPixmap swatch(const QColor& color)
@@ -67,7 +78,9 @@ CPU_MenuController::CPU_MenuController(LoadSystemInformation& loadInfo, Settings
     machinImage = new QLabel(this);
     grid->addWidget(machinImage, row, 0);
     grid->addWidget(machinNameButton, row++, 1, 1, 2);
-    grid->addWidget(PanelLabels::title(this, "Cpu Type"), row, 0, 1, 2);
+    // Column 0 is a gutter for the swatches and the machine's picture: a title spanning it would
+    // widen it and push the share names away from their swatches.
+    grid->addWidget(PanelLabels::title(this, "Cpu Type"), row, 1);
     cpuKindLabel = new QLabel(this);
     grid->addWidget(cpuKindLabel, row++, 2);
     for (QLabel*& gpu : gpuLabels_) {
@@ -78,18 +91,30 @@ CPU_MenuController::CPU_MenuController(LoadSystemInformation& loadInfo, Settings
     const char* titles[] = {"Uptime Boot/Actv", nullptr, "Scheduling Stat", "Load Average", "Host Name"};
     for (std::size_t line = 0; line < optionLabels_.size(); ++line) {
         if (titles[line] != nullptr)
-            grid->addWidget(PanelLabels::title(this, titles[line]), row, 0, 1, 2);
+            grid->addWidget(PanelLabels::title(this, titles[line]), row, 1);
         optionLabels_[line] = line < 2 ? PanelLabels::figure(this, Qt::AlignLeft) : new QLabel(this);
         grid->addWidget(optionLabels_[line], row++, 2);
     }
 
-    processNameLabel = new QLabel(this);
+    // Names in the figures' face too: two faces have two line heights, and the shares would
+    // drift below their names line by line.
+    processNameLabel = PanelLabels::figure(this, Qt::AlignLeft);
+    processNameLabel->setObjectName(QStringLiteral("processNames"));
     processNameLabel->setForegroundRole(QPalette::PlaceholderText);
-    processPerLabel = PanelLabels::figure(this, Qt::AlignRight);
-    processPerLabel->setAlignment(Qt::AlignRight | Qt::AlignTop);
     processNameLabel->setAlignment(Qt::AlignLeft | Qt::AlignTop);
-    grid->addWidget(processNameLabel, row, 0, 1, 2);
-    grid->addWidget(processPerLabel, row, 2);
+    processPerLabel = PanelLabels::figure(this, Qt::AlignRight);
+    processPerLabel->setObjectName(QStringLiteral("processShares"));
+    processPerLabel->setAlignment(Qt::AlignRight | Qt::AlignTop);
+    // Room for the whole list from the start: an open menu does not grow when it arrives.
+    for (QLabel* label : {processNameLabel, processPerLabel})
+        label->setMinimumHeight(label->fontMetrics().lineSpacing() * kProcessRows);
+    // A row of its own across the panel: long process names must not widen the share names'
+    // column above them.
+    auto* processes = new QHBoxLayout();
+    processes->setSpacing(grid->horizontalSpacing());
+    processes->addWidget(processNameLabel, 1);
+    processes->addWidget(processPerLabel);
+    grid->addLayout(processes, row, 1, 1, 2);
     grid->setColumnStretch(2, 1);
 }
 
@@ -109,10 +134,12 @@ void CPU_MenuController::loadBaseData(const ThemePicture& label)
     font.setUnderline(known);
     machinNameButton->setFont(font);
 
-    // No vendor picture service here: the theme's processor picture stands for the machine.
+    // No vendor picture service here: the theme's processor picture stands for the machine, as
+    // a shape in the menu's text colour (a dark theme's white picture would vanish on a light
+    // menu, and the other way round).
     if (!label.image.isNull())
         machinImage->setPixmap(
-            QPixmap::fromImage(label.image)
+            QPixmap::fromImage(inTextColour(label.image, palette().color(QPalette::WindowText)))
                 .scaledToHeight(static_cast<int>(label.size.height()) * machinImage->devicePixelRatioF(),
                                 Qt::SmoothTransformation));
 
@@ -147,7 +174,7 @@ void CPU_MenuController::replaceData(qint64, const CpuPictureSettings& settings,
     pool_.start([this, names = procDict] {
         const QStringList options = cpuGetOptionData(loadInfo_.cpuOptionFigures());
         const QStringList processes =
-            loadInfo_.psGetProccessAsKv(QStringLiteral("%cpu"), names, 10, -1).value_or(QStringList());
+            loadInfo_.psGetProccessAsKv(QStringLiteral("%cpu"), names, kProcessRows, -1).value_or(QStringList());
         QMetaObject::invokeMethod(
             this, [this, options, processes] { applyDetails(options, processes); }, Qt::QueuedConnection);
     });
@@ -160,9 +187,10 @@ void CPU_MenuController::applyDetails(const QStringList& options, const QStringL
         for (std::size_t line = 0; line < optionLabels_.size(); ++line)
             optionLabels_[line]->setText(options.value(static_cast<qsizetype>(line)));
     }
+    // The list ends in a line feed, which would count as an eleventh line.
     if (processes.size() == 2) {
-        processNameLabel->setText(processes.at(0));
-        processPerLabel->setText(processes.at(1));
+        processNameLabel->setText(processes.at(0).trimmed());
+        processPerLabel->setText(processes.at(1).trimmed());
     }
     Q_EMIT detailsUpdated();
 }

@@ -19,6 +19,9 @@ class SettingsStore;
 class CPU_MenuController final : public QWidget {
     Q_OBJECT
 public:
+    // The busiest processes listed.
+    static constexpr int kProcessRows = 10;
+
     CPU_MenuController(LoadSystemInformation& loadInfo, SettingsStore& defaults, QWidget* parent = nullptr);
     ~CPU_MenuController() override;
 

@@ -51,9 +51,8 @@ void CpuTabViewController::loadViews()
     SampledPictureTab::loadViews();
 }
 
-void CpuTabViewController::redrawPreview()
+QImage CpuTabViewController::drawPreview(const ModuleDefaults& defaults)
 {
-    const ModuleDefaults defaults = previewDefaults();
     // Before the first sample: every processor of this machine at 0%, as the bar shows them.
     const History<CpuSample> history =
         previewHistory(zeroCpuSample(static_cast<std::size_t>(std::max(1, QThread::idealThreadCount()))));
@@ -63,5 +62,5 @@ void CpuTabViewController::redrawPreview()
     ImageCpuBar bar;
     bar.redrawWithSize(QSizeF(cpuBarWidth(settings, cores, height), height),
                        TvlClasses::retStatusMenuInsets(cpuShownElementCount(settings)), false, true, settings, history);
-    showPreview(bar.image(devicePixelRatioF() * PicturePreview::zoom()));
+    return bar.image(devicePixelRatioF() * PicturePreview::zoom());
 }

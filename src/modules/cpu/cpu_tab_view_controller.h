@@ -14,7 +14,7 @@ public:
 
 protected:
     void loadViews() override;
-    void redrawPreview() override;
+    QImage drawPreview(const ModuleDefaults& defaults) override;
 
 private:
     QWidget* buildDisplay();

@@ -71,14 +71,14 @@ void DiskTabViewController::setDiskBaseDict(const DiskBaseDict& diskBaseDict)
     redrawPreview();
 }
 
-void DiskTabViewController::redrawPreview()
+QImage DiskTabViewController::drawPreview(const ModuleDefaults& defaults)
 {
-    const DiskPictureSettings settings = diskPictureSettings(previewDefaults());
+    const DiskPictureSettings settings = diskPictureSettings(defaults);
     const std::vector<StorageBarSet> sets = diskBarSets(settings, diskBaseDict_);
     const double height = TvlClasses::retRootMenuHeight();
     ImageDiskBar bar;
     bar.redrawWithSize(QSizeF(diskBarWidth(settings, sets.size()), height),
                        TvlClasses::retStatusMenuInsets(diskShownElementCount(settings)), false, true, settings,
                        liveHistory(), sets);
-    showPreview(bar.image(devicePixelRatioF() * PicturePreview::zoom()));
+    return bar.image(devicePixelRatioF() * PicturePreview::zoom());
 }

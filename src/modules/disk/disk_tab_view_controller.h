@@ -23,7 +23,7 @@ public:
     }
 
 protected:
-    void redrawPreview() override;
+    QImage drawPreview(const ModuleDefaults& defaults) override;
 
 private:
     QWidget* buildDisplay();

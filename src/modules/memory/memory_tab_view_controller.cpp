@@ -56,9 +56,9 @@ QWidget* MemoryTabViewController::buildDisplay()
     return box;
 }
 
-void MemoryTabViewController::redrawPreview()
+QImage MemoryTabViewController::drawPreview(const ModuleDefaults& defaults)
 {
-    const MemoryPictureSettings settings = memoryPictureSettings(previewDefaults());
+    const MemoryPictureSettings settings = memoryPictureSettings(defaults);
     // Before the first sample: the elements empty and the figures at 0, as the bar would show them.
     const History<MemorySample> history = previewHistory(MemorySample{});
     std::size_t pageSize = 4096;
@@ -74,5 +74,5 @@ void MemoryTabViewController::redrawPreview()
     bar.redrawWithSize(QSizeF(memoryBarWidth(settings, widths, height), height),
                        TvlClasses::retStatusMenuInsets(memoryShownElementCount(settings)), false, true, settings,
                        history, widths);
-    showPreview(bar.image(devicePixelRatioF() * PicturePreview::zoom()));
+    return bar.image(devicePixelRatioF() * PicturePreview::zoom());
 }

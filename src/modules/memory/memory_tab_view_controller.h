@@ -16,7 +16,7 @@ public:
                             QWidget* parent = nullptr);
 
 protected:
-    void redrawPreview() override;
+    QImage drawPreview(const ModuleDefaults& defaults) override;
 
 private:
     QWidget* buildDisplay();

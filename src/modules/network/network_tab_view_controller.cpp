@@ -61,9 +61,9 @@ QWidget* NetworkTabViewController::buildDisplay()
     return box;
 }
 
-void NetworkTabViewController::redrawPreview()
+QImage NetworkTabViewController::drawPreview(const ModuleDefaults& defaults)
 {
-    const NetworkPictureSettings settings = networkPictureSettings(previewDefaults());
+    const NetworkPictureSettings settings = networkPictureSettings(defaults);
     // Before the first sample: the elements idle, as the bar would show them.
     const History<NetworkSample> history = previewHistory(NetworkSample{});
     const double height = TvlClasses::retRootMenuHeight();
@@ -71,5 +71,5 @@ void NetworkTabViewController::redrawPreview()
     bar.redrawWithSize(QSizeF(networkBarWidth(settings), height),
                        TvlClasses::retStatusMenuInsets(networkShownElementCount(settings)), false, true, settings,
                        history, currentNetworkRates(history, history.back().interval));
-    showPreview(bar.image(devicePixelRatioF() * PicturePreview::zoom()));
+    return bar.image(devicePixelRatioF() * PicturePreview::zoom());
 }

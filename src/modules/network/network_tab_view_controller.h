@@ -15,7 +15,7 @@ public:
     NetworkTabViewController(SettingsStore& store, PrefNotificationCenter& center, QWidget* parent = nullptr);
 
 protected:
-    void redrawPreview() override;
+    QImage drawPreview(const ModuleDefaults& defaults) override;
     // A new label pair brings its own width, as the settings loader would derive it.
 
 private:

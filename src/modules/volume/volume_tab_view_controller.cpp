@@ -79,14 +79,14 @@ void VolumeTabViewController::setVolumeBaseDict(std::shared_ptr<const VolumeBase
     redrawPreview();
 }
 
-void VolumeTabViewController::redrawPreview()
+QImage VolumeTabViewController::drawPreview(const ModuleDefaults& defaults)
 {
-    const VolumePictureSettings settings = volumePictureSettings(previewDefaults());
+    const VolumePictureSettings settings = volumePictureSettings(defaults);
     const std::vector<StorageBarSet> sets = volumeBarSets(settings, *volumeBaseDict_);
     const double height = TvlClasses::retRootMenuHeight();
     ImageVolumeBar bar;
     bar.redrawWithSize(QSizeF(volumeBarWidth(settings, sets.size(), height), height),
                        TvlClasses::retStatusMenuInsets(volumeShownElementCount(settings)), false, true, settings,
                        liveHistory(), sets);
-    showPreview(bar.image(devicePixelRatioF() * PicturePreview::zoom()));
+    return bar.image(devicePixelRatioF() * PicturePreview::zoom());
 }
