@@ -19,6 +19,8 @@
 #include <QComboBox>
 #include <QDir>
 #include <QFile>
+#include <QLabel>
+#include <QScreen>
 #include <QSpinBox>
 #include <QTest>
 #include <gtest/gtest.h>
@@ -184,6 +186,23 @@ TEST_F(PreferencesTest, AFontChangeIsWrittenAtOnce)
     QTest::qWait(kSettleMs);
     EXPECT_EQ(themeFile().value(QLatin1String(_FontStyle)).toString(), style);
     EXPECT_EQ(t.app->generalDefaults().stringValue(_FontStyle), style);
+}
+
+TEST_F(PreferencesTest, WindowFitsASmallScreenWithTheFailureLineShowing)
+{
+    PreferencesWindow* window = t.app->preferencePanel();
+    window->showStoreFailure();
+    QApplication::processEvents();
+    // A 1280 x 720 screen, less a panel and the title bar: the pages scroll instead.
+    EXPECT_LE(window->minimumSizeHint().width(), 1280);
+    EXPECT_LE(window->minimumSizeHint().height(), 720 - 80);
+    // As placed on this (smaller) screen: whole, failure line included.
+    const QRect area = window->screen()->availableGeometry();
+    EXPECT_TRUE(area.contains(window->geometry())) << area.height() << " " << window->height();
+    const auto* failure = window->findChild<QLabel*>(QStringLiteral("StoreFailure"));
+    ASSERT_NE(failure, nullptr);
+    EXPECT_TRUE(failure->isVisible());
+    EXPECT_LE(failure->mapTo(window, QPoint(0, failure->height())).y(), window->height());
 }
 
 TEST_F(PreferencesTest, SettingsSurviveARestartAndAFailedSaveIsShown)
