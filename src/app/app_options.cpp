@@ -25,6 +25,10 @@ QString usageText()
                           "                                  (default 2), and each menu's graph (CPU, Memory,\n"
                           "                                  Network, Disk, Volume) to DIR/<module>-menu.png;\n"
                           "                                  prints the path of each file written\n"
+                          "  render --out DIR --panels [--cycles N] [--scale S]\n"
+                          "                                  the same, and each open drop-down to\n"
+                          "                                  DIR/<module>-dropdown.png, the preferences window's\n"
+                          "                                  top and CPU tabs to DIR/preferences-<module>.png\n"
                           "  global-address [--service URL]...\n"
                           "                                  look up the machine's global IPv4 address and print it\n"
                           "                                  (status 1 when no service gives one); each --service\n"
@@ -88,6 +92,7 @@ struct OptionSet {
     QCommandLineOption prefs{QStringLiteral("preferences")};
     QCommandLineOption out{QStringLiteral("out"), QString(), QStringLiteral("DIR")};
     QCommandLineOption scale{QStringLiteral("scale"), QString(), QStringLiteral("S")};
+    QCommandLineOption panels{QStringLiteral("panels")};
     QCommandLineOption service{QStringLiteral("service"), QString(), QStringLiteral("URL")};
     QCommandLineOption help{QStringList{QStringLiteral("h"), QStringLiteral("help")}};
     QCommandLineOption version{QStringList{QStringLiteral("v"), QStringLiteral("version")}};
@@ -139,8 +144,8 @@ QString readCommandOptions(const QCommandLineParser& parser, const OptionSet& o,
         return QStringLiteral("--json belongs to the snapshot command");
     if (!snapshot && !render && parser.isSet(o.cycles))
         return QStringLiteral("--cycles belongs to the snapshot and render commands");
-    if (!render && (parser.isSet(o.out) || parser.isSet(o.scale)))
-        return QStringLiteral("--out and --scale belong to the render command");
+    if (!render && (parser.isSet(o.out) || parser.isSet(o.scale) || parser.isSet(o.panels)))
+        return QStringLiteral("--out, --scale and --panels belong to the render command");
     if ((parser.isSet(o.bar) || parser.isSet(o.prefs)) && options.command != AppOptions::Command::Run)
         return QStringLiteral("--bar and --preferences are for running the monitor");
     if (parser.isSet(o.service) && options.command != AppOptions::Command::GlobalAddress)
@@ -150,6 +155,7 @@ QString readCommandOptions(const QCommandLineParser& parser, const OptionSet& o,
         return QStringLiteral("--service takes an address");
     options.bar = parser.isSet(o.bar);
     options.json = parser.isSet(o.json);
+    options.panels = parser.isSet(o.panels);
     if (render) {
         options.outDir = parser.value(o.out);
         if (options.outDir.isEmpty())
@@ -196,7 +202,7 @@ OptionsResult parseAppOptions(const QStringList& arguments, const QString& envir
     parser.setSingleDashWordOptionMode(QCommandLineParser::ParseAsLongOptions);
     const OptionSet o;
     parser.addOptions(
-        {o.root, o.settings, o.json, o.cycles, o.bar, o.prefs, o.out, o.scale, o.service, o.help, o.version});
+        {o.root, o.settings, o.json, o.cycles, o.bar, o.prefs, o.out, o.scale, o.panels, o.service, o.help, o.version});
     parser.addPositionalArgument(QStringLiteral("command"), QString());
 
     if (!parser.parse(arguments))

@@ -17,6 +17,7 @@ struct AppOptions {
     int cycles = 2;                     // snapshot and render
     QString outDir;                     // render only
     double scale = 2.0;                 // render only
+    bool panels = false;                // render: also the drop-downs and the preferences window
     QStringList services;               // global-address: echo services to ask, in this order
 };
 

@@ -40,7 +40,8 @@ std::optional<DesktopEntry> parseDesktopEntry(QStringView text, const QLocale& l
         return std::nullopt;
 
     DesktopEntry entry;
-    entry.execName = programName(value("Exec"));
+    entry.exec = value("Exec");
+    entry.execName = programName(entry.exec);
     entry.wmClass = value("StartupWMClass");
     entry.shown = !isTrue(value("NoDisplay")) && !isTrue(value("Hidden"));
     // Name[de_DE] is preferred to Name[de], which is preferred to Name.

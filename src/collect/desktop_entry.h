@@ -1,4 +1,4 @@
-// Reads the facts of a .desktop file needed to name a running program.
+// Reads the facts of a .desktop file needed to name a running program or start an application.
 #pragma once
 
 #include <QLocale>
@@ -9,6 +9,7 @@
 
 struct DesktopEntry {
     QString name;      // Name in the locale's language where the file has it
+    QString exec;      // the Exec line as written, field codes and all
     QString execName;  // file name of the program Exec starts, without its folder
     QString wmClass;   // StartupWMClass
     bool shown = true; // false for NoDisplay or Hidden entries

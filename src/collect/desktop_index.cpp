@@ -97,9 +97,9 @@ void DesktopIndex::rebuild()
             if (!entry || !entry->shown)
                 continue;
             // Several entries may start one program; the first in precedence names it.
-            const auto add = [&](QHash<QString, QString>& table, const QString& key) {
+            const auto add = [&](QHash<QString, DesktopEntry>& table, const QString& key) {
                 if (!key.isEmpty() && !table.contains(key.toLower()))
-                    table.insert(key.toLower(), entry->name);
+                    table.insert(key.toLower(), *entry);
             };
             add(byProgram_, entry->execName);
             add(byWmClass_, entry->wmClass);
@@ -112,6 +112,12 @@ void DesktopIndex::rebuild()
 }
 
 std::optional<QString> DesktopIndex::nameFor(const QString& program) const
+{
+    const auto entry = entryFor(program);
+    return entry ? std::optional<QString>(entry->name) : std::nullopt;
+}
+
+std::optional<DesktopEntry> DesktopIndex::entryFor(const QString& program) const
 {
     const QString key = program.toLower();
     for (const auto* table : {&byProgram_, &byWmClass_, &byId_}) {

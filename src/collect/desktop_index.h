@@ -1,6 +1,8 @@
 // The installed desktop applications by program and window class, rebuilt only when their folders change.
 #pragma once
 
+#include "collect/desktop_entry.h"
+
 #include <QHash>
 #include <QLocale>
 #include <QString>
@@ -27,6 +29,8 @@ public:
     // The display name for a program, matched without regard to case against Exec's program,
     // then StartupWMClass, then the desktop file id; empty when no shown entry matches.
     [[nodiscard]] std::optional<QString> nameFor(const QString& program) const;
+    // The whole entry that nameFor takes the name from.
+    [[nodiscard]] std::optional<DesktopEntry> entryFor(const QString& program) const;
 
     // How many times the files were read, for checking that unchanged folders are not.
     [[nodiscard]] int buildCount() const { return builds_; }
@@ -38,9 +42,9 @@ private:
 
     QStringList dataDirs_;
     QLocale locale_;
-    QHash<QString, QString> byProgram_;
-    QHash<QString, QString> byWmClass_;
-    QHash<QString, QString> byId_;
+    QHash<QString, DesktopEntry> byProgram_;
+    QHash<QString, DesktopEntry> byWmClass_;
+    QHash<QString, DesktopEntry> byId_;
     Stamps stamps_;
     std::vector<std::filesystem::path> folders_; // every folder read at the last build
     bool built_ = false;

@@ -1,6 +1,7 @@
 // Controls of a picture tab: each writes its key, saves and posts the module's notification.
 #include "modules/picture_settings_tab.h"
 
+#include "modules/desktop_tool_switch.h"
 #include "modules/module_registry.h"
 #include "preferences/element_order_list.h"
 #include "preferences/picture_preview.h"
@@ -106,18 +107,23 @@ QWidget* PictureSettingsTab::buildMenuItems(const char* amonKey, const char* cns
     auto* box = new QGroupBox(localized("Menu items"), this);
     auto* form = new QFormLayout(box);
     const QVariantMap refreshItems{{QLatin1String(NotifKey::ModuleItemRefreshNow), true}};
-    addSwitch(form, amonKey, "Open Activity Monitor", refreshItems);
-    addSwitch(form, cnslKey, "Open Console", refreshItems);
-    addSwitch(form, tmnlKey, "Open Terminal", refreshItems);
+    DesktopToolSwitch::addRows(form, {amonKey, cnslKey, tmnlKey},
+                               [this, &refreshItems](const char* key) { return makeSwitch(key, {}, refreshItems); });
     return box;
 }
 
 QCheckBox* PictureSettingsTab::addSwitch(QFormLayout* form, const char* key, const char* text,
                                          const QVariantMap& userInfo)
 {
-    auto* box = new QCheckBox(localized(text));
-    box->setObjectName(QLatin1String(key));
+    QCheckBox* box = makeSwitch(key, localized(text), userInfo);
     form->addRow(box);
+    return box;
+}
+
+QCheckBox* PictureSettingsTab::makeSwitch(const char* key, const QString& text, const QVariantMap& userInfo)
+{
+    auto* box = new QCheckBox(text);
+    box->setObjectName(QLatin1String(key));
     switches_.emplace_back(key, box);
     connect(box, &QCheckBox::toggled, this,
             [this, key, userInfo](bool on) { switchChanged(key, on, userInfo, false); });

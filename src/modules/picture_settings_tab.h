@@ -55,7 +55,8 @@ protected:
     // The preview box on top; the rest is the derived tab's to lay out below it.
     QWidget* buildPreview(const char* objectName);
     QWidget* buildElements();
-    // The three tool switches; they change menu items, so the menu is rebuilt.
+    // The three tool switches, named after the applications found; they change menu items, so
+    // the menu is rebuilt.
     QWidget* buildMenuItems(const char* amonKey, const char* cnslKey, const char* tmnlKey);
     QCheckBox* addSwitch(QFormLayout* form, const char* key, const char* text, const QVariantMap& userInfo = {});
     // The module's label switch, stored with the General settings as well.
@@ -99,6 +100,8 @@ private:
         QSlider* slider;
         QLabel* label;
     };
+    // A switch that stores its key, not yet laid out.
+    QCheckBox* makeSwitch(const char* key, const QString& text, const QVariantMap& userInfo);
     void switchChanged(const char* key, bool on, const QVariantMap& userInfo, bool alsoGeneral);
     void elementSwitched(qint64 code, bool on);
     void orderChanged(const QList<qint64>& order);

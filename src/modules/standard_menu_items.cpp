@@ -50,11 +50,12 @@ QAction* addItem(QMenu* menu, const ModuleDefaults& defaults, const QString& tit
     return item;
 }
 
-QAction* addToolItem(QMenu* menu, const ModuleDefaults& defaults, const char* title, int tag, DesktopTool tool)
+QAction* addToolItem(QMenu* menu, const ModuleDefaults& defaults, int tag, DesktopTool tool)
 {
-    if (!DesktopTools::find(tool))
+    const auto found = DesktopTools::find(tool);
+    if (!found)
         return nullptr;
-    return addItem(menu, defaults, localized(title), tag, [tool] { DesktopTools::launch(tool); });
+    return addItem(menu, defaults, DesktopTools::title(tool, found), tag, [tool] { DesktopTools::launch(tool); });
 }
 
 } // namespace
@@ -70,17 +71,17 @@ QAction* retOpenPrefMenuItem(QMenu* menu, const ModuleDefaults& defaults, std::f
 
 QAction* retOpenAmonMenuItem(QMenu* menu, const ModuleDefaults& defaults)
 {
-    return addToolItem(menu, defaults, "Open Activity Monitor", OpenAmonTag, DesktopTool::SystemMonitor);
+    return addToolItem(menu, defaults, OpenAmonTag, DesktopTool::SystemMonitor);
 }
 
 QAction* retOpenCnslMenuItem(QMenu* menu, const ModuleDefaults& defaults)
 {
-    return addToolItem(menu, defaults, "Open Console", OpenCnslTag, DesktopTool::LogViewer);
+    return addToolItem(menu, defaults, OpenCnslTag, DesktopTool::LogViewer);
 }
 
 QAction* retOpenTmnlMenuItem(QMenu* menu, const ModuleDefaults& defaults)
 {
-    return addToolItem(menu, defaults, "Open Terminal", OpenTmnlTag, DesktopTool::Terminal);
+    return addToolItem(menu, defaults, OpenTmnlTag, DesktopTool::Terminal);
 }
 
 void addStandardMenuItems(QMenu* menu, const ModuleDefaults& defaults, bool amon, bool cnsl, bool tmnl,

@@ -14,7 +14,7 @@ enum StandardMenuTag { OpenPrefTag = 100, OpenAmonTag = 101, OpenCnslTag = 102, 
 namespace GeneralFunctions {
 
 QAction* retOpenPrefMenuItem(QMenu* menu, const ModuleDefaults& defaults, std::function<void()> action);
-// The tool items are left out (nullptr) when the desktop has no such program.
+// The tool items name the application they open, and are left out (nullptr) when the desktop has none.
 QAction* retOpenAmonMenuItem(QMenu* menu, const ModuleDefaults& defaults);
 QAction* retOpenCnslMenuItem(QMenu* menu, const ModuleDefaults& defaults);
 QAction* retOpenTmnlMenuItem(QMenu* menu, const ModuleDefaults& defaults);

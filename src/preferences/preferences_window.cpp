@@ -9,14 +9,27 @@
 #include <QCloseEvent>
 #include <QLabel>
 #include <QScreen>
+#include <QScrollArea>
 #include <QShortcut>
 #include <QTabWidget>
 #include <QVBoxLayout>
 
+#include <algorithm>
+
 namespace {
 
-// Room for every tab's title and the top tab's sections without scrolling sideways.
-constexpr QSize kDefaultSize(780, 700);
+// What the window manager adds around the window (title bar, borders), unknown until it is shown;
+// the window is sized to leave that much of the screen free.
+constexpr QSize kFrameAllowance(16, 48);
+
+QScrollArea* scrolling(QWidget* page)
+{
+    auto* area = new QScrollArea();
+    area->setFrameShape(QFrame::NoFrame);
+    area->setWidgetResizable(true);
+    area->setWidget(page);
+    return area;
+}
 
 } // namespace
 
@@ -44,14 +57,21 @@ PreferencesWindow::PreferencesWindow(QWidget* parent)
     // Closed from the keyboard as any settings window is; every change is saved already.
     for (const QKeySequence& keys : {QKeySequence(QKeySequence::Close), QKeySequence(Qt::Key_Escape)})
         connect(new QShortcut(keys, this), &QShortcut::activated, this, &QWidget::close);
-    resize(kDefaultSize);
 }
 
 void PreferencesWindow::addTab(PreferenceTab* tab, const QString& label)
 {
-    tabs_->addTab(tab, label);
+    // Pages scroll inside the window, so that no page, nor the failure line, pushes the window
+    // past the bottom of a small screen.
+    tabs_->addTab(scrolling(tab), label);
     connect(tab, &PreferenceTab::storeFailed, this, &PreferencesWindow::showStoreFailure);
     connect(tab, &PreferenceTab::storeSaved, this, &PreferencesWindow::clearStoreFailure);
+}
+
+QSize PreferencesWindow::defaultSize()
+{
+    // Room for every tab's title and the top tab's sections without scrolling sideways.
+    return {780, 700};
 }
 
 int PreferencesWindow::tabCount() const
@@ -61,7 +81,8 @@ int PreferencesWindow::tabCount() const
 
 PreferenceTab* PreferencesWindow::tab(int index) const
 {
-    return qobject_cast<PreferenceTab*>(tabs_->widget(index));
+    const auto* page = qobject_cast<QScrollArea*>(tabs_->widget(index));
+    return page != nullptr ? qobject_cast<PreferenceTab*>(page->widget()) : nullptr;
 }
 
 int PreferencesWindow::currentTab() const
@@ -78,8 +99,9 @@ void PreferencesWindow::openTab(int index)
         placed_ = true;
         if (const QScreen* screen = QGuiApplication::primaryScreen()) {
             const QRect area = screen->availableGeometry();
-            resize(size().boundedTo(area.size()));
-            move(area.center() - rect().center());
+            resize(defaultSize().boundedTo(area.size() - kFrameAllowance).expandedTo(minimumSizeHint()));
+            move(area.left() + std::max(0, (area.width() - width()) / 2),
+                 area.top() + std::max(0, (area.height() - height() - kFrameAllowance.height()) / 2));
         }
     }
     show();

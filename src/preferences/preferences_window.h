@@ -12,7 +12,11 @@ class PreferencesWindow : public QWidget {
 public:
     explicit PreferencesWindow(QWidget* parent = nullptr);
 
-    // Takes ownership; tabs are shown in the order they are added.
+    // The size the window opens at where the screen has room for it; on a smaller screen it opens
+    // smaller and its pages scroll.
+    static QSize defaultSize();
+
+    // Takes ownership; tabs are shown in the order they are added, each scrolling on its own.
     void addTab(PreferenceTab* tab, const QString& label);
     int tabCount() const;
     PreferenceTab* tab(int index) const;

@@ -25,6 +25,7 @@ public:
     void removeObjectForKey(const QString& key) override;
     bool synchronize() override;
     QVariantMap dictionaryRepresentation() const override { return values_; }
+    QString location() const override { return path_; }
 
     const QString& path() const { return path_; }
     // What went wrong while opening the file (and where the bad file went); empty when fine.

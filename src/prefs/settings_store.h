@@ -19,6 +19,8 @@ public:
     virtual bool synchronize() = 0;
     // Every stored key and value, for diagnostics and tests.
     virtual QVariantMap dictionaryRepresentation() const = 0;
+    // Where the settings are kept, to tell the user; empty for a store that is nowhere on disk.
+    virtual QString location() const { return {}; }
 
     bool boolForKey(const QString& key) const;
     qint64 integerForKey(const QString& key) const;

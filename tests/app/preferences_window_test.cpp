@@ -19,6 +19,8 @@
 #include <QComboBox>
 #include <QDir>
 #include <QFile>
+#include <QLabel>
+#include <QScreen>
 #include <QSpinBox>
 #include <QTest>
 #include <gtest/gtest.h>
@@ -174,16 +176,47 @@ TEST_F(PreferencesTest, ABurstOfColourChangesIsWrittenOnceAndReloadedOnce)
     EXPECT_EQ(t.app->defaults(ModuleId::Cpu).color(QStringLiteral("A01")).red(), 90);
 }
 
-TEST_F(PreferencesTest, AFontChangeIsWrittenAtOnce)
+TEST_F(PreferencesTest, AFontChangeIsWrittenAtOnceAndTheThemeDetailNamesTheNewFont)
 {
-    QComboBox* styles = top().themeSection()->fontStyleMenu();
+    TopTabThemeSection* section = top().themeSection();
+    QComboBox* styles = section->fontStyleMenu();
     ASSERT_GT(styles->count(), 1) << "the theme's font family has several styles";
     const int other = styles->currentIndex() == 0 ? 1 : 0;
     const QString style = styles->itemText(other);
+    const QString family = section->fontFamilyMenu()->currentText();
     styles->setCurrentIndex(other);
+    // The detail follows the choice at once, and still after the theme came back written.
+    const QString fontLine = QStringLiteral("\nFont: %1 %2").arg(family, style);
+    EXPECT_TRUE(section->detailLabel()->text().endsWith(fontLine)) << section->detailLabel()->text().toStdString();
     QTest::qWait(kSettleMs);
     EXPECT_EQ(themeFile().value(QLatin1String(_FontStyle)).toString(), style);
     EXPECT_EQ(t.app->generalDefaults().stringValue(_FontStyle), style);
+    EXPECT_TRUE(section->detailLabel()->text().endsWith(fontLine)) << section->detailLabel()->text().toStdString();
+
+    // Another family: the detail names it, and no other line of it names the old one.
+    QComboBox* families = section->fontFamilyMenu();
+    families->setCurrentIndex(families->currentIndex() == 0 ? 1 : 0);
+    QTest::qWait(kSettleMs);
+    QStringList lines = section->detailLabel()->text().split(u'\n');
+    EXPECT_EQ(lines.takeLast(), QStringLiteral("Font: %1 %2").arg(families->currentText(), styles->currentText()));
+    EXPECT_FALSE(lines.join(u'\n').contains(family)) << lines.join(u'\n').toStdString();
+}
+
+TEST_F(PreferencesTest, WindowFitsASmallScreenWithTheFailureLineShowing)
+{
+    PreferencesWindow* window = t.app->preferencePanel();
+    window->showStoreFailure();
+    QApplication::processEvents();
+    // A 1280 x 720 screen, less a panel and the title bar: the pages scroll instead.
+    EXPECT_LE(window->minimumSizeHint().width(), 1280);
+    EXPECT_LE(window->minimumSizeHint().height(), 720 - 80);
+    // As placed on this (smaller) screen: whole, failure line included.
+    const QRect area = window->screen()->availableGeometry();
+    EXPECT_TRUE(area.contains(window->geometry())) << area.height() << " " << window->height();
+    const auto* failure = window->findChild<QLabel*>(QStringLiteral("StoreFailure"));
+    ASSERT_NE(failure, nullptr);
+    EXPECT_TRUE(failure->isVisible());
+    EXPECT_LE(failure->mapTo(window, QPoint(0, failure->height())).y(), window->height());
 }
 
 TEST_F(PreferencesTest, SettingsSurviveARestartAndAFailedSaveIsShown)

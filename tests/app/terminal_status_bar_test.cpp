@@ -1,5 +1,7 @@
-// Tests the terminal front end's lines: bar order, appended stamped blocks, in-place redraws.
+// Tests the terminal front end's lines: bar order, appended stamped blocks, in-place redraws, and
+// what the application's own line says.
 #include "app/front_ends/terminal_status_bar.h"
+#include "test_app.h"
 
 #include <QBuffer>
 #include <QRegularExpression>
@@ -66,4 +68,28 @@ TEST_F(TerminalTest, RedrawsInPlaceOverTheLinesDrawnBefore)
     EXPECT_TRUE(redraw.contains("CPU      50%\n"));
     EXPECT_TRUE(redraw.contains("* No update available\n"));
     EXPECT_FALSE(redraw.contains("No display found"));
+}
+
+TEST_F(TerminalTest, TheGeneralLineGivesTheVersionAndWhereTheSettingsAre)
+{
+    buffer.open(QIODevice::WriteOnly);
+    TerminalStatusBar bar(&buffer, false);
+    TestApp t;
+    const QByteArray home = qgetenv("HOME");
+    for (const bool settingsAtHome : {false, true}) {
+        SCOPED_TRACE(settingsAtHome);
+        // Under the home folder the path is written as from "~", as a shell would take it.
+        qputenv("HOME", settingsAtHome ? t.dir.path().toUtf8() : QByteArray("/nonexistent"));
+        t.launchWithBar(bar);
+        bar.flush();
+        const QRegularExpression generalLine(QStringLiteral("^\\S+ General +(.*)$"));
+        QString general;
+        for (const QString& line : writtenLines())
+            if (const auto match = generalLine.match(line); match.hasMatch())
+                general = match.captured(1);
+        const QString where = settingsAtHome ? QStringLiteral("~/settings.plist") : t.settingsPath();
+        EXPECT_EQ(general, QStringLiteral("Tarvel " TARVEL_VERSION ", settings in ") + where);
+        t.app.reset();
+    }
+    qputenv("HOME", home);
 }

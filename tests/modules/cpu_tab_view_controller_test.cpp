@@ -1,6 +1,7 @@
 // The CPU preferences tab: what each control stores and posts, and its live preview.
 #include "collect/info_dict.h"
 #include "cpu_picture_defaults.h"
+#include "desktop_tool_dirs.h"
 #include "modules/cpu/cpu_bar_width.h"
 #include "modules/cpu/cpu_tab_view_controller.h"
 #include "preferences/element_order_list.h"
@@ -39,6 +40,7 @@ struct TabFixture {
     template <class Widget> Widget* find(const char* key) { return tab.findChild<Widget*>(QLatin1String(key)); }
     double previewWidth() { return find<PicturePreview>("CpuPreview")->image().deviceIndependentSize().width(); }
 
+    DesktopToolDirs dirs = DesktopToolDirs::everyTool();
     MemorySettingsStore store;
     PrefNotificationCenter center;
     std::vector<PrefNotification> posts;

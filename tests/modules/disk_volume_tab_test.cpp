@@ -1,4 +1,5 @@
 // The Disk and Volume preference tabs: what each control stores and posts, and the live preview.
+#include "desktop_tool_dirs.h"
 #include "modules/disk/disk_tab_view_controller.h"
 #include "modules/module_registry.h"
 #include "modules/volume/volume_bar_width.h"
@@ -41,6 +42,7 @@ template <class Tab> struct TabFixture {
         return names;
     }
 
+    DesktopToolDirs dirs = DesktopToolDirs::everyTool();
     MemorySettingsStore store;
     PrefNotificationCenter center;
     std::vector<PrefNotification> posts;

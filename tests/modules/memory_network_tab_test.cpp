@@ -1,5 +1,6 @@
 // The Memory and Network preferences tabs: what each control stores and posts, and the preview.
 #include "collect/info_dict.h"
+#include "desktop_tool_dirs.h"
 #include "memory_network_defaults.h"
 #include "modules/memory/memory_bar_width.h"
 #include "modules/memory/memory_tab_view_controller.h"
@@ -42,6 +43,7 @@ template <class Tab> struct TabFixture {
         return find<PicturePreview>(name)->image().deviceIndependentSize().width();
     }
 
+    DesktopToolDirs dirs = DesktopToolDirs::everyTool();
     MemorySettingsStore store;
     PrefNotificationCenter center;
     std::vector<PrefNotification> posts;

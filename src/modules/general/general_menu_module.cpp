@@ -2,11 +2,13 @@
 #include "modules/general/general_menu_module.h"
 
 #include "prefs/pref_keys.h"
+#include "prefs/settings_store.h"
 #include "prefs/theme_files.h"
 #include "toolkit/localization.h"
 
 #include <QCoreApplication>
 #include <QDesktopServices>
+#include <QDir>
 #include <QIcon>
 #include <QMenu>
 #include <QUrl>
@@ -48,7 +50,26 @@ void General_MenuModule::refreshBar()
     if (!image.isNull() && picture.size.width() > 0)
         image.setDevicePixelRatio(image.width() / picture.size.width());
     showImage(image);
-    statusItem->setText(myDefaults.stringValue(PrefKey::PrefName));
+    statusItem->setText(itemText());
+}
+
+QString General_MenuModule::itemText() const
+{
+    QString text = myDefaults.stringValue(PrefKey::PrefName);
+    if (myDelegate == nullptr)
+        return text;
+    const SettingsStore& store = myDelegate->settingsStore();
+    // Written at every launch before any item exists, so it is this run's version.
+    const QString version = store.stringForKey(PrefKey::AppVersion);
+    if (!version.isEmpty())
+        text += u' ' + version;
+    QString where = store.location();
+    if (where.isEmpty())
+        return text;
+    const QString home = QDir::homePath() + u'/';
+    if (where.startsWith(home))
+        where = QStringLiteral("~/") + where.mid(home.size());
+    return localized("%1, settings in %2").arg(text, where);
 }
 
 void General_MenuModule::checkUpdate()

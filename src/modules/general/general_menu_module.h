@@ -14,6 +14,9 @@ protected:
     void drawBaseStatusBar() override;
 
 private:
+    // The name with the running version and where the settings are kept: where no picture
+    // shows (the text view, tooltips) that is the useful part.
+    QString itemText() const;
     void checkUpdate();
     void visitWebSite();
     // The file manager at the folder of the settings and the theme files.

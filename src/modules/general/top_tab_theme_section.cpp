@@ -99,10 +99,21 @@ void TopTabThemeSection::rebuildThemeMenus()
                          file);
         themes_->setItemData(themes_->count() - 1, file, Qt::ToolTipRole);
         if (current)
-            detail_->setText(TvlClasses::retThemeDetailText(entry));
+            themeEntry_ = entry;
     }
     themes_->setCurrentIndex(0);
     filling_ = false;
+    showDetail();
+}
+
+void TopTabThemeSection::showDetail()
+{
+    if (themeEntry_.isEmpty())
+        return;
+    QString text = TvlClasses::retThemeDetailText(themeEntry_);
+    if (!fontInUse_.isEmpty())
+        text += u'\n' + localized("Font: %1").arg(fontInUse_);
+    detail_->setText(text);
 }
 
 void TopTabThemeSection::themeChosen(int index)
@@ -125,6 +136,8 @@ void TopTabThemeSection::rebuildFontMenus(const QVariantMap& theme)
     adjust_->setValue(theme.value(QLatin1String(PrefKey::_FontAdjust)).toInt());
     sizeDiff_->setValue(theme.value(QLatin1String(PrefKey::_FontSizeDiff)).toInt());
     filling_ = false;
+    fontInUse_ = family + u' ' + theme.value(QLatin1String(PrefKey::_FontStyle)).toString();
+    showDetail();
 }
 
 void TopTabThemeSection::fillStyles(const QString& family, const QString& selected)
@@ -148,6 +161,9 @@ void TopTabThemeSection::fontChosen()
     info.insert(QLatin1String(PrefKey::_FontName), family);
     info.insert(QLatin1String(PrefKey::_FontStyle), style);
     info.insert(QLatin1String(PrefKey::_FontPostScriptName), TvlClasses::retPostScriptName(family, style));
+    // Shown before the application writes the theme and hands it back.
+    fontInUse_ = family + u' ' + style;
+    showDetail();
     Q_EMIT changeRequested(info);
 }
 

@@ -24,6 +24,7 @@ public:
     QComboBox* themeMenu() const { return themes_; }
     QComboBox* fontFamilyMenu() const { return families_; }
     QComboBox* fontStyleMenu() const { return styles_; }
+    QLabel* detailLabel() const { return detail_; }
 
 Q_SIGNALS:
     void changeRequested(const QVariantMap& userInfo);
@@ -34,6 +35,8 @@ private:
     void fillStyles(const QString& family, const QString& selected);
     void fontChosen();
     void numberChosen(const char* key, int value);
+    // The current theme's detail with the font in use, which the theme's own credit may not name.
+    void showDetail();
 
     QComboBox* themes_;
     QLabel* detail_;
@@ -42,5 +45,7 @@ private:
     QComboBox* styles_;
     QSpinBox* adjust_;
     QSpinBox* sizeDiff_;
+    QVariantMap themeEntry_; // the current theme as the theme list describes it
+    QString fontInUse_;      // family and style
     bool filling_ = false;
 };

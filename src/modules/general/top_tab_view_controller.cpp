@@ -21,7 +21,6 @@
 #include <QMessageBox>
 #include <QPainter>
 #include <QPointer>
-#include <QScrollArea>
 #include <QSpinBox>
 #include <QVBoxLayout>
 
@@ -53,8 +52,8 @@ TopTabViewController::TopTabViewController(MenuModuleDelegate* delegate, Setting
     , theme_(new TopTabThemeSection())
     , colors_(new TopTabColorSection())
 {
-    auto* content = new QWidget();
-    auto* layout = new QVBoxLayout(content);
+    // The window scrolls the page, so the page holds its sections directly.
+    auto* layout = new QVBoxLayout(this);
     auto* modulesBox = new QWidget();
     auto* modulesLayout = new QVBoxLayout(modulesBox);
     modulesLayout->setContentsMargins(0, 0, 0, 0);
@@ -71,20 +70,12 @@ TopTabViewController::TopTabViewController(MenuModuleDelegate* delegate, Setting
     modulesLayout->addWidget(appIcon_);
     modulesLayout->addWidget(barPreviewOn_);
     modulesLayout->addWidget(barPreview_);
-    layout->addWidget(group(localized("Modules"), modulesBox, content));
-    layout->addWidget(group(localized("Theme"), theme_, content));
-    layout->addWidget(group(localized("Colors"), colors_, content));
-    layout->addWidget(group(localized("General"), buildOptions(), content));
-    layout->addWidget(group(localized("Dynamic DNS"), buildDdns(), content));
+    layout->addWidget(group(localized("Modules"), modulesBox, this));
+    layout->addWidget(group(localized("Theme"), theme_, this));
+    layout->addWidget(group(localized("Colors"), colors_, this));
+    layout->addWidget(group(localized("General"), buildOptions(), this));
+    layout->addWidget(group(localized("Dynamic DNS"), buildDdns(), this));
     layout->addStretch(1);
-
-    auto* scroll = new QScrollArea(this);
-    scroll->setWidgetResizable(true);
-    scroll->setFrameShape(QFrame::NoFrame);
-    scroll->setWidget(content);
-    auto* outer = new QVBoxLayout(this);
-    outer->setContentsMargins(0, 0, 0, 0);
-    outer->addWidget(scroll);
 
     connect(modules_, &ElementOrderList::entrySwitched, this, &TopTabViewController::moduleSwitched);
     connect(modules_, &ElementOrderList::orderChanged, this, &TopTabViewController::orderChanged);

@@ -2,6 +2,7 @@
 // menu reads the hosts again when it next opens.
 #include "modules/vnc/vnc_tab_view_controller.h"
 
+#include "modules/desktop_tool_switch.h"
 #include "modules/menu_module.h"
 #include "modules/module_registry.h"
 #include "modules/vnc/vnc_host_table.h"
@@ -93,9 +94,8 @@ QWidget* VNCTabViewController::buildSwitches()
     addSwitch(box, Vnc_AddMenuOpenAll, "Add \"Open All of Servers at Once\" to the menu");
     // The tool items are built with the menu, so it is rebuilt at its next opening.
     const QVariantMap refreshItems{{QLatin1String(NotifKey::ModuleItemRefreshNow), true}};
-    addSwitch(box, Vnc_EnaMenu_Amon, "Open Activity Monitor", refreshItems);
-    addSwitch(box, Vnc_EnaMenu_Cnsl, "Open Console", refreshItems);
-    addSwitch(box, Vnc_EnaMenu_Tmnl, "Open Terminal", refreshItems);
+    DesktopToolSwitch::addRows(box->layout(), {Vnc_EnaMenu_Amon, Vnc_EnaMenu_Cnsl, Vnc_EnaMenu_Tmnl},
+                               [this, &refreshItems](const char* key) { return makeSwitch(key, {}, refreshItems); });
     return box;
 }
 
@@ -108,11 +108,15 @@ QPushButton* VNCTabViewController::addButton(const char* objectName, const char*
     return button;
 }
 
-void VNCTabViewController::addSwitch(QWidget* box, const char* key, const char* text, const QVariantMap& userInfo)
+void VNCTabViewController::addSwitch(QWidget* box, const char* key, const char* text)
 {
-    auto* check = new QCheckBox(localized(text), box);
+    box->layout()->addWidget(makeSwitch(key, localized(text), {}));
+}
+
+QCheckBox* VNCTabViewController::makeSwitch(const char* key, const QString& text, const QVariantMap& userInfo)
+{
+    auto* check = new QCheckBox(text);
     check->setObjectName(QLatin1String(key));
-    box->layout()->addWidget(check);
     switches_.emplace_back(key, check);
     connect(check, &QCheckBox::toggled, this, [this, key, userInfo](bool on) {
         if (loading())
@@ -120,6 +124,7 @@ void VNCTabViewController::addSwitch(QWidget* box, const char* key, const char* 
         store().setBool(QLatin1String(key), on);
         commit(userInfo);
     });
+    return check;
 }
 
 void VNCTabViewController::loadViews()

@@ -46,7 +46,9 @@ private:
     QWidget* buildHosts();
     QWidget* buildSwitches();
     QPushButton* addButton(const char* objectName, const char* text, void (VNCTabViewController::*action)());
-    void addSwitch(QWidget* box, const char* key, const char* text, const QVariantMap& userInfo = {});
+    void addSwitch(QWidget* box, const char* key, const char* text);
+    // A switch that stores its key, not yet laid out.
+    QCheckBox* makeSwitch(const char* key, const QString& text, const QVariantMap& userInfo);
 
     void addHost();
     void deleteHost();
