@@ -470,5 +470,41 @@ new ver : %@</source>
         <source>The colour theme %1 is not a regular file; the light theme is used and nothing is saved there.</source>
         <translation>カラーテーマ %1 は通常のファイルではありません。ライトテーマを使い、そこには何も保存しません。</translation>
     </message>
+    <message>
+        <source>Open %1</source>
+        <translation>%1 を開く</translation>
+    </message>
+    <message>
+        <source>Open System Monitor</source>
+        <translation>システムモニタを開く</translation>
+    </message>
+    <message>
+        <source>Open Log Viewer</source>
+        <translation>ログビューアを開く</translation>
+    </message>
+    <message>
+        <source>Open Terminal</source>
+        <translation>ターミナルを開く</translation>
+    </message>
+    <message>
+        <source>Open Activity Monitor</source>
+        <translation>アクティビティモニタを開く</translation>
+    </message>
+    <message>
+        <source>Open Console</source>
+        <translation>コンソールを開く</translation>
+    </message>
+    <message>
+        <source>Not installed</source>
+        <translation>インストールされていません</translation>
+    </message>
+    <message>
+        <source>Font: %1</source>
+        <translation>フォント: %1</translation>
+    </message>
+    <message>
+        <source>%1, settings in %2</source>
+        <translation>%1、設定ファイル: %2</translation>
+    </message>
 </context>
 </TS>
