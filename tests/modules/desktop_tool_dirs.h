@@ -11,11 +11,14 @@ class DesktopToolDirs {
 public:
     // home stands for the user's own folder; dirs for the system's, in order of precedence.
     // Names are folders of fixtures/desktop-tools; an empty home names no folder at all.
-    DesktopToolDirs(const QString& home, const QStringList& dirs)
+    // keepHome leaves the user's folder where the test put it, for the themes it may hold.
+    DesktopToolDirs(const QString& home, const QStringList& dirs, bool keepHome = false)
         : home_(qgetenv("XDG_DATA_HOME"))
         , dirs_(qgetenv("XDG_DATA_DIRS"))
     {
         set(home, dirs);
+        if (keepHome)
+            qputenv("XDG_DATA_HOME", home_);
     }
     ~DesktopToolDirs()
     {
@@ -25,7 +28,7 @@ public:
     // A desktop with a system monitor, a log viewer and a terminal: every tool switch can be clicked.
     static DesktopToolDirs everyTool()
     {
-        return DesktopToolDirs({}, {QStringLiteral("log-viewer"), QStringLiteral("monitor-terminal")});
+        return DesktopToolDirs({}, {QStringLiteral("log-viewer"), QStringLiteral("monitor-terminal")}, true);
     }
     DesktopToolDirs(const DesktopToolDirs&) = delete;
     DesktopToolDirs& operator=(const DesktopToolDirs&) = delete;
