@@ -18,7 +18,7 @@ struct MountRecord {
 
 // The size of a mounted file system.
 struct FileSystemSpace {
-    std::uint64_t totalBytes = 0;
+    std::uint64_t totalBytes = 0;     // what is used plus what is available, as df shares them
     std::uint64_t availableBytes = 0; // what an ordinary user may still write
 };
 

@@ -3,6 +3,7 @@
 
 #include "collect/collect_log.h"
 
+#include <algorithm>
 #include <cerrno>
 #include <libmount/libmount.h>
 #include <memory>
@@ -88,6 +89,12 @@ std::optional<FileSystemSpace> LinuxMountSource::space(const std::string& mountP
     const struct statvfs& info = *answer;
     // Sizes count in fragments; a file system that leaves the fragment size out means blocks.
     const std::uint64_t unit = info.f_frsize != 0 ? info.f_frsize : info.f_bsize;
-    return FileSystemSpace{static_cast<std::uint64_t>(info.f_blocks) * unit,
-                           static_cast<std::uint64_t>(info.f_bavail) * unit};
+    // Blocks kept back for root are neither used nor free to the user: as df counts, used is what
+    // is taken and the size is used plus available, so that used = size - free still holds and the
+    // share shown is df's.
+    const std::uint64_t blocks = info.f_blocks;
+    const std::uint64_t available = std::min<std::uint64_t>(info.f_bavail, blocks);
+    const std::uint64_t used =
+        blocks - std::min<std::uint64_t>(std::max<std::uint64_t>(info.f_bfree, available), blocks);
+    return FileSystemSpace{(used + available) * unit, available * unit};
 }
