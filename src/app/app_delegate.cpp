@@ -270,7 +270,7 @@ void AppDelegate::checkDrawMenu()
             moduleRelease(*id);
     }
     // Shown once at start; later rebuilds only bring an open window to the front again.
-    if (chkGeneBool(PrefKey::DisplayTopWindowAtStartup) && statusBar_ != nullptr &&
+    if (chkGeneBool(PrefKey::DisplayTopWindowAtStartup) && statusBar_ != nullptr && startupWindowAllowed_ &&
         (!startupWindowShown_ || (preferencePanel_ != nullptr && preferencePanel_->isVisible()))) {
         startupWindowShown_ = true;
         QTimer::singleShot(kStartupWindowDelayMs, this,

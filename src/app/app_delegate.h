@@ -43,6 +43,8 @@ public:
     void setStatusBar(StatusBar* bar);
     // Whether a preferences window can be shown (not where only text lines are).
     void setPreferencesAvailable(bool available) { preferencesAvailable_ = available; }
+    // Commands that draw and leave never show the window "Display preferences at startup" asks for.
+    void setStartupWindowAllowed(bool allowed) { startupWindowAllowed_ = allowed; }
     // Device pixels per point of the modules' pictures; 0 follows the screen.
     void setPictureScale(qreal scale) { pictureScale_ = scale; }
 
@@ -203,6 +205,7 @@ private:
     bool prefRetryScheduled_ = false;
     bool startupWindowShown_ = false;
     bool preferencesAvailable_ = true;
+    bool startupWindowAllowed_ = true;
     std::function<void()> rebootAction_;
     PrefNotificationCenter* prefCenter_;
     // Last member: destroyed first, so a running cycle ends before the collector goes away.

@@ -66,6 +66,7 @@ int runRender(const AppOptions& options, int argc, char** argv)
     AppDelegate delegate(openSettingsStore(options), makeSourceSet(options.root.toStdString()));
     delegate.setStatusBar(&bar);
     delegate.setPictureScale(options.scale);
+    delegate.setStartupWindowAllowed(false);
     int finished = 0;
     int status = 0;
     QObject::connect(&delegate, &AppDelegate::cycleFinished, &app, [&] {
