@@ -5,6 +5,7 @@
 #include "collect/source_set.h"
 #include "prefs/plist_settings_store.h"
 #include "toolkit/localization.h"
+#include "toolkit/string_helpers.h"
 
 #include <QGuiApplication>
 #include <QTextStream>
@@ -39,7 +40,7 @@ int runSnapshot(const AppOptions& options, int argc, char** argv)
         if (options.json)
             out << report.json(delegate);
         else
-            out << report.text(delegate);
+            out << TvlClasses::escapedForTerminal(report.text(delegate));
         out.flush();
         QCoreApplication::quit();
     });

@@ -63,4 +63,19 @@ QString TvlRemoveNRTZ(const QString& text)
     return cleaned;
 }
 
+QString escapedForTerminal(const QString& text)
+{
+    QString out;
+    out.reserve(text.size());
+    for (const QChar c : text) {
+        const char16_t u = c.unicode();
+        const bool control = (u < 0x20 && u != u'\n') || (u >= 0x7f && u <= 0x9f);
+        if (control)
+            out += QStringLiteral("\\x%1").arg(static_cast<int>(u), 2, 16, QLatin1Char('0'));
+        else
+            out += c;
+    }
+    return out;
+}
+
 } // namespace TvlClasses

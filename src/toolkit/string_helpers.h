@@ -19,4 +19,8 @@ QString tvlCollectString(const QString& text);
 // text without line feeds, carriage returns, tabs and NUL characters.
 QString TvlRemoveNRTZ(const QString& text);
 
+// text for a terminal: every control character but the line feed written as "\xNN", so that a
+// volume or mount point named with escape sequences or a bell is shown, not obeyed.
+QString escapedForTerminal(const QString& text);
+
 } // namespace TvlClasses

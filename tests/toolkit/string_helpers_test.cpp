@@ -32,3 +32,10 @@ TEST(TvlRemoveNRTZ, DropsLineBreaksTabsAndNul)
     EXPECT_TRUE(TvlRemoveNRTZ(QString()).isEmpty());
     EXPECT_TRUE(TvlRemoveNRTZ(QStringLiteral("\n\n")).isEmpty());
 }
+
+TEST(EscapedForTerminal, ControlCharactersAreShownNotObeyed)
+{
+    const QString hostile = QStringLiteral("vol\x1b[2Jume") + QChar(u'\a') + QChar(u'\x9b') + QStringLiteral("\nnext");
+    EXPECT_EQ(TvlClasses::escapedForTerminal(hostile), QStringLiteral("vol\\x1b[2Jume\\x07\\x9b\nnext"));
+    EXPECT_EQ(TvlClasses::escapedForTerminal(QStringLiteral("Macintosh HD é")), QStringLiteral("Macintosh HD é"));
+}

@@ -3,6 +3,7 @@
 
 #include "app/front_ends/terminal_status_item.h"
 #include "toolkit/localization.h"
+#include "toolkit/string_helpers.h"
 
 #include <QFile>
 #include <QTime>
@@ -102,14 +103,14 @@ QStringList TerminalStatusBar::renderLines()
     for (const auto& weak : lines_) {
         const auto line = weak.lock();
         // A multi-line text would break the count of lines to move back over.
-        QString text = line->text.simplified();
+        QString text = TvlClasses::escapedForTerminal(line->text.simplified());
         // A module shows its line once it has something to say, not as an empty label.
         if (text.isEmpty())
             continue;
         rendered.append(line->moduleKey.leftJustified(keyWidth) + QStringLiteral("  ") + text);
     }
     if (!message_.isEmpty())
-        rendered.append(QStringLiteral("* ") + message_.simplified());
+        rendered.append(QStringLiteral("* ") + TvlClasses::escapedForTerminal(message_.simplified()));
     return rendered;
 }
 
