@@ -1,6 +1,7 @@
-// Display controllers from the PCI bus through libpci, which knows the PCI ID database.
+// Display controllers from the PCI devices in sysfs, named through libpci's PCI ID database.
 #include "collect/load_system_information.h"
 
+#include "collect/collect_log.h"
 #include "collect/linux/sys_root.h"
 #include "collect/linux/sysfs_attribute.h"
 
@@ -8,7 +9,9 @@ extern "C" {
 #include <pci/pci.h>
 }
 
-#include <cstdio>
+#include <algorithm>
+#include <cerrno>
+#include <cstdlib>
 #include <filesystem>
 #include <string>
 #include <system_error>
@@ -16,27 +19,38 @@ extern "C" {
 namespace {
 constexpr unsigned kDisplayClass = 0x03;
 
-// libpci reports failures through a handler that must not return; unwinding back to the
-// caller is the only way to keep the monitor running when the bus cannot be read.
-struct PciFailure {};
-
-[[noreturn]] void pciFailed(char*, ...)
-{
-    throw PciFailure{};
-}
-
 void pciQuiet(char*, ...) {}
 
-QString deviceName(pci_access* access, const pci_dev* device)
+// libpci's fatal handler may not return, and an exception must not unwind through C (it leaks
+// what libpci holds open). The bus is read here from sysfs, so libpci only looks names up, which
+// never reports a fatal error; should one come anyway, it is told and the lookup goes on.
+void pciFailed(char* format, ...)
 {
-    char buffer[256];
-    if (const char* name = pci_lookup_name(access, buffer, sizeof buffer,
-                                           PCI_LOOKUP_VENDOR | PCI_LOOKUP_DEVICE | PCI_LOOKUP_NO_NUMBERS,
-                                           device->vendor_id, device->device_id))
+    qCWarning(lcCollect) << "libpci:" << format;
+}
+
+QString deviceName(pci_access* access, int vendor, int device)
+{
+    char buffer[512];
+    if (const char* name =
+            pci_lookup_name(access, buffer, sizeof buffer,
+                            PCI_LOOKUP_VENDOR | PCI_LOOKUP_DEVICE | PCI_LOOKUP_NO_NUMBERS, vendor, device))
         return QString::fromUtf8(name);
-    return QStringLiteral("%1:%2")
-        .arg(device->vendor_id, 4, 16, QLatin1Char('0'))
-        .arg(device->device_id, 4, 16, QLatin1Char('0'));
+    return QStringLiteral("%1:%2").arg(vendor, 4, 16, QLatin1Char('0')).arg(device, 4, 16, QLatin1Char('0'));
+}
+
+// A sysfs attribute holding a hexadecimal number such as "0x030000".
+std::optional<unsigned long> readHex(const std::filesystem::path& path)
+{
+    const std::optional<std::string> text = readAttributeText(path);
+    if (!text)
+        return std::nullopt;
+    char* end = nullptr;
+    errno = 0;
+    const unsigned long value = std::strtoul(text->c_str(), &end, 16);
+    if (errno != 0 || end == text->c_str())
+        return std::nullopt;
+    return value;
 }
 
 // amdgpu publishes its video memory in the device folder; other drivers keep it to themselves.
@@ -60,19 +74,24 @@ void readVideoMemory(const std::filesystem::path& folder, GpuRecord& record)
 
 std::vector<GpuRecord> scanDisplayDevices(pci_access* access, const std::filesystem::path& devices)
 {
+    std::vector<std::filesystem::path> folders;
+    std::error_code error;
+    for (const auto& entry : std::filesystem::directory_iterator(devices, error))
+        folders.push_back(entry.path());
+    std::sort(folders.begin(), folders.end());
     std::vector<GpuRecord> records;
-    pci_scan_bus(access);
-    for (pci_dev* device = access->devices; device != nullptr; device = device->next) {
-        pci_fill_info(device, PCI_FILL_IDENT | PCI_FILL_CLASS);
-        if ((device->device_class >> 8) != kDisplayClass)
+    for (const std::filesystem::path& folder : folders) {
+        // A device whose identity cannot be read is left out, not guessed.
+        const auto deviceClass = readHex(folder / "class");
+        const auto vendor = readHex(folder / "vendor");
+        const auto device = readHex(folder / "device");
+        if (!deviceClass || !vendor || !device || (*deviceClass >> 16) != kDisplayClass)
             continue;
         GpuRecord record;
         record.gpuName = QStringLiteral("Unknown Device");
-        if (device->vendor_id != 0xffff)
-            record.gpuName = deviceName(access, device);
-        char slot[32];
-        std::snprintf(slot, sizeof slot, "%04x:%02x:%02x.%d", device->domain, device->bus, device->dev, device->func);
-        readVideoMemory(devices / slot, record);
+        if (*vendor != 0xffff)
+            record.gpuName = deviceName(access, static_cast<int>(*vendor & 0xffff), static_cast<int>(*device & 0xffff));
+        readVideoMemory(folder, record);
         records.push_back(std::move(record));
     }
     return records;
@@ -92,18 +111,7 @@ std::optional<std::vector<GpuRecord>> LoadSystemInformation::getGpuNames(const s
     access->error = pciFailed;
     access->warning = pciQuiet;
     access->debug = pciQuiet;
-    // Only the sysfs method reads below a chosen folder, which keeps captured trees usable.
-    access->method = PCI_ACCESS_SYS_BUS_PCI;
-    std::string param = "sysfs.path";
-    std::string path = bus.string();
-    std::optional<std::vector<GpuRecord>> result;
-    try {
-        pci_set_param(access, param.data(), path.data());
-        pci_init(access);
-        result = scanDisplayDevices(access, bus / "devices");
-    } catch (const PciFailure&) {
-        result.reset();
-    }
+    std::vector<GpuRecord> result = scanDisplayDevices(access, bus / "devices");
     pci_cleanup(access);
     return result;
 }
