@@ -47,6 +47,8 @@ void TestApp::launchOn(StatusBar* bar, bool threaded)
     auto source = std::make_unique<ScriptedCpuSource>(script);
     cpu = source.get();
     sources.cpu = std::move(source);
+    if (adjustSources)
+        adjustSources(sources);
     app = std::make_unique<AppDelegate>(std::make_unique<PlistSettingsStore>(settingsPath()), std::move(sources));
     app->setStatusBar(bar);
     if (!threaded) {

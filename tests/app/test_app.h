@@ -63,6 +63,8 @@ struct TestApp {
 
     // The tree the other sources read below; none reads nothing but the scripted processor.
     std::filesystem::path root;
+    // Puts scripted sources in place of the tree's before the launch.
+    std::function<void(SourceSet&)> adjustSources;
     QTemporaryDir dir;
     std::shared_ptr<std::deque<std::vector<ProcessorTicks>>> script;
     ManualExecutor* executor = nullptr;

@@ -71,7 +71,7 @@ ModuleSchema diskSchema()
 
 void sampleDisk(const SampleRequest& request, InfoDict& info)
 {
-    if (auto sample = request.loadInfo.retDiskRW(static_cast<double>(request.interval)))
+    if (auto sample = request.loadInfo.retDiskRW(static_cast<double>(request.seconds)))
         appendSample(request, info, std::move(*sample));
 }
 

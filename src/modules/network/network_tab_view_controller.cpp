@@ -70,6 +70,6 @@ void NetworkTabViewController::redrawPreview()
     ImageNetworkBar bar;
     bar.redrawWithSize(QSizeF(networkBarWidth(settings), height),
                        TvlClasses::retStatusMenuInsets(networkShownElementCount(settings)), false, true, settings,
-                       history, currentNetworkRates(history, history.back().interval));
+                       history, currentNetworkRates(history));
     showPreview(bar.image(devicePixelRatioF() * PicturePreview::zoom()));
 }
