@@ -36,6 +36,10 @@ public:
     // first call and when the ticks cannot be read (the previous ticks are then kept).
     CpuSample loadCpuData();
 
+    // How many processors the newest tick reading counted, read afresh before the first: the
+    // machine's own count, or the tree's under another root. Empty when the ticks are unreadable.
+    std::optional<std::size_t> processorCount();
+
     // What the CPU menu's detail lines show, as of now; each figure empty when unreadable.
     CpuOptionFigures cpuOptionFigures() const;
 

@@ -25,6 +25,11 @@ public:
         : script_(std::move(script))
     {}
     std::optional<std::vector<ProcessorTicks>> readProcessorTicks() override;
+    // Answered from the next reading without taking it.
+    std::optional<std::size_t> processorCount() override
+    {
+        return script_->empty() ? std::nullopt : std::optional(script_->front().size());
+    }
     // The thread of the latest read, to check where the cycle body ran.
     std::atomic<Qt::HANDLE> readThread{nullptr};
     std::optional<std::int64_t> bootTime() override { return 1000; }
