@@ -38,39 +38,54 @@ ProcessCpuSampler::ProcessCpuSampler(long ticksPerSecond, std::uint64_t pageSize
 std::optional<std::vector<ProcessRow>> ProcessCpuSampler::sample(ProcessSource& source, std::string_view column,
                                                                  Clock::time_point now)
 {
+    // An unknown column is turned down before the processes are read.
+    if ((column != "%cpu" && column != "rss") || !source.rescan(scan_))
+        return std::nullopt;
+    return sample(scan_, column, now);
+}
+
+std::optional<std::vector<ProcessRow>> ProcessCpuSampler::sample(const std::vector<ProcessRecord>& scan,
+                                                                 std::string_view column, Clock::time_point now)
+{
     const bool cpu = column == "%cpu";
     if (!cpu && column != "rss")
         return std::nullopt;
-    auto scan = source.scanProcesses();
-    if (!scan)
-        return std::nullopt;
-
     std::vector<ProcessRow> rows;
-    rows.reserve(scan->size());
     if (cpu) {
-        const double elapsedTicks =
-            prevTime_ ? std::chrono::duration<double>(now - *prevTime_).count() * static_cast<double>(ticksPerSecond_)
-                      : 0;
-        std::unordered_map<std::int64_t, std::uint64_t> ticks;
-        ticks.reserve(scan->size());
-        for (ProcessRecord& record : *scan) {
-            double percent = 0;
-            const auto previous = prevTicks_.find(record.pid);
-            if (elapsedTicks > 0 && previous != prevTicks_.end() && record.cpuTicks >= previous->second)
-                percent = roundedPercent(static_cast<double>(record.cpuTicks - previous->second) / elapsedTicks * 100);
-            ticks.emplace(record.pid, record.cpuTicks);
-            rows.push_back({record.pid, std::move(record.command), percent});
-        }
-        // Processes that ended since the last scan fall out here with the old map.
-        prevTicks_ = std::move(ticks);
-        prevTime_ = now;
+        rows = cpuRows(scan, now);
     } else {
-        for (ProcessRecord& record : *scan)
-            rows.push_back(
-                {record.pid, std::move(record.command), static_cast<double>(record.residentPages * pageSize_ / 1024)});
+        rows.reserve(scan.size());
+        for (const ProcessRecord& record : scan)
+            rows.push_back({record.pid, record.command, static_cast<double>(record.residentPages * pageSize_ / 1024)});
     }
     std::sort(rows.begin(), rows.end(), [](const ProcessRow& a, const ProcessRow& b) {
         return a.value != b.value ? a.value > b.value : a.pid < b.pid;
     });
+    return rows;
+}
+
+std::vector<ProcessRow> ProcessCpuSampler::cpuRows(const std::vector<ProcessRecord>& scan, Clock::time_point now)
+{
+    const double elapsedTicks =
+        prevTime_ ? std::chrono::duration<double>(now - *prevTime_).count() * static_cast<double>(ticksPerSecond_) : 0;
+    std::vector<ProcessRow> rows;
+    rows.reserve(scan.size());
+    current_.clear();
+    // Both lists are in pid order: the previous one is walked alongside.
+    auto previous = previous_.cbegin();
+    for (const ProcessRecord& record : scan) {
+        while (previous != previous_.cend() && previous->pid < record.pid)
+            ++previous;
+        double percent = 0;
+        if (elapsedTicks > 0 && previous != previous_.cend() && previous->pid == record.pid &&
+            previous->startTime == record.startTime && record.cpuTicks >= previous->ticks)
+            percent = roundedPercent(static_cast<double>(record.cpuTicks - previous->ticks) / elapsedTicks * 100);
+        current_.push_back({record.pid, record.startTime, record.cpuTicks});
+        // Kernel command names fit a short string's own storage: no allocation per row.
+        rows.push_back({record.pid, record.command, percent});
+    }
+    // Processes that ended since the last scan fall out here with the old list.
+    previous_.swap(current_);
+    prevTime_ = now;
     return rows;
 }

@@ -8,6 +8,7 @@ namespace {
 constexpr int kUtime = 11;
 constexpr int kStime = 12;
 constexpr int kThreads = 17;
+constexpr int kStartTime = 19;
 constexpr int kRss = 21;
 } // namespace
 
@@ -27,7 +28,7 @@ Parsed<ProcessRecord> parseProcessStat(std::string_view text)
     record.command = std::string(text.substr(open + 1, close - open - 1));
 
     std::string_view rest = text.substr(close + 1);
-    std::optional<std::uint64_t> utime, stime, rss;
+    std::optional<std::uint64_t> utime, stime, startTime, rss;
     std::optional<std::int64_t> threads;
     for (int index = 0; index <= kRss; ++index) {
         const std::string_view field = trimSpace(takeField(rest));
@@ -43,6 +44,9 @@ Parsed<ProcessRecord> parseProcessStat(std::string_view text)
         case kThreads:
             threads = parseNumber<std::int64_t>(field);
             break;
+        case kStartTime:
+            startTime = parseNumber<std::uint64_t>(field);
+            break;
         case kRss: {
             // rss is signed in the kernel's accounting; a negative value reads as none resident.
             const auto pages = parseNumber<std::int64_t>(field);
@@ -54,10 +58,11 @@ Parsed<ProcessRecord> parseProcessStat(std::string_view text)
             break;
         }
     }
-    if (!utime || !stime || !threads || !rss)
+    if (!utime || !stime || !threads || !startTime || !rss)
         return reject("times, thread count or resident set size not a number");
     record.cpuTicks = *utime + *stime;
     record.threads = *threads;
+    record.startTime = *startTime;
     record.residentPages = *rss;
     return record;
 }
