@@ -19,7 +19,7 @@ CycleInput everyModuleDue()
     CycleInput input;
     for (std::size_t i = 0; i < moduleRegistry().size(); ++i)
         input.due[i] = moduleRegistry()[i]->sample != nullptr;
-    input.intervals.fill(1);
+    input.seconds.fill(1);
     return input;
 }
 

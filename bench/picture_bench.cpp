@@ -114,7 +114,7 @@ void measureNetwork(const char* label, const ModuleDefaults& defaults, const His
     const QSizeF size(networkBarWidth(d), height);
     ImageNetworkBar bar;
     bar.redrawWithSize(size, TvlClasses::retStatusMenuInsets(networkShownElementCount(d)), false, true, d, history,
-                       currentNetworkRates(history, 2.0));
+                       currentNetworkRates(history));
     time(label, size, pictures, [&bar] { return bar.image(kScale); });
 }
 

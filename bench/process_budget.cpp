@@ -1,4 +1,6 @@
-// Runs the monitor for a while and prints its processor time per second and its memory.
+// Runs the monitor's bar window beside the least a bar window can cost (tarvel_bar_floor) on one
+// virtual screen, reads both once a second, and prints the processor time and memory of each,
+// the monitor's share over the floor, and how their memory grows.
 #include "modules/module_registry.h"
 #include "prefs/module_id.h"
 #include "prefs/plist_settings_store.h"
@@ -7,14 +9,49 @@
 
 #include <QCoreApplication>
 #include <QDir>
+#include <QElapsedTimer>
 #include <QFile>
+#include <QFileInfo>
 #include <QProcess>
 #include <QTemporaryDir>
 #include <QThread>
 
 #include <cstdio>
+#include <optional>
+#include <vector>
 
 namespace {
+
+constexpr int kWarmUpSeconds = 5;
+
+struct Options {
+    QString tarvel;
+    int seconds = 90;
+    QString display; // empty: the first free one from :90 on
+    QStringList tarvelArguments;
+};
+
+std::optional<Options> parseOptions(const QStringList& args)
+{
+    Options options;
+    for (int i = 1; i < args.size(); ++i) {
+        const QString& arg = args.at(i);
+        if (arg == QLatin1String("--seconds") && i + 1 < args.size())
+            options.seconds = std::max(4, args.at(++i).toInt());
+        else if (arg == QLatin1String("--display") && i + 1 < args.size())
+            options.display = args.at(++i);
+        else if (arg == QLatin1String("--")) {
+            options.tarvelArguments = args.mid(i + 1);
+            break;
+        } else if (options.tarvel.isEmpty() && !arg.startsWith(QLatin1Char('-')))
+            options.tarvel = arg;
+        else
+            return std::nullopt;
+    }
+    if (options.tarvel.isEmpty())
+        return std::nullopt;
+    return options;
+}
 
 // Run time in nanoseconds of every thread of the process, from the scheduler's own account.
 qint64 runTimeNs(qint64 pid)
@@ -29,7 +66,7 @@ qint64 runTimeNs(qint64 pid)
     return total;
 }
 
-// A field of smaps_rollup in KiB.
+// A field of smaps_rollup in KiB; -1 when the process is gone.
 qint64 memoryKiB(qint64 pid, const QByteArray& field)
 {
     QFile file(QStringLiteral("/proc/%1/smaps_rollup").arg(pid));
@@ -42,11 +79,17 @@ qint64 memoryKiB(qint64 pid, const QByteArray& field)
     return -1;
 }
 
-// The process's own memory: anonymous pages (heap, stacks, pictures). Library pages count as
-// "private" in the kernel's sense whenever no other process maps them, so they are left out.
-qint64 privateKiB(qint64 pid)
+struct Reading {
+    qint64 runNs = 0;
+    qint64 residentKiB = 0;
+    // The process's own memory: anonymous pages (heap, stacks, pictures). Library pages count as
+    // "private" in the kernel's sense whenever no other process maps them, so they are left out.
+    qint64 privateKiB = 0;
+};
+
+Reading readProcess(qint64 pid)
 {
-    return memoryKiB(pid, "Anonymous");
+    return {runTimeNs(pid), memoryKiB(pid, "Rss"), memoryKiB(pid, "Anonymous")};
 }
 
 // First-run settings with the budget's conditions: every module that samples does so every
@@ -65,53 +108,146 @@ void writeBudgetSettings(const QString& path)
     store.synchronize();
 }
 
+QString freeDisplay()
+{
+    for (int n = 90; n < 200; ++n) {
+        if (!QFileInfo::exists(QStringLiteral("/tmp/.X11-unix/X%1").arg(n)) &&
+            !QFileInfo::exists(QStringLiteral("/tmp/.X%1-lock").arg(n)))
+            return QStringLiteral(":%1").arg(n);
+    }
+    return {};
+}
+
+// Starts the virtual screen and waits for its socket; false when it does not come up.
+bool startScreen(QProcess& xvfb, const QString& display)
+{
+    xvfb.start(QStringLiteral("Xvfb"),
+               {display, QStringLiteral("-screen"), QStringLiteral("0"), QStringLiteral("1280x800x24"),
+                QStringLiteral("-nolisten"), QStringLiteral("tcp")});
+    if (!xvfb.waitForStarted())
+        return false;
+    const QString socket = QStringLiteral("/tmp/.X11-unix/X") + display.mid(1);
+    for (int wait = 0; wait < 100 && !QFileInfo::exists(socket); ++wait)
+        QThread::msleep(100);
+    return QFileInfo::exists(socket) && xvfb.state() == QProcess::Running;
+}
+
+// One measured program and its readings, one a second.
+struct Run {
+    explicit Run(const char* name)
+        : label(name)
+    {}
+    const char* label;
+    QProcess process;
+    std::vector<Reading> readings;
+};
+
+void printRow(const char* label, double processor, const std::vector<Reading>& r)
+{
+    const Reading& first = r.front();
+    const Reading& middle = r[r.size() / 2];
+    const Reading& last = r.back();
+    std::printf("%-14s %9.3f %9.1f %+9lld %+9lld %9.1f %+9lld %+9lld\n", label, processor,
+                static_cast<double>(last.residentKiB) / 1024,
+                static_cast<long long>(last.residentKiB - first.residentKiB),
+                static_cast<long long>(last.residentKiB - middle.residentKiB),
+                static_cast<double>(last.privateKiB) / 1024, static_cast<long long>(last.privateKiB - first.privateKiB),
+                static_cast<long long>(last.privateKiB - middle.privateKiB));
+}
+
+void printReport(const Run& floor, const Run& tarvel, int seconds, const QString& display)
+{
+    const auto processor = [seconds](const Run& run) {
+        return static_cast<double>(run.readings.back().runNs - run.readings.front().runNs) / 1e6 / seconds;
+    };
+    const auto ratio = [](double a, double b) { return b > 0 ? a / b : 0.0; };
+    std::printf("%d s on %s, read once a second after %d s of warm-up; every module samples every second\n", seconds,
+                qPrintable(display), kWarmUpSeconds);
+    std::printf("%-14s %9s %9s %9s %9s %9s %9s %9s\n", "", "cpu ms/s", "rss MiB", "rss run", "rss half", "priv MiB",
+                "priv run", "priv half");
+    printRow(floor.label, processor(floor), floor.readings);
+    printRow(tarvel.label, processor(tarvel), tarvel.readings);
+    std::printf("%-14s %9.2f %9.2f %9s %9s %9.2f\n", "tarvel/floor", ratio(processor(tarvel), processor(floor)),
+                ratio(static_cast<double>(tarvel.readings.back().residentKiB),
+                      static_cast<double>(floor.readings.back().residentKiB)),
+                "", "",
+                ratio(static_cast<double>(tarvel.readings.back().privateKiB),
+                      static_cast<double>(floor.readings.back().privateKiB)));
+    std::printf("(growth in KiB: \"run\" from the first reading to the last, \"half\" over the second half)\n");
+}
+
+// Reads both programs every second for the given time; false when one of them ended.
+bool measure(Run& floor, Run& tarvel, int seconds)
+{
+    QElapsedTimer clock;
+    clock.start();
+    for (int second = 0; second <= seconds; ++second) {
+        const qint64 wait = second * 1000LL - clock.elapsed();
+        if (wait > 0)
+            QThread::msleep(static_cast<unsigned long>(wait));
+        for (Run* run : {&floor, &tarvel}) {
+            if (run->process.state() != QProcess::Running)
+                return false;
+            run->readings.push_back(readProcess(run->process.processId()));
+        }
+    }
+    return true;
+}
+
 } // namespace
 
 int main(int argc, char** argv)
 {
     QCoreApplication app(argc, argv);
-    const QStringList args = app.arguments();
-    if (args.size() < 2) {
-        std::fprintf(stderr, "usage: tarvel_process_budget TARVEL [SECONDS] [TARVEL ARGUMENTS...]\n"
-                             "Runs TARVEL offscreen in its bar window (default 120 s after 5 s of warm-up),\n"
-                             "every module sampling every second.\n");
+    const auto options = parseOptions(app.arguments());
+    if (!options) {
+        std::fprintf(stderr,
+                     "usage: tarvel_process_budget TARVEL [--seconds N] [--display :N] [-- TARVEL ARGUMENTS...]\n"
+                     "Runs TARVEL --bar and tarvel_bar_floor on one Xvfb screen for N seconds (default 90)\n"
+                     "after %d s of warm-up, every module sampling every second.\n",
+                     kWarmUpSeconds);
         return 2;
     }
-    const int seconds = args.size() > 2 ? std::max(10, args.at(2).toInt()) : 120;
+    const QString display = options->display.isEmpty() ? freeDisplay() : options->display;
+    QProcess xvfb;
+    if (display.isEmpty() || !startScreen(xvfb, display)) {
+        std::fprintf(stderr, "no virtual screen could be started on %s\n", qPrintable(display));
+        return 1;
+    }
+
     QTemporaryDir home;
     QProcessEnvironment env = QProcessEnvironment::systemEnvironment();
-    env.insert(QStringLiteral("QT_QPA_PLATFORM"), QStringLiteral("offscreen"));
+    env.insert(QStringLiteral("DISPLAY"), display);
+    env.insert(QStringLiteral("QT_QPA_PLATFORM"), QStringLiteral("xcb"));
     env.insert(QStringLiteral("XDG_DATA_HOME"), home.filePath(QStringLiteral("data")));
+    env.insert(QStringLiteral("XDG_CONFIG_HOME"), home.filePath(QStringLiteral("config")));
+    QDir().mkpath(home.filePath(QStringLiteral("run")));
+    QFile::setPermissions(home.filePath(QStringLiteral("run")), QFile::ReadOwner | QFile::WriteOwner | QFile::ExeOwner);
+    env.insert(QStringLiteral("XDG_RUNTIME_DIR"), home.filePath(QStringLiteral("run")));
     const QString settings = home.filePath(QStringLiteral("s.plist"));
     writeBudgetSettings(settings);
-    QStringList tarvelArgs{QStringLiteral("--bar"), QStringLiteral("--settings"), settings};
-    tarvelArgs += args.mid(3);
 
-    QProcess tarvel;
-    tarvel.setProcessEnvironment(env);
-    tarvel.setProcessChannelMode(QProcess::ForwardedErrorChannel);
-    tarvel.start(args.at(1), tarvelArgs);
-    if (!tarvel.waitForStarted())
+    Run floor("floor");
+    Run tarvel("tarvel --bar");
+    for (Run* run : {&floor, &tarvel}) {
+        run->process.setProcessEnvironment(env);
+        run->process.setProcessChannelMode(QProcess::ForwardedErrorChannel);
+    }
+    floor.process.start(QCoreApplication::applicationDirPath() + QStringLiteral("/tarvel_bar_floor"), {});
+    tarvel.process.start(options->tarvel, QStringList{QStringLiteral("--bar"), QStringLiteral("--settings"), settings} +
+                                              options->tarvelArguments);
+    const bool started = floor.process.waitForStarted() && tarvel.process.waitForStarted();
+    if (started)
+        QThread::sleep(kWarmUpSeconds);
+    const bool ran = started && measure(floor, tarvel, options->seconds);
+    for (QProcess* process : {&tarvel.process, &floor.process, &xvfb}) {
+        process->terminate();
+        process->waitForFinished();
+    }
+    if (!ran) {
+        std::fprintf(stderr, "a measured program did not start or ended during the run\n");
         return 1;
-    const qint64 pid = tarvel.processId();
-    QThread::sleep(5);
-
-    const qint64 start = runTimeNs(pid);
-    QThread::sleep(static_cast<unsigned long>(seconds / 2));
-    const qint64 rssMid = memoryKiB(pid, "Rss");
-    const qint64 privateMid = privateKiB(pid);
-    QThread::sleep(static_cast<unsigned long>(seconds - seconds / 2));
-    const qint64 end = runTimeNs(pid);
-    const qint64 rss = memoryKiB(pid, "Rss");
-    const qint64 priv = privateKiB(pid);
-    tarvel.terminate();
-    tarvel.waitForFinished();
-
-    std::printf("processor   %.3f ms per second over %d s\n", static_cast<double>(end - start) / 1e6 / seconds,
-                seconds);
-    std::printf("resident    %.1f MiB (%+lld KiB over the second half)\n", static_cast<double>(rss) / 1024,
-                static_cast<long long>(rss - rssMid));
-    std::printf("private     %.1f MiB (%+lld KiB over the second half)\n", static_cast<double>(priv) / 1024,
-                static_cast<long long>(priv - privateMid));
+    }
+    printReport(floor, tarvel, options->seconds, display);
     return 0;
 }

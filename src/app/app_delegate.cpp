@@ -296,8 +296,10 @@ void AppDelegate::quitApplication()
 
 void AppDelegate::loadSysInfoTimer()
 {
-    if (loadSysInfoTimerFinishedBool)
+    if (loadSysInfoTimerFinishedBool) {
+        schedule_.tickDropped();
         return;
+    }
     loadSysInfoTimerFinishedBool = true;
 
     // The cadence is decided here, on the main thread that owns it, so that a reset made while
@@ -309,10 +311,11 @@ void AppDelegate::loadSysInfoTimer()
         const ModuleId id = module.schema.id;
         cadence[i] = {module.sample != nullptr, switchedOn(id), menuOpened(id),
                       module.firstSampleAtOnce && !infoDict_.exists(i)};
-        input.intervals[i] = schedule_.interval(id);
         input.menuOpened[i] = cadence[i].menuOpened;
     }
     input.due = schedule_.decide(cadence);
+    for (std::size_t i = 0; i < moduleRegistry().size(); ++i)
+        input.seconds[i] = schedule_.secondsCovered(moduleRegistry()[i]->schema.id);
     input.info = infoDict_;
     input.volumeBase = volumeTracker_->sharedVolumeBaseDict();
     input.sensors = sensorDatDict_;

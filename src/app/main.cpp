@@ -1,6 +1,7 @@
 // Entry point: parses the command line and runs the chosen command.
 #include "app/app_options.h"
 #include "app/commands.h"
+#include "app/open_file_limit.h"
 
 #include <QCoreApplication>
 #include <QStringList>
@@ -18,6 +19,7 @@ int main(int argc, char** argv)
         return parsed.exitCode;
     }
     QCoreApplication::setApplicationVersion(QStringLiteral(TARVEL_VERSION));
+    raiseOpenFileLimit();
     switch (parsed.options->command) {
     case AppOptions::Command::Snapshot:
         return runSnapshot(*parsed.options, argc, argv);

@@ -14,7 +14,8 @@ class LoadSystemInformation;
 // What the main thread hands the background body: snapshots it may read and change freely.
 struct CycleInput {
     DueModules due;
-    std::array<qint64, kModuleCount> intervals{};
+    // Per due module, the seconds its sample covers (SamplingSchedule::secondsCovered).
+    std::array<qint64, kModuleCount> seconds{};
     std::array<bool, kModuleCount> menuOpened{};
     InfoDict info;
     // The volumes to measure; shared and never changed, so a rebuild on the main thread

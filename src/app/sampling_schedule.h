@@ -32,13 +32,26 @@ public:
     // now does not undo it.
     void reset(ModuleId id) { entries_[moduleIndex(id)].counter = 0; }
 
+    // A tick that found the previous cycle still running: no cycle starts, but its second
+    // passes for every module all the same.
+    void tickDropped() { ++droppedTicks_; }
+
     // Counts one cycle for every switched-on module and tells which are due.
     DueModules decide(const std::array<ModuleCadence, kModuleCount>& modules);
+
+    // For a module the last decide() found due: the seconds since its previous sample, which
+    // the sample covers. An open menu samples every second whatever the interval, and a slow
+    // cycle stretches the gap, so this is what a rate divides by. The interval setting for a
+    // module's first sample, which has nothing before it.
+    qint64 secondsCovered(ModuleId id) const { return entries_[moduleIndex(id)].covered; }
 
 private:
     struct Entry {
         qint64 counter = 0;
         qint64 interval = 0;
+        qint64 sinceSample = -1; // ticks since the previous sample; -1 before the first
+        qint64 covered = 0;
     };
     std::array<Entry, kModuleCount> entries_{};
+    qint64 droppedTicks_ = 0;
 };

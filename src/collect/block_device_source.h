@@ -17,6 +17,10 @@ struct BlockDevice {
     std::optional<bool> removable;
     std::optional<bool> rotational;
     std::optional<std::string> backingFile; // the file behind a loop device, while one is attached
+    // No hardware of its own (loop, device-mapper, md, zram, ram): its transfers are those of the
+    // devices beneath it, or of memory.
+    bool isVirtual = false;
+    std::vector<std::string> slaves; // the devices or partitions it is built on, in name order
     std::vector<BlockPartition> partitions;
 };
 

@@ -2,6 +2,7 @@
 #pragma once
 
 #include <array>
+#include <cstddef>
 #include <cstdint>
 #include <optional>
 #include <vector>
@@ -21,6 +22,12 @@ public:
     virtual ~CpuSource() = default;
     // Ticks of every processor in the system's order; empty optional when unreadable.
     virtual std::optional<std::vector<ProcessorTicks>> readProcessorTicks() = 0;
+    // How many processors a reading of the ticks would give.
+    virtual std::optional<std::size_t> processorCount()
+    {
+        const auto ticks = readProcessorTicks();
+        return ticks && !ticks->empty() ? std::optional(ticks->size()) : std::nullopt;
+    }
     // Boot time in seconds since the epoch.
     virtual std::optional<std::int64_t> bootTime() = 0;
     // Seconds the system has been awake (running, not suspended) since boot.

@@ -53,9 +53,12 @@ DesktopIndex::Stamps DesktopIndex::currentStamps() const
 
 void DesktopIndex::refresh()
 {
-    if (built_ && currentStamps() == stamps_)
-        return;
-    rebuild();
+    // Compared in place: a refresh comes with every look at the processes.
+    const bool unchanged = built_ && std::all_of(stamps_.begin(), stamps_.end(), [](const auto& stamp) {
+                               return stampOf(stamp.first) == stamp.second;
+                           });
+    if (!unchanged)
+        rebuild();
 }
 
 void DesktopIndex::rebuild()

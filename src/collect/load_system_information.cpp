@@ -57,6 +57,16 @@ CpuSample LoadSystemInformation::loadCpuData()
     return result;
 }
 
+std::optional<std::size_t> LoadSystemInformation::processorCount()
+{
+    {
+        const std::lock_guard guard(cpuUsageLock);
+        if (prevCpuInfo)
+            return prevCpuInfo->size();
+    }
+    return sources_.cpu ? sources_.cpu->processorCount() : std::nullopt;
+}
+
 CpuOptionFigures LoadSystemInformation::cpuOptionFigures() const
 {
     CpuOptionFigures figures;

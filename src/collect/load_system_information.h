@@ -12,6 +12,7 @@
 #include "collect/network_sample.h"
 #include "collect/process_cpu_sampler.h"
 #include "collect/process_list.h"
+#include "collect/running_applications.h"
 #include "collect/sensor_dat.h"
 #include "collect/source_set.h"
 #include "collect/storage_descriptions.h"
@@ -20,6 +21,7 @@
 #include <QStringList>
 
 #include <atomic>
+#include <chrono>
 #include <filesystem>
 #include <functional>
 #include <map>
@@ -35,6 +37,10 @@ public:
     // Tick differences since the previous call, per processor then averaged; empty on the
     // first call and when the ticks cannot be read (the previous ticks are then kept).
     CpuSample loadCpuData();
+
+    // How many processors the newest tick reading counted, read afresh before the first: the
+    // machine's own count, or the tree's under another root. Empty when the ticks are unreadable.
+    std::optional<std::size_t> processorCount();
 
     // What the CPU menu's detail lines show, as of now; each figure empty when unreadable.
     CpuOptionFigures cpuOptionFigures() const;
@@ -147,10 +153,14 @@ private:
     SourceSet sources_;
     std::optional<std::vector<ProcessorTicks>> prevCpuInfo;
     std::mutex cpuUsageLock;
+    // The newest scan of the processes and when it was taken: the names reuse one taken for
+    // the list a moment before rather than read every process again.
+    std::vector<ProcessRecord> processScan;
+    std::optional<std::chrono::steady_clock::time_point> processScanTime;
     ProcessCpuSampler processSampler;
-    std::mutex processLock;
     DesktopIndex desktopIndex;
-    std::mutex desktopLock;
+    RunningApplications runningApplications;
+    std::mutex processLock; // guards the five above
     // Every name met in the disk statistics: its sample key when it is a whole disk, none for
     // a partition. Looked up rather than re-read, so a tick costs one read of the statistics.
     std::map<std::string, std::optional<QString>, std::less<>> diskKeys;

@@ -79,6 +79,7 @@ DiskBaseDict LoadSystemInformation::retDisAccessBase(const VolumeUtilDetail& uti
             entry.productSerialNumber = nonEmpty(facts->serial);
             entry.mediumRotationRate = facts->rotationRate;
         }
+        entry.isVirtual = device.isVirtual;
         if (device.rotational)
             entry.mediumType = *device.rotational ? QStringLiteral("Rotational") : QStringLiteral("Solid State");
         base[QStringLiteral("/dev/") + entry.bsdName] = std::move(entry);

@@ -3,6 +3,12 @@
 
 #include "collect/running_applications.h"
 
+namespace {
+// A scan this young still holds every process worth naming; one that started since gets its
+// name at the next look.
+constexpr std::chrono::seconds kScanReuse{1};
+} // namespace
+
 std::optional<QStringList> LoadSystemInformation::psGetProccessAsKv(const QString& column, const ProcessDict& procDict,
                                                                     int displayLimit, std::int32_t addValueMode)
 {
@@ -11,7 +17,13 @@ std::optional<QStringList> LoadSystemInformation::psGetProccessAsKv(const QStrin
     std::optional<std::vector<ProcessRow>> rows;
     {
         const std::lock_guard guard(processLock);
-        rows = processSampler.sample(*sources_.processes, column.toStdString());
+        processScanTime.reset();
+        if (!sources_.processes->rescan(processScan))
+            return std::nullopt;
+        processScanTime = std::chrono::steady_clock::now();
+        ProcessSource& source = *sources_.processes;
+        rows = processSampler.sample(processScan, column.toStdString(), *processScanTime,
+                                     [&source] { return source.uptimeSeconds(); });
     }
     if (!rows)
         return std::nullopt;
@@ -22,7 +34,14 @@ ProcessDict LoadSystemInformation::retProcessDict()
 {
     if (!sources_.processes)
         return {};
-    const std::lock_guard guard(desktopLock);
+    const std::lock_guard guard(processLock);
+    const auto now = std::chrono::steady_clock::now();
+    if (!processScanTime || now - *processScanTime > kScanReuse) {
+        processScanTime.reset();
+        if (!sources_.processes->rescan(processScan))
+            return {};
+        processScanTime = now;
+    }
     desktopIndex.refresh();
-    return runningApplications(*sources_.processes, desktopIndex);
+    return runningApplications.names(processScan, *sources_.processes, desktopIndex);
 }

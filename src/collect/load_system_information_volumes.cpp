@@ -1,6 +1,7 @@
 // The collector's volume side: the disk size map, the mounted volumes and their space.
 #include "collect/load_system_information.h"
 
+#include "collect/block_device_tree.h"
 #include "collect/volume_filter.h"
 
 #include <algorithm>
@@ -46,9 +47,15 @@ VolumeUtilDetail LoadSystemInformation::retVolumeUtilDetail()
             continue;
         const QString disk = QString::fromStdString(device.name);
         util.allDriveSize[disk] = clampedBytes(*device.sectors * 512);
+        // A volume on a stacked device (LVM, an encrypted container, an md mirror) lies on the
+        // disk beneath it, which is the one the Disk module shows.
+        const auto beneath = device.isVirtual ? underlyingDisk(*devices, device.name) : std::nullopt;
+        const QString top = beneath ? QString::fromStdString(*beneath) : disk;
+        if (beneath)
+            util.parDisksTops[disk] = top;
         for (const BlockPartition& partition : device.partitions)
             if (!partition.name.empty())
-                util.parDisksTops[QString::fromStdString(partition.name)] = disk;
+                util.parDisksTops[QString::fromStdString(partition.name)] = top;
     }
     return util;
 }

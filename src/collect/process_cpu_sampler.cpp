@@ -38,46 +38,26 @@ ProcessCpuSampler::ProcessCpuSampler(long ticksPerSecond, std::uint64_t pageSize
 std::optional<std::vector<ProcessRow>> ProcessCpuSampler::sample(ProcessSource& source, std::string_view column,
                                                                  Clock::time_point now)
 {
+    // An unknown column is turned down before the processes are read.
+    if ((column != "%cpu" && column != "rss") || !source.rescan(scan_))
+        return std::nullopt;
+    return sample(scan_, column, now, [&source] { return source.uptimeSeconds(); });
+}
+
+std::optional<std::vector<ProcessRow>> ProcessCpuSampler::sample(const std::vector<ProcessRecord>& scan,
+                                                                 std::string_view column, Clock::time_point now,
+                                                                 const Uptime& uptime)
+{
     const bool cpu = column == "%cpu";
     if (!cpu && column != "rss")
         return std::nullopt;
-    auto scan = source.scanProcesses();
-    if (!scan)
-        return std::nullopt;
-
     std::vector<ProcessRow> rows;
-    rows.reserve(scan->size());
     if (cpu) {
-        const double elapsedTicks =
-            prevTime_ ? std::chrono::duration<double>(now - *prevTime_).count() * static_cast<double>(ticksPerSecond_)
-                      : 0;
-        std::unordered_map<std::int64_t, std::uint64_t> ticks;
-        ticks.reserve(scan->size());
-        // Read once per scan, and only when some process has no earlier reading.
-        std::optional<std::optional<double>> uptimeTicks;
-        for (ProcessRecord& record : *scan) {
-            double percent = 0;
-            const auto previous = prevTicks_.find(record.pid);
-            if (elapsedTicks > 0 && previous != prevTicks_.end() && record.cpuTicks >= previous->second) {
-                percent = roundedPercent(static_cast<double>(record.cpuTicks - previous->second) / elapsedTicks * 100);
-            } else {
-                if (!uptimeTicks) {
-                    const auto seconds = source.uptimeSeconds();
-                    uptimeTicks =
-                        seconds ? std::optional(*seconds * static_cast<double>(ticksPerSecond_)) : std::nullopt;
-                }
-                percent = shareSinceStart(record, *uptimeTicks);
-            }
-            ticks.emplace(record.pid, record.cpuTicks);
-            rows.push_back({record.pid, std::move(record.command), percent});
-        }
-        // Processes that ended since the last scan fall out here with the old map.
-        prevTicks_ = std::move(ticks);
-        prevTime_ = now;
+        rows = cpuRows(scan, now, uptime);
     } else {
-        for (ProcessRecord& record : *scan)
-            rows.push_back(
-                {record.pid, std::move(record.command), static_cast<double>(record.residentPages * pageSize_ / 1024)});
+        rows.reserve(scan.size());
+        for (const ProcessRecord& record : scan)
+            rows.push_back({record.pid, record.command, static_cast<double>(record.residentPages * pageSize_ / 1024)});
     }
     std::sort(rows.begin(), rows.end(), [](const ProcessRow& a, const ProcessRow& b) {
         return a.value != b.value ? a.value > b.value : a.pid < b.pid;
@@ -88,8 +68,45 @@ std::optional<std::vector<ProcessRow>> ProcessCpuSampler::sample(ProcessSource& 
 double ProcessCpuSampler::shareSinceStart(const ProcessRecord& record, std::optional<double> uptimeTicks) const
 {
     // Started less than a tick ago, or on a clock ahead of the uptime read: no life to share.
-    const double life = uptimeTicks ? *uptimeTicks - static_cast<double>(record.startTicks) : 0;
+    const double life = uptimeTicks ? *uptimeTicks - static_cast<double>(record.startTime) : 0;
     if (life < 1)
         return 0;
     return roundedPercent(static_cast<double>(record.cpuTicks) / life * 100);
+}
+
+std::vector<ProcessRow> ProcessCpuSampler::cpuRows(const std::vector<ProcessRecord>& scan, Clock::time_point now,
+                                                   const Uptime& uptime)
+{
+    const double elapsedTicks =
+        prevTime_ ? std::chrono::duration<double>(now - *prevTime_).count() * static_cast<double>(ticksPerSecond_) : 0;
+    std::vector<ProcessRow> rows;
+    rows.reserve(scan.size());
+    current_.clear();
+    std::optional<std::optional<double>> uptimeTicks;
+    // Both lists are in pid order: the previous one is walked alongside.
+    auto previous = previous_.cbegin();
+    for (const ProcessRecord& record : scan) {
+        while (previous != previous_.cend() && previous->pid < record.pid)
+            ++previous;
+        double percent = 0;
+        if (elapsedTicks > 0 && previous != previous_.cend() && previous->pid == record.pid &&
+            previous->startTime == record.startTime && record.cpuTicks >= previous->ticks) {
+            percent = roundedPercent(static_cast<double>(record.cpuTicks - previous->ticks) / elapsedTicks * 100);
+        } else {
+            // First seen (every process at the first scan): its share since it started, so that a
+            // list opened for the first time is not all zeros. The uptime is read once, if at all.
+            if (!uptimeTicks && uptime) {
+                const std::optional<double> seconds = uptime();
+                uptimeTicks = seconds ? std::optional(*seconds * static_cast<double>(ticksPerSecond_)) : std::nullopt;
+            }
+            percent = uptimeTicks ? shareSinceStart(record, *uptimeTicks) : 0;
+        }
+        current_.push_back({record.pid, record.startTime, record.cpuTicks});
+        // Kernel command names fit a short string's own storage: no allocation per row.
+        rows.push_back({record.pid, record.command, percent});
+    }
+    // Processes that ended since the last scan fall out here with the old list.
+    previous_.swap(current_);
+    prevTime_ = now;
+    return rows;
 }

@@ -1,6 +1,7 @@
 // Source of process facts: how many threads and processes run, and a raw per-process scan.
 #pragma once
 
+#include <algorithm>
 #include <cstdint>
 #include <optional>
 #include <string>
@@ -18,7 +19,9 @@ struct ProcessRecord {
     std::uint64_t cpuTicks = 0; // user plus system time, in clock ticks
     std::uint64_t residentPages = 0;
     std::int64_t threads = 0;
-    std::uint64_t startTicks = 0; // when it started, in clock ticks after boot
+    // Clock ticks after boot at which it started: with the pid, what tells it from an earlier
+    // process that had the same pid.
+    std::uint64_t startTime = 0;
 };
 
 class ProcessSource {
@@ -29,6 +32,17 @@ public:
     virtual std::optional<std::vector<ProcessRecord>> scanProcesses() = 0;
     // Seconds since boot on the clock that start times count on (suspended time included).
     virtual std::optional<double> uptimeSeconds() { return std::nullopt; }
+    // The same in pid order into records (emptied first, its storage kept for the next scan),
+    // for scans repeated every second; false when the processes cannot be listed.
+    virtual bool rescan(std::vector<ProcessRecord>& records)
+    {
+        auto scan = scanProcesses();
+        if (!scan)
+            return false;
+        records = std::move(*scan);
+        std::sort(records.begin(), records.end(), [](const auto& a, const auto& b) { return a.pid < b.pid; });
+        return true;
+    }
     // The program file a process runs, when the system lets this user see it. Asked for one
     // process at a time so that a scan for figures alone does not pay for it.
     virtual std::optional<std::string> executablePath(std::int64_t /*pid*/) { return std::nullopt; }

@@ -13,7 +13,9 @@ enum class VolumeIconKind { Internal, External, Network };
 // The disk size map: whole disks with their sizes, and the disk each partition belongs to.
 struct VolumeUtilDetail {
     std::map<QString, std::int64_t> allDriveSize; // kernel name of a whole disk -> bytes
-    std::map<QString, QString> parDisksTops;      // kernel name of a partition -> its disk
+    // Kernel name of a partition, or of a device stacked on disks (dm-0, md0) -> the disk
+    // with hardware of its own beneath it.
+    std::map<QString, QString> parDisksTops;
 };
 
 struct VolumeBaseEntry {
@@ -45,6 +47,9 @@ struct DiskBaseEntry {
     std::optional<QString> productSerialNumber;
     std::optional<QString> mediumType; // "Solid State" or "Rotational"
     std::optional<std::int64_t> mediumRotationRate;
+    // No hardware of its own (loop, device-mapper, md, zram): its transfers already count on
+    // the disks beneath it, so it is shown only on request.
+    bool isVirtual = false;
 };
 
 // Keyed by "/dev/" + kernel name, as the Disk sample is.

@@ -23,7 +23,9 @@ class SettingsStore;
 struct SampleRequest {
     LoadSystemInformation& loadInfo;
     std::size_t slot; // the module's history slot in the sampled data
-    qint64 interval;  // the module's interval setting, in seconds
+    // The seconds since the module's previous sample, which this one covers: the interval
+    // setting, or fewer while its menu is open, or more after a slow cycle.
+    qint64 seconds;
     bool menuOpened;  // its menu is open: what only the menu shows is wanted too
     const VolumeBaseDict& volumes;
     const SensorDatDict& sensors; // the sensor table of start-up

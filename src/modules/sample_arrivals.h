@@ -5,10 +5,10 @@
 #include <chrono>
 #include <cmath>
 
-// A sample records the module's interval setting, yet while its menu is open a module is
-// sampled every cycle, and on opening the first extra sample comes at any time within the
-// interval. Cycles start on whole seconds, so the seconds between two arrivals, rounded, are
-// the cycles the newest sample covers.
+// For samples that record no span of their own (the Memory module's): while its menu is open a
+// module is sampled every cycle, and on opening the first extra sample comes at any time within
+// the interval. Cycles start on whole seconds, so the seconds between two arrivals, rounded,
+// are the cycles the newest sample covers.
 class SampleArrivals {
 public:
     using Clock = std::chrono::steady_clock;

@@ -109,6 +109,8 @@ inline constexpr char Disk_Display_Graph[] = "Disk_Display_Graph";
 inline constexpr char Disk_Display_Text[] = "Disk_Display_Text";
 inline constexpr char Disk_ShowEachDisk[] = "Disk_ShowEachDisk";
 inline constexpr char Disk_WithDiskIconInBackground[] = "Disk_WithDiskIconInBackground";
+// Devices without hardware of their own (loop, device-mapper, md, zram) get sets and menu blocks.
+inline constexpr char Disk_ShowVirtualDisks[] = "Disk_ShowVirtualDisks";
 inline constexpr char Disk_UpdateInterval[] = "Disk_UpdateInterval";
 inline constexpr char Disk_GraphWidth[] = "Disk_GraphWidth";
 inline constexpr char Disk_Indicator_Label[] = "Disk_Indicator_Label";

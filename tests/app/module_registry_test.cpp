@@ -35,6 +35,8 @@ TEST(ModuleRegistry, GeneralFirstThenTheBarOrderAndOddListsAreTolerated)
     RecordingStatusBar bar;
     TestApp t;
     writeOrder(t, {99, 1, 1, -3, 8});
+    // Before its first sample the CPU picture shows the processors the source counts.
+    t.queueTicks({{0, 0, 0, 0}, {0, 0, 0, 0}});
     t.launchWithBar(bar);
     // Unknown codes skipped; the duplicated CPU code allocates once.
     EXPECT_EQ(bar.shown, (QStringList{"CPU", "General"}));

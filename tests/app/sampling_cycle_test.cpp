@@ -2,8 +2,11 @@
 // survive a running cycle.
 #include "app/sampling_cycle.h"
 #include "collect/load_system_information.h"
+#include "modules/disk/disk_rates.h"
 #include "modules/module_registry.h"
+#include "modules/network/network_rates.h"
 #include "prefs/pref_keys.h"
+#include "recording_status_bar.h"
 #include "test_app.h"
 
 #include "support/fake_network_source.h"
@@ -46,6 +49,26 @@ std::array<ModuleCadence, kModuleCount> cpuOnly(bool menuOpen = false, bool samp
     modules[moduleIndex(ModuleId::Memory)] = {true, false, true, true};
     return modules;
 }
+
+// One disk whose read counter the test moves on.
+class OneDisk final : public BlockDeviceSource {
+public:
+    std::uint64_t sectorsRead = 0;
+    std::optional<std::vector<BlockDevice>> devices() override
+    {
+        BlockDevice sda;
+        sda.name = "sda";
+        sda.sectors = 1 << 20;
+        return std::vector{sda};
+    }
+    std::optional<std::vector<DiskStatistics>> diskStatistics() override
+    {
+        DiskStatistics row;
+        row.name = "sda";
+        row.sectorsRead = sectorsRead;
+        return std::vector{row};
+    }
+};
 
 } // namespace
 
@@ -114,8 +137,8 @@ TEST(CycleBody, MemoryAndNetworkStepsAndTheInterfaceBaseBetweenSamples)
     LoadSystemInformation loadInfo(std::move(sources));
 
     CycleInput input;
-    input.intervals.fill(1);
-    input.intervals[moduleIndex(ModuleId::Network)] = 3;
+    input.seconds.fill(1);
+    input.seconds[moduleIndex(ModuleId::Network)] = 3;
     const auto cycle = [&](bool networkDue) {
         input.due.reset();
         input.due.set(moduleIndex(ModuleId::Memory)).set(moduleIndex(ModuleId::Network), networkDue);
@@ -170,4 +193,90 @@ TEST(SamplingSchedule, AMountDuringARunningCycleIsMeasuredAtTheNextCycle)
     t.app->loadSysInfoTimer();
     t.executor->finishCycle();
     EXPECT_EQ(volumes(), 2u);
+}
+
+TEST(SamplingSchedule, ASampleCoversTheSecondsSinceTheModulesPreviousOne)
+{
+    SamplingSchedule schedule;
+    schedule.setInterval(ModuleId::Cpu, 3);
+    const auto run = [&](bool menuOpen) { return schedule.decide(cpuOnly(menuOpen)).test(moduleIndex(ModuleId::Cpu)); };
+    ASSERT_TRUE(run(false));
+    EXPECT_EQ(schedule.secondsCovered(ModuleId::Cpu), 3); // nothing before it: the interval
+    EXPECT_FALSE(run(false));
+    ASSERT_TRUE(run(true)); // the menu opened: a sample two seconds after the first
+    EXPECT_EQ(schedule.secondsCovered(ModuleId::Cpu), 2);
+    ASSERT_TRUE(run(true));
+    EXPECT_EQ(schedule.secondsCovered(ModuleId::Cpu), 1);
+    // The menu closed; two ticks found the cycle still running, and their seconds went by all
+    // the same. The regular sample, three cycles on, covers five seconds.
+    schedule.tickDropped();
+    schedule.tickDropped();
+    EXPECT_FALSE(run(false));
+    EXPECT_FALSE(run(false));
+    ASSERT_TRUE(run(false));
+    EXPECT_EQ(schedule.secondsCovered(ModuleId::Cpu), 5);
+}
+
+TEST(SamplingCycle, NetworkAndDiskRatesHoldWhetherTheirMenusAreOpenOrNot)
+{
+    RecordingStatusBar bar;
+    TestApp t;
+    {
+        PlistSettingsStore store(t.settingsPath());
+        for (const ModuleSchema* schema : allModuleSchemas())
+            PrefFunctions::initializeModulePreference(*schema, store);
+        store.setString(AppVersion, QStringLiteral("6.0.0"));
+        store.setArray(TopItemSortArray, {3, 4});
+        store.setInteger(Network_UpdateInterval, 3);
+        store.setInteger(Disk_UpdateInterval, 3);
+        store.synchronize();
+    }
+    // Steady traffic: 3000 bytes sent and 1 MiB read every second.
+    FakeNetworkSource* network = nullptr;
+    OneDisk* disk = nullptr;
+    t.adjustSources = [&](SourceSet& sources) {
+        auto fakeNetwork = std::make_unique<FakeNetworkSource>();
+        network = fakeNetwork.get();
+        network->listed = {FakeNetworkSource::wired("eth0", "up")};
+        network->rows = std::vector<InterfaceCounters>{{"eth0", 0, 0, 0, 0}};
+        sources.network = std::move(fakeNetwork);
+        auto fakeDisk = std::make_unique<OneDisk>();
+        disk = fakeDisk.get();
+        sources.blockDevices = std::move(fakeDisk);
+    };
+    t.launchWithBar(bar);
+    t.executor->finishCycle(); // the launch's cycle: the first samples
+    // Each cycle reads the counters of its second; a slow one lets the next tick pass unused.
+    int ticksPassed = 1;
+    const auto second = [&](bool slow = false) {
+        network->rows->front().sentBytes += 3000 * ticksPassed;
+        disk->sectorsRead += 2048 * ticksPassed;
+        t.app->loadSysInfoTimer();
+        if (slow)
+            t.app->loadSysInfoTimer();
+        t.executor->finishCycle();
+        ticksPassed = slow ? 2 : 1;
+    };
+    MenuModule* networkItem = t.app->menuModule(ModuleId::Network);
+    MenuModule* diskItem = t.app->menuModule(ModuleId::Disk);
+    ASSERT_TRUE(networkItem && diskItem);
+    networkItem->menuWillOpen();
+    diskItem->menuWillOpen();
+    second();
+    second();
+    networkItem->menuDidClose();
+    diskItem->menuDidClose();
+    for (int i = 0; i < 5; ++i)
+        second(i == 2);
+
+    // Two samples with the menus open, then the regular ones, one of them after a slow cycle.
+    const auto traffic = moduleHistory<NetworkSample>(t.app->infoDict(), ModuleId::Network);
+    const auto transfers = moduleHistory<DiskSample>(t.app->infoDict(), ModuleId::Disk);
+    ASSERT_EQ(traffic.size(), 5u);
+    ASSERT_EQ(transfers.size(), 5u);
+    for (std::size_t i = 1; i < traffic.size(); ++i) {
+        SCOPED_TRACE(testing::Message() << "sample " << i);
+        EXPECT_DOUBLE_EQ(sampleRates(traffic, i).up, 3000);
+        EXPECT_DOUBLE_EQ(diskRatesAt(transfers, i, QStringLiteral("/dev/sda"))->read, 1 << 20);
+    }
 }

@@ -50,6 +50,8 @@ void TestApp::launchOn(StatusBar* bar, bool threaded)
     cpu = source.get();
     cpu->beforeRead = beforeCpuRead;
     sources.cpu = std::move(source);
+    if (adjustSources)
+        adjustSources(sources);
     app = std::make_unique<AppDelegate>(std::make_unique<PlistSettingsStore>(settingsPath()), std::move(sources));
     app->setStatusBar(bar);
     if (!threaded) {

@@ -25,6 +25,11 @@ public:
         : script_(std::move(script))
     {}
     std::optional<std::vector<ProcessorTicks>> readProcessorTicks() override;
+    // Answered from the next reading without taking it.
+    std::optional<std::size_t> processorCount() override
+    {
+        return script_->empty() ? std::nullopt : std::optional(script_->front().size());
+    }
     // The thread of the latest read, to check where the cycle body ran.
     std::atomic<Qt::HANDLE> readThread{nullptr};
     // Runs at the start of every read, on the reading thread: a test holds the body there.
@@ -65,6 +70,8 @@ struct TestApp {
 
     // The tree the other sources read below; none reads nothing but the scripted processor.
     std::filesystem::path root;
+    // Puts scripted sources in place of the tree's before the launch.
+    std::function<void(SourceSet&)> adjustSources;
     QTemporaryDir dir;
     std::shared_ptr<std::deque<std::vector<ProcessorTicks>>> script;
     // Handed to the scripted source at launch.

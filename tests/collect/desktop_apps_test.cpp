@@ -28,8 +28,10 @@ public:
     std::map<std::int64_t, std::string> executables;
     std::optional<ProcessCounts> counts() override { return std::nullopt; }
     std::optional<std::vector<ProcessRecord>> scanProcesses() override { return records; }
+    int lookUps = 0;
     std::optional<std::string> executablePath(std::int64_t pid) override
     {
+        ++lookUps;
         const auto found = executables.find(pid);
         return found == executables.end() ? std::nullopt : std::optional(found->second);
     }
@@ -116,7 +118,7 @@ TEST_F(DesktopTree, RebuildsOnlyWhenAFolderChanges)
     EXPECT_EQ(apps.buildCount(), 4);
 }
 
-TEST_F(DesktopTree, NamesRunningProcessesByExecutableThenCommand)
+TEST_F(DesktopTree, NamesRunningProcessesOnceEachByExecutableThenCommand)
 {
     writeFile(system() + "/applications/editor.desktop", "[Desktop Entry]\nName=Editor\nExec=editor %F\n");
     writeFile(system() + "/applications/tool.desktop", "[Desktop Entry]\nExec=tool.py\n");
@@ -124,8 +126,24 @@ TEST_F(DesktopTree, NamesRunningProcessesByExecutableThenCommand)
     apps.refresh();
 
     FakeProcesses processes;
-    processes.records = {{10, "editor-main", 0, 0, 1}, {11, "tool.py", 0, 0, 1}, {12, "bash", 0, 0, 1}};
+    processes.records = {{10, "editor-main", 0, 0, 1, 500}, {11, "tool.py", 0, 0, 1, 600}, {12, "bash", 0, 0, 1, 700}};
     processes.executables = {{10, "/usr/bin/editor"}, {11, "/usr/bin/python3.12"}, {12, "/usr/bin/bash"}};
-    const ProcessDict names = runningApplications(processes, apps);
-    EXPECT_EQ(names, ProcessDict({{"_10", "Editor"}, {"_11", "unknown pid :: 11"}}));
+    RunningApplications running;
+    EXPECT_EQ(running.names(processes.records, processes, apps),
+              ProcessDict({{"_10", "Editor"}, {"_11", "unknown pid :: 11"}}));
+    EXPECT_EQ(processes.lookUps, 3);
+
+    // Known processes are not looked up again. The editor ended and its pid went to another
+    // program; the tool ended; a new editor started.
+    processes.records = {{10, "bash", 0, 0, 1, 900}, {12, "bash", 0, 0, 1, 700}, {13, "editor", 0, 0, 1, 950}};
+    processes.executables = {{10, "/usr/bin/bash"}, {12, "/usr/bin/bash"}, {13, "/usr/bin/editor"}};
+    EXPECT_EQ(running.names(processes.records, processes, apps), ProcessDict({{"_13", "Editor"}}));
+    EXPECT_EQ(processes.lookUps, 5);
+
+    // A rebuilt index may name them differently: everyone is looked up afresh.
+    writeFile(system() + "/applications/shell.desktop", "[Desktop Entry]\nName=Shell\nExec=bash\n");
+    apps.refresh();
+    EXPECT_EQ(running.names(processes.records, processes, apps),
+              ProcessDict({{"_10", "Shell"}, {"_12", "Shell"}, {"_13", "Editor"}}));
+    EXPECT_EQ(processes.lookUps, 8);
 }

@@ -6,9 +6,12 @@
 
 #include "support/fixture_paths.h"
 
+#include <QTemporaryDir>
+
 #include <gtest/gtest.h>
 
 #include <deque>
+#include <fstream>
 
 namespace {
 using namespace std::chrono_literals;
@@ -38,6 +41,15 @@ ProcessRecord record(std::int64_t pid, const char* command, std::uint64_t ticks,
                      std::uint64_t startTicks = 0)
 {
     return {pid, command, ticks, pages, 1, startTicks};
+}
+
+// A process's stat line as the kernel writes it, with user time, start time and resident pages.
+void writeStat(const std::filesystem::path& proc, int pid, std::uint64_t ticks, std::uint64_t start)
+{
+    std::filesystem::create_directories(proc / std::to_string(pid));
+    std::ofstream(proc / std::to_string(pid) / "stat")
+        << pid << " (p" << pid << ") S 1 1 1 0 -1 0 0 0 0 0 " << ticks << " 0 0 0 20 0 1 0 " << start
+        << " 1000 50 18446744073709551615 0 0 0 0\n";
 }
 } // namespace
 
@@ -152,4 +164,29 @@ TEST(ProcessCpuSampler, SharedTreeGivesResidentRows)
     EXPECT_FALSE(source.executablePath(33));
     const QStringList list = buildProcessList(*rows, {{"_26231", "Vim"}}, 10, 2);
     EXPECT_TRUE(list[0].startsWith("Vim\n"));
+}
+
+TEST(ProcessCpuSampler, RescansOfATreeSeeProcessesEndStartAndTakeOverAPid)
+{
+    QTemporaryDir dir;
+    const std::filesystem::path root = dir.path().toStdString();
+    writeStat(root / "proc", 30, 100, 7);
+    writeStat(root / "proc", 10, 100, 5);
+    writeStat(root / "proc", 20, 100, 6);
+    LinuxProcessSource source{SysRoot(root)};
+    ProcessCpuSampler sampler(100, 4096);
+    const ProcessCpuSampler::Clock::time_point start{};
+    ASSERT_TRUE(sampler.sample(source, "%cpu", start));
+
+    // A second on: 10 ran half of it, 20 ended, another process took pid 30 and 40 started.
+    writeStat(root / "proc", 10, 150, 5);
+    std::filesystem::remove_all(root / "proc/20");
+    writeStat(root / "proc", 30, 400, 900);
+    writeStat(root / "proc", 40, 100, 950);
+    const auto rows = sampler.sample(source, "%cpu", start + 1s);
+    ASSERT_TRUE(rows);
+    std::vector<std::pair<std::int64_t, double>> shares;
+    for (const ProcessRow& row : *rows)
+        shares.emplace_back(row.pid, row.value);
+    EXPECT_EQ(shares, (std::vector<std::pair<std::int64_t, double>>{{10, 50.0}, {30, 0.0}, {40, 0.0}}));
 }

@@ -42,7 +42,7 @@ TEST(ProcessStatText, Records)
              rejectedLine("times, thread count or resident set size not a number", kWordForTime, 1)},
         },
         parseProcessStat, [](const ProcessRecord& r) {
-            return Record{r.pid, r.command, r.cpuTicks, r.threads, r.residentPages, r.startTicks};
+            return Record{r.pid, r.command, r.cpuTicks, r.threads, r.residentPages, r.startTime};
         });
 }
 

@@ -7,6 +7,7 @@
 #include "collect/load_system_information.h"
 #include "collect/volume_filter.h"
 
+#include "support/fake_device_database.h"
 #include "support/fixture_paths.h"
 
 #include <gtest/gtest.h>
@@ -32,24 +33,6 @@ public:
 
 private:
     LinuxMountSource table_;
-};
-
-// Devices by kernel name; by number as "major:minor".
-class FakeDeviceDatabase final : public DeviceDatabaseSource {
-public:
-    std::optional<DeviceProperties> blockDevice(const std::string& name) override
-    {
-        const auto found = devices.find(name);
-        return found != devices.end() ? std::optional(found->second) : std::nullopt;
-    }
-    std::optional<DeviceProperties> blockDevice(std::uint32_t major, std::uint32_t minor) override
-    {
-        return blockDevice(std::to_string(major) + ":" + std::to_string(minor));
-    }
-    int eventDescriptor() override { return -1; }
-    std::vector<std::string> takeChangedDevices() override { return {}; }
-
-    std::map<std::string, DeviceProperties> devices;
 };
 
 constexpr std::int64_t kGiB = 1024ll * 1024 * 1024;
@@ -156,6 +139,9 @@ TEST(DiskBase, DevicesThatHoldSomethingWithSizesIconsAndHardware)
     EXPECT_EQ(stick.mediumType, "Rotational");
     EXPECT_EQ(stick.mediumRotationRate, 0);
     EXPECT_EQ(disks.at("/dev/loop2").iconKind, VolumeIconKind::Internal);
+    // Filed by the kernel among the devices without hardware: shown only on request.
+    EXPECT_TRUE(disks.at("/dev/loop2").isVirtual && disks.at("/dev/zram1").isVirtual);
+    EXPECT_FALSE(nvme.isVirtual || stick.isVirtual);
 
     // The narrow rule for names of the other system's form.
     EXPECT_EQ(LoadSystemInformation::retDiskName("disk0s2"), "disk0");

@@ -1,7 +1,16 @@
-// The CPU menu's detail lines: durations with and without days, placeholders for missing figures.
+// The CPU menu's detail lines: durations with and without days, placeholders for missing figures,
+// and the processor line, whose count is that of the tree the collector reads.
+#include "collect/load_system_information.h"
 #include "modules/cpu/cpu_option_texts.h"
+#include "modules/cpu/cpu_panel_facts.h"
+
+#include "support/fixture_paths.h"
+
+#include <QTemporaryDir>
 
 #include <gtest/gtest.h>
+
+#include <fstream>
 
 TEST(BuildUpTime, FormatsHoursMinutesSecondsAndDays)
 {
@@ -38,4 +47,32 @@ TEST(CpuOptionTexts, FiveLinesFromTheFigures)
 TEST(CpuOptionTexts, MissingFiguresGivePlaceholders)
 {
     EXPECT_EQ(cpuGetOptionData(CpuOptionFigures{}), (QStringList{"23:59:59", "23:59:59", "---", "---", ""}));
+}
+
+TEST(CpuKindText, CountsTheProcessorsOfTheTreeNotOfThisMachine)
+{
+    // Sixteen processors, more than any machine these tests run on is likely to have.
+    QTemporaryDir dir;
+    const std::filesystem::path root = dir.path().toStdString();
+    std::filesystem::create_directories(root / "proc");
+    std::ofstream stat(root / "proc/stat");
+    stat << "cpu  160 0 160 1600 0 0 0 0 0 0\n";
+    for (int cpu = 0; cpu < 16; ++cpu)
+        stat << "cpu" << cpu << " 10 0 10 100 0 0 0 0 0 0\n";
+    stat << "btime 1700000000\n";
+    stat.close();
+    std::ofstream(root / "proc/cpuinfo") << "processor\t: 0\nmodel name\t: Example(R) Chip(TM) CPU @ 3.00GHz\n";
+    LoadSystemInformation tree(makeSourceSet(root));
+    EXPECT_EQ(cpuKindText(tree), "Example Chip 3.00GHz 16cores");
+    tree.loadCpuData(); // and after the collector's own readings
+    EXPECT_EQ(cpuKindText(tree), "Example Chip 3.00GHz 16cores");
+
+    std::filesystem::remove(root / "proc/stat");
+    LoadSystemInformation unreadable(makeSourceSet(root));
+    EXPECT_EQ(cpuKindText(unreadable), "Example Chip 3.00GHz");
+
+    if (sharedProcfsTree().empty())
+        GTEST_SKIP() << "the shared captured procfs tree is not present";
+    LoadSystemInformation captured(makeSourceSet(sharedProcfsTree()));
+    EXPECT_EQ(cpuKindText(captured), "Intel Core i7-8650U 1.90GHz 8cores");
 }

@@ -67,16 +67,20 @@ TEST(MemoryPanel, PagingRatesAndSwap)
 
 TEST(NetworkPanel, TrafficFiguresFromTheHistory)
 {
-    // Two-second samples of 4 MiB then 2 MiB sent; the newest covered one second (menu open).
-    const History<NetworkSample> history = networkHistory({{4 << 20, 0}, {2 << 20, 1 << 20}});
-    const NetworkPanelFigures figures = networkPanelFigures(history, 1, false);
+    // Two-second samples, 4 MiB sent over the second; then the menu opened and the newest
+    // sample covers one second: 2 MiB sent, 1 MiB received.
+    std::vector<NetworkSample> samples{{1000, 1000, 2.0, {}}, {1000 + (4 << 20), 1000, 2.0, {}}};
+    samples.push_back({samples.back().toUp + (2 << 20), samples.back().toDw + (1 << 20), 1.0, {}});
+    const History<NetworkSample> history = historyOf(std::move(samples));
+    const NetworkPanelFigures figures = networkPanelFigures(history, false);
     EXPECT_EQ(figures.nowUp, QStringLiteral("2.0MB/s"));
     EXPECT_EQ(figures.nowDw, QStringLiteral("1024.0KB/s"));
-    EXPECT_EQ(figures.avgUp, QStringLiteral("1024.0KB/s")); // 6 MiB over the 6 seconds of three samples
+    EXPECT_EQ(figures.avgUp, QStringLiteral("1.2MB/s")); // 6 MiB over the 5 seconds of three samples
+    // Each sample over its own span: the two-second one is no faster than the one-second one.
     EXPECT_EQ(figures.peakUp, QStringLiteral("2.0MB/s"));
     EXPECT_EQ(figures.totalUp, QStringLiteral("6.0MB"));
-    EXPECT_EQ(networkPanelFigures(history, 1, true).nowUp, QStringLiteral("16.0Mbps"));
-    EXPECT_EQ(networkPanelFigures(History<NetworkSample>(), 1, false), NetworkPanelFigures{});
+    EXPECT_EQ(networkPanelFigures(history, true).nowUp, QStringLiteral("16.0Mbps"));
+    EXPECT_EQ(networkPanelFigures(History<NetworkSample>(), false), NetworkPanelFigures{});
 }
 
 TEST(NetworkPanel, InterfaceRowsOfActiveLinksOrAll)

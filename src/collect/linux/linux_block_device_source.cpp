@@ -41,7 +41,10 @@ std::optional<std::vector<BlockDevice>> LinuxBlockDeviceSource::devices()
     const auto names = directoryNames(block);
     if (!names)
         return std::nullopt;
+    // The kernel files every device without hardware of its own here; sys/block only links to it.
+    const std::filesystem::path virtualBlock = root_.join("sys/devices/virtual/block");
     std::vector<BlockDevice> devices;
+    std::error_code error;
     for (const std::string& name : *names) {
         const std::filesystem::path dir = block / name;
         BlockDevice device;
@@ -50,6 +53,8 @@ std::optional<std::vector<BlockDevice>> LinuxBlockDeviceSource::devices()
         device.removable = readFlag(dir / "removable");
         device.rotational = readFlag(dir / "queue/rotational");
         device.backingFile = readAttributeText(dir / "loop/backing_file");
+        device.isVirtual = std::filesystem::exists(virtualBlock / name, error);
+        device.slaves = directoryNames(dir / "slaves").value_or(std::vector<std::string>());
         device.partitions = readPartitions(dir);
         devices.push_back(std::move(device));
     }

@@ -1,26 +1,78 @@
 // Counts threads and processes, scans the numeric entries of /proc and reads program links.
 #include "collect/linux/linux_process_source.h"
 
-#include "collect/linux/directory_names.h"
 #include "collect/linux/loadavg_parser.h"
 #include "collect/linux/process_stat_parser.h"
 #include "collect/linux/rejected_text.h"
 
+#include <fcntl.h>
+#include <sys/resource.h>
+#include <unistd.h>
+
 #include <algorithm>
+#include <cerrno>
+#include <cstdio>
 #include <string_view>
 
 namespace {
-bool isProcessEntry(const std::string& name)
+// The pid a /proc entry stands for; none for the other entries (self, stat, sys, ...).
+std::optional<std::int64_t> processEntry(const char* name)
 {
-    return !name.empty() && std::all_of(name.begin(), name.end(), [](char c) { return c >= '0' && c <= '9'; });
+    if (*name == '\0')
+        return std::nullopt;
+    std::int64_t pid = 0;
+    for (const char* c = name; *c != '\0'; ++c) {
+        if (*c < '0' || *c > '9')
+            return std::nullopt;
+        pid = pid * 10 + (*c - '0');
+    }
+    return pid;
 }
+
+int openAt(int folder, const char* relative)
+{
+    int fd;
+    do {
+        fd = ::openat(folder, relative, O_RDONLY | O_CLOEXEC);
+    } while (fd < 0 && errno == EINTR);
+    return fd;
+}
+
+// The start of the file, up to size bytes; 0 or less when it cannot be read (a process that
+// ended reads as an error through a descriptor opened while it ran).
+ssize_t readStart(int fd, char* buffer, std::size_t size)
+{
+    ssize_t got;
+    do {
+        got = ::pread(fd, buffer, size, 0);
+    } while (got < 0 && errno == EINTR);
+    return got;
+}
+
+// Half of the descriptors the process may open, as its limit stands when the source is made.
+std::size_t statFileBudget()
+{
+    rlimit limit{};
+    if (::getrlimit(RLIMIT_NOFILE, &limit) != 0 || limit.rlim_cur == RLIM_INFINITY)
+        return 512;
+    return static_cast<std::size_t>(std::min<rlim_t>(limit.rlim_cur / 2, 16384));
+}
+
+constexpr auto byPid = [](const auto& a, const auto& b) { return a.pid < b.pid; };
 } // namespace
 
 LinuxProcessSource::LinuxProcessSource(const SysRoot& root)
     : root_(root)
     , loadavg_(root.join("proc/loadavg"))
     , uptime_(root.join("proc/uptime"))
+    , keptBudget_(statFileBudget())
+    , anyStat_(root.join("proc") / "[pid]" / "stat")
 {}
+
+LinuxProcessSource::~LinuxProcessSource()
+{
+    closeKept(kept_);
+}
 
 std::optional<ProcessCounts> LinuxProcessSource::counts()
 {
@@ -31,49 +83,99 @@ std::optional<ProcessCounts> LinuxProcessSource::counts()
             if (const auto line = acceptParsed(loadavg_.path(), parseLoadAverage(*text)))
                 entities = line->schedulingEntities;
     }
-    const auto names = directoryNames(root_.join("proc"));
-    if (!entities || !names)
+    if (!entities)
         return std::nullopt;
-    const auto processes = std::count_if(names->begin(), names->end(), isProcessEntry);
-    return ProcessCounts{static_cast<std::int64_t>(*entities), static_cast<std::int64_t>(processes)};
+    const std::lock_guard guard(scanLock_);
+    if (!rewindProcFolder())
+        return std::nullopt;
+    std::int64_t processes = 0;
+    while (const dirent* entry = ::readdir(procFolder_.get()))
+        processes += processEntry(entry->d_name) ? 1 : 0;
+    return ProcessCounts{static_cast<std::int64_t>(*entities), processes};
 }
 
 std::optional<std::vector<ProcessRecord>> LinuxProcessSource::scanProcesses()
 {
-    const auto names = directoryNames(root_.join("proc"));
-    if (!names)
-        return std::nullopt;
-    const std::lock_guard guard(scanLock_);
     std::vector<ProcessRecord> records;
-    records.reserve(names->size());
-    std::unordered_map<std::int64_t, ProcFile> kept;
-    const std::filesystem::path proc = root_.join("proc");
-    // Rejections are told once for every process's stat file together: pids come and go, so a
-    // warning per file would be one per process, and the set of files told of would only grow.
-    // The rejected line itself starts with the pid.
-    const std::filesystem::path anyStat = proc / "[pid]" / "stat";
-    for (const std::string& name : *names) {
-        if (!isProcessEntry(name))
+    if (!rescan(records))
+        return std::nullopt;
+    return records;
+}
+
+bool LinuxProcessSource::rescan(std::vector<ProcessRecord>& records)
+{
+    records.clear();
+    const std::lock_guard guard(scanLock_);
+    if (!rewindProcFolder())
+        return false;
+    nextKept_.clear();
+    while (const dirent* entry = ::readdir(procFolder_.get())) {
+        const auto pid = processEntry(entry->d_name);
+        // A process may end between the listing and this read; it is simply left out.
+        const auto text = pid ? readStat(*pid, entry->d_name) : std::nullopt;
+        if (!text)
             continue;
-        const std::int64_t pid = std::stoll(name);
-        std::optional<ProcessRecord> record;
-        if (auto open = statFiles_.find(pid); open != statFiles_.end() || kept.size() < kMaxKeptStatFiles) {
-            ProcFile file = open != statFiles_.end() ? std::move(open->second) : ProcFile(proc / name / "stat");
-            // A process may end between the listing and this read; it is simply left out. A pid
-            // reused since the last scan reads through a fresh open of the same name.
-            if (const auto text = file.read())
-                record = acceptParsed(anyStat, parseProcessStat(*text));
-            if (record)
-                kept.emplace(pid, std::move(file));
-        } else if (const auto text = ProcFile::readOnce(proc / name / "stat")) {
-            record = acceptParsed(anyStat, parseProcessStat(*text));
-        }
-        if (record)
+        // Rejections are told once for every process's stat file together: pids come and go,
+        // so a warning per file would be one per process. The rejected line starts with the pid.
+        if (auto record = acceptParsed(anyStat_, parseProcessStat(*text)))
             records.push_back(std::move(*record));
     }
-    // Files of processes that ended are closed here, as the old map goes.
-    statFiles_ = std::move(kept);
-    return records;
+    // Files not met again belong to processes that ended.
+    closeKept(kept_);
+    // The kernel lists processes by pid; a captured tree's folder may not.
+    if (!std::is_sorted(nextKept_.begin(), nextKept_.end(), byPid))
+        std::sort(nextKept_.begin(), nextKept_.end(), byPid);
+    if (!std::is_sorted(records.begin(), records.end(), byPid))
+        std::sort(records.begin(), records.end(), byPid);
+    kept_.swap(nextKept_);
+    return true;
+}
+
+bool LinuxProcessSource::rewindProcFolder()
+{
+    if (procFolder_) {
+        ::rewinddir(procFolder_.get());
+        return true;
+    }
+    procFolder_.reset(::opendir(root_.join("proc").c_str()));
+    return procFolder_ != nullptr;
+}
+
+std::optional<std::string_view> LinuxProcessSource::readStat(std::int64_t pid, const char* name)
+{
+    int fd = -1;
+    const auto kept = std::lower_bound(kept_.begin(), kept_.end(), KeptStat{pid, -1}, byPid);
+    if (kept != kept_.end() && kept->pid == pid)
+        std::swap(fd, kept->fd);
+    ssize_t got = fd >= 0 ? readStart(fd, buffer_.data(), buffer_.size()) : -1;
+    if (got <= 0) {
+        // Not kept, or the pid now belongs to another process: the old descriptor still points
+        // at the one that ended, so the name is opened afresh.
+        if (fd >= 0)
+            ::close(fd);
+        std::array<char, 32> relative{};
+        std::snprintf(relative.data(), relative.size(), "%s/stat", name);
+        fd = openAt(::dirfd(procFolder_.get()), relative.data());
+        got = fd >= 0 ? readStart(fd, buffer_.data(), buffer_.size()) : -1;
+        if (got <= 0) {
+            if (fd >= 0)
+                ::close(fd);
+            return std::nullopt;
+        }
+    }
+    if (nextKept_.size() < keptBudget_)
+        nextKept_.push_back({pid, fd});
+    else
+        ::close(fd);
+    return std::string_view(buffer_.data(), static_cast<std::size_t>(got));
+}
+
+void LinuxProcessSource::closeKept(std::vector<KeptStat>& files)
+{
+    for (KeptStat& file : files)
+        if (file.fd >= 0)
+            ::close(file.fd);
+    files.clear();
 }
 
 std::optional<double> LinuxProcessSource::uptimeSeconds()

@@ -29,9 +29,8 @@ Parsed<ProcessRecord> parseProcessStat(std::string_view text)
     record.command = std::string(text.substr(open + 1, close - open - 1));
 
     std::string_view rest = text.substr(close + 1);
-    std::optional<std::uint64_t> utime, stime, rss;
+    std::optional<std::uint64_t> utime, stime, startTime, rss;
     std::optional<std::int64_t> threads;
-    std::optional<std::uint64_t> start;
     for (int index = 0; index <= kRss; ++index) {
         const std::string_view field = trimSpace(takeField(rest));
         if (field.empty())
@@ -47,7 +46,7 @@ Parsed<ProcessRecord> parseProcessStat(std::string_view text)
             threads = parseNumber<std::int64_t>(field);
             break;
         case kStartTime:
-            start = parseNumber<std::uint64_t>(field);
+            startTime = parseNumber<std::uint64_t>(field);
             break;
         case kRss: {
             // rss is signed in the kernel's accounting; a negative value reads as none resident.
@@ -60,12 +59,12 @@ Parsed<ProcessRecord> parseProcessStat(std::string_view text)
             break;
         }
     }
-    if (!utime || !stime || !threads || !rss || !start)
+    if (!utime || !stime || !threads || !startTime || !rss)
         return reject("times, thread count or resident set size not a number");
     record.cpuTicks = *utime + *stime;
     record.threads = *threads;
+    record.startTime = *startTime;
     record.residentPages = *rss;
-    record.startTicks = *start;
     return record;
 }
 

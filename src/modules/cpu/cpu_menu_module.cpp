@@ -1,6 +1,7 @@
 // The CPU status item: width rule, picture, in-menu graph and standard items.
 #include "modules/cpu/cpu_menu_module.h"
 
+#include "collect/load_system_information.h"
 #include "modules/cpu/cpu_bar_width.h"
 #include "modules/cpu/cpu_usage_text.h"
 #include "modules/module_descriptor.h"
@@ -12,6 +13,8 @@
 #include <QMenu>
 #include <QThread>
 #include <QWidgetAction>
+
+#include <algorithm>
 
 using namespace PrefKey;
 
@@ -62,11 +65,14 @@ void CPU_MenuModule::refreshBar()
     if (!settings_.barDrawable() || !statusItem)
         return;
     if (resumeArray.empty() || resumeArray.back().empty()) {
-        // Before the first sample the picture still shows its elements, at 0%.
-        const int processors = QThread::idealThreadCount();
-        if (processors < 1)
+        // Before the first sample the picture still shows its elements, at 0%, once per
+        // processor the collector counts (those of the tree it reads, not of this machine).
+        const auto processors = myDelegate != nullptr
+                                    ? myDelegate->collector().processorCount()
+                                    : std::optional<std::size_t>(std::max(QThread::idealThreadCount(), 0));
+        if (!processors || *processors < 1)
             return;
-        resumeArray = History<CpuSample>().appended(zeroCpuSample(static_cast<std::size_t>(processors)));
+        resumeArray = History<CpuSample>().appended(zeroCpuSample(*processors));
     }
     const std::size_t cores = resumeArray.back().size() - 1;
     const double height = TvlClasses::retRootMenuHeight();

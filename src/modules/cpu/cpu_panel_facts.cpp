@@ -4,9 +4,7 @@
 #include "collect/load_system_information.h"
 #include "toolkit/localization.h"
 
-#include <QThread>
-
-QString cpuKindText(const LoadSystemInformation& loadInfo)
+QString cpuKindText(LoadSystemInformation& loadInfo)
 {
     QString brand;
     if (MachineSource* machine = loadInfo.sources().machine.get()) {
@@ -14,9 +12,12 @@ QString cpuKindText(const LoadSystemInformation& loadInfo)
         if (brand.isEmpty())
             brand = LoadSystemInformation::cpuGetRareNameNew(*machine).value_or(QString());
     }
+    const auto processors = loadInfo.processorCount();
+    if (!processors)
+        return brand.isEmpty() ? QStringLiteral("---") : brand;
     return localized("%@ %dcores")
         .replace(QLatin1String("%@"), brand)
-        .replace(QLatin1String("%d"), QString::number(QThread::idealThreadCount()));
+        .replace(QLatin1String("%d"), QString::number(*processors));
 }
 
 QStringList gpuRowTexts(const LoadSystemInformation& loadInfo)

@@ -6,8 +6,9 @@
 
 class LoadSystemInformation;
 
-// "<brand> <n>cores", the brand falling back to the architecture and clock.
-QString cpuKindText(const LoadSystemInformation& loadInfo);
+// "<brand> <n>cores", the brand falling back to the architecture and clock, the count being the
+// collector's; the brand alone (or "---") when the count is unknown.
+QString cpuKindText(LoadSystemInformation& loadInfo);
 
 // Exactly two rows, "<name> - <memory>" for each graphics processor found, "--" for the rest.
 QStringList gpuRowTexts(const LoadSystemInformation& loadInfo);

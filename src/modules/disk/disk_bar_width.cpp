@@ -10,9 +10,20 @@ double labelColumn(const DiskLabelColumn& column)
 
 } // namespace
 
+DiskBaseDict shownDisks(const DiskPictureSettings& settings, const DiskBaseDict& diskBaseDict)
+{
+    if (settings.virtualDisks)
+        return diskBaseDict;
+    DiskBaseDict shown;
+    for (const auto& [key, disk] : diskBaseDict)
+        if (!disk.isVirtual)
+            shown.emplace(key, disk);
+    return shown;
+}
+
 std::vector<StorageBarSet> diskBarSets(const DiskPictureSettings& settings, const DiskBaseDict& diskBaseDict)
 {
-    return storageBarSets(settings.eachSet, diskBaseDict,
+    return storageBarSets(settings.eachSet, shownDisks(settings, diskBaseDict),
                           [](const DiskBaseEntry& disk) { return volumePicture(disk.iconKind, disk.bsdName); });
 }
 

@@ -10,7 +10,11 @@
 // Diameter of the read and write lamps, in points.
 inline constexpr double kDiskLampDiameter = 7;
 
-// Each described disk in key order when a set per disk is asked for, else one combined set.
+// The described disks the module shows: those with hardware of their own, and the others too
+// when the settings ask for them.
+DiskBaseDict shownDisks(const DiskPictureSettings& settings, const DiskBaseDict& diskBaseDict);
+
+// Each shown disk in key order when a set per disk is asked for, else one combined set.
 std::vector<StorageBarSet> diskBarSets(const DiskPictureSettings& settings, const DiskBaseDict& diskBaseDict);
 
 // How many of the three elements (indicator, graph, text) are switched on.

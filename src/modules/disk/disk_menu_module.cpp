@@ -40,7 +40,7 @@ void Disk_MenuModule::drawBaseStatusBar()
     addBaseItems(Disk_EnaMenu_Amon, Disk_EnaMenu_Cnsl, Disk_EnaMenu_Tmnl,
                  settings_.bar.pictures[StoragePicture::MenuInternal]);
     panel_ = new Disk_MenuController();
-    panel_->loadBaseData(settings_.bar.pictures, diskBaseDict_);
+    panel_->loadBaseData(settings_.bar.pictures, shownDisks(settings_.bar, diskBaseDict_));
     addPanel(panel_);
     menuItemRefresh = false;
     redrawStatusItem();

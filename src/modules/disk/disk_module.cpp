@@ -46,6 +46,7 @@ ModuleSchema diskSchema()
                            {Disk_Display_Text, T::Bool, false},
                            {Disk_ShowEachDisk, T::Bool, true},
                            {Disk_WithDiskIconInBackground, T::Bool, false},
+                           {Disk_ShowVirtualDisks, T::Bool, false},
                            {Disk_UpdateInterval, T::TruncatedInteger, 2, kIntervalRange},
                            {Disk_GraphWidth, T::TruncatedInteger, 30, kGraphWidthRange},
                            {Disk_Indicator_Label, T::Integer, 1},
@@ -71,15 +72,16 @@ ModuleSchema diskSchema()
 
 void sampleDisk(const SampleRequest& request, InfoDict& info)
 {
-    if (auto sample = request.loadInfo.retDiskRW(static_cast<double>(request.interval)))
+    if (auto sample = request.loadInfo.retDiskRW(static_cast<double>(request.seconds)))
         appendSample(request, info, std::move(*sample));
 }
 
 QString diskSnapshotText(const SnapshotContext& context)
 {
-    const DiskBaseDict& disks = context.disks;
+    const DiskPictureSettings settings = diskPictureSettings(context.settings);
+    const DiskBaseDict disks = shownDisks(settings, context.disks);
     const History<DiskSample> history = context.info.history<DiskSample>(context.slot);
-    const std::vector<StorageBarSet> sets = diskBarSets(diskPictureSettings(context.settings), disks);
+    const std::vector<StorageBarSet> sets = diskBarSets(settings, disks);
     // A rate shown is a rate measured: before two samples there is none to show.
     const bool measured = history.size() >= 2;
     QString out = QStringLiteral("Disk\n");

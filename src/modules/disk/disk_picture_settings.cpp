@@ -20,8 +20,10 @@ DiskPictureSettings diskPictureSettings(const ModuleDefaults& d)
     DiskPictureSettings s;
     static_cast<StorageBasics&>(s) = storageBasics(d, Disk_ShowMyLabel, DiskThemeKey::L04, DiskItemSortArray,
                                                    Disk_ShowEachDisk, DiskInnerIconAbleToBeBol);
-    readSettings(
-        d, {{&s.indicator, Disk_Display_Indicator}, {&s.graph, Disk_Display_Graph}, {&s.text, Disk_Display_Text}});
+    readSettings(d, {{&s.indicator, Disk_Display_Indicator},
+                     {&s.graph, Disk_Display_Graph},
+                     {&s.text, Disk_Display_Text},
+                     {&s.virtualDisks, Disk_ShowVirtualDisks}});
     s.indicatorLabels = labelColumn(d, Disk_Indicator_LabelAry, DiskInnerIndicatorLabelWidth);
     s.graphLabels = labelColumn(d, Disk_Graph_LabelAry, DiskInnerGraphLabelWidth);
     s.textLabels = labelColumn(d, Disk_Text_LabelAry, DiskInnerTextLabelWidth);

@@ -28,6 +28,7 @@ struct DiskPictureSettings : StorageBasics {
     TvlClasses::DiskGraphStyle graphStyle; // with the read and write colours
     QColor lampFrame;
     QColor lampOff;
+    bool virtualDisks = false; // devices without hardware of their own are shown too
 
     // By element code: lamps, graph, text.
     std::array<bool, 3> shownElements() const { return {indicator, graph, text}; }

@@ -61,6 +61,9 @@ QWidget* DiskTabViewController::buildDisplay()
     // A picture stands for one disk, so it goes only behind per-disk sets.
     connect(each, &QCheckBox::toggled, icons, &QWidget::setEnabled);
     icons->setEnabled(each->isChecked());
+    // The menu lists a block per disk, so it is rebuilt for the new list.
+    addSwitch(form, Disk_ShowVirtualDisks, "Show virtual devices (loop, LVM, RAID)",
+              {{QLatin1String(NotifKey::ModuleItemRefreshNow), true}});
     addLabelSwitch(form, Disk_ShowMyLabel, "Show the Disk label");
     return box;
 }

@@ -33,10 +33,9 @@ Network_Current::Network_Current(QWidget* parent)
     grid->setColumnStretch(2, 1);
 }
 
-void Network_Current::replaceData(double seconds, const NetworkPictureSettings& settings,
-                                  const History<NetworkSample>& resumeArray)
+void Network_Current::replaceData(const NetworkPictureSettings& settings, const History<NetworkSample>& resumeArray)
 {
-    figures_ = networkPanelFigures(resumeArray, seconds, settings.bits);
+    figures_ = networkPanelFigures(resumeArray, settings.bits);
     const QString* texts[4][2] = {{&figures_.nowUp, &figures_.nowDw},
                                   {&figures_.avgUp, &figures_.avgDw},
                                   {&figures_.peakUp, &figures_.peakDw},

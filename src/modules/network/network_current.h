@@ -18,8 +18,7 @@ class Network_Current final : public QWidget {
 public:
     explicit Network_Current(QWidget* parent = nullptr);
 
-    // seconds is what the newest sample covers.
-    void replaceData(double seconds, const NetworkPictureSettings& settings, const History<NetworkSample>& resumeArray);
+    void replaceData(const NetworkPictureSettings& settings, const History<NetworkSample>& resumeArray);
     void setLocation(const QString& location);
     // The machine's address as the internet sees it; empty until it has been looked up.
     void setGlobalAddress(const QString& address);

@@ -79,7 +79,6 @@ void Network_MenuModule::setHistory(const InfoDict& info)
 void Network_MenuModule::setResumeArray(const History<NetworkSample>& history)
 {
     resumeArray = history;
-    arrivals_.note(resumeArray.identity());
 }
 
 void Network_MenuModule::setNetworkBaseDict(std::shared_ptr<const NetworkBase> base)
@@ -87,14 +86,9 @@ void Network_MenuModule::setNetworkBaseDict(std::shared_ptr<const NetworkBase> b
     networkBaseDict = std::move(base);
 }
 
-double Network_MenuModule::retNowInterval() const
-{
-    return arrivals_.secondsBetweenNewest(resumeArray.empty() ? 1.0 : resumeArray.back().interval);
-}
-
 NetworkRates Network_MenuModule::retNowUpDwBytes() const
 {
-    return currentNetworkRates(resumeArray, retNowInterval());
+    return currentNetworkRates(resumeArray);
 }
 
 void Network_MenuModule::drawBaseStatusBar()
@@ -170,7 +164,7 @@ void Network_MenuModule::redrawStatusItem()
     if (menuGraph_ != nullptr)
         menuGraph_->setPixmap(QPixmap::fromImage(menuGraph(settings_.openMenu)));
     if (networkCurrent != nullptr)
-        networkCurrent->replaceData(retNowInterval(), settings_.bar, resumeArray);
+        networkCurrent->replaceData(settings_.bar, resumeArray);
     if (myDelegate != nullptr)
         networkBaseDict = myDelegate->collector().networkBaseDict();
     // The base is replaced, never changed, when an interface changes: a new one means new rows.

@@ -9,7 +9,6 @@
 #include "modules/module_settings.h"
 #include "modules/network/image_network_bar.h"
 #include "modules/network/network_current.h"
-#include "modules/sample_arrivals.h"
 
 #include <QHash>
 #include <QThreadPool>
@@ -59,8 +58,6 @@ protected:
 private:
     static constexpr double kMenuGraphHeight = 20;
 
-    // Seconds the newest sample covers.
-    double retNowInterval() const;
     QImage menuGraph(const NetworkPictureSettings& settings);
     void removeNicMenus();
     void addtionalNicMenus();
@@ -75,7 +72,6 @@ private:
     QAction* nicSeparator_ = nullptr;
     QList<QMenu*> nicMenus_;
     History<NetworkSample> resumeArray;
-    SampleArrivals arrivals_;
     ModuleSettings<NetworkPictureSettings> settings_;
     std::shared_ptr<const NetworkBase> networkBaseDict;
     std::shared_ptr<const NetworkBase> listedBase_;

@@ -62,8 +62,8 @@ void forgetInterfaces(LoadSystemInformation& loadInfo)
 
 void sampleNetwork(const SampleRequest& request, InfoDict& info)
 {
-    const auto interval = static_cast<double>(request.interval);
-    if (auto sample = request.loadInfo.loadNetworkData(interval, *request.loadInfo.networkBaseDict()))
+    const auto seconds = static_cast<double>(request.seconds);
+    if (auto sample = request.loadInfo.loadNetworkData(seconds, *request.loadInfo.networkBaseDict()))
         appendSample(request, info, std::move(*sample));
 }
 
@@ -74,8 +74,7 @@ QString networkSnapshotText(const SnapshotContext& context)
     if (history.empty())
         return out + QStringLiteral("  no sample yet\n");
     const NetworkSample& newest = history.back();
-    out += QStringLiteral("  ") +
-           networkBarText(currentNetworkRates(history, newest.interval), networkRatesInBits(context.settings)) +
+    out += QStringLiteral("  ") + networkBarText(currentNetworkRates(history), networkRatesInBits(context.settings)) +
            QLatin1Char('\n');
     out += QStringLiteral("  sent %1 received %2 bytes, over %3 s\n")
                .arg(newest.toUp)

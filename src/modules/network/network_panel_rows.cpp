@@ -2,8 +2,11 @@
 #include "modules/network/network_panel_rows.h"
 
 #include "collect/network_detail.h"
+#include "modules/network/network_rates.h"
 #include "toolkit/localization.h"
 #include "toolkit/value_format.h"
+
+#include <algorithm>
 
 namespace {
 
@@ -14,19 +17,25 @@ QString rate(double bytesPerSecond, bool bits)
 
 } // namespace
 
-NetworkPanelFigures networkPanelFigures(const History<NetworkSample>& history, double seconds, bool bits)
+NetworkPanelFigures networkPanelFigures(const History<NetworkSample>& history, bool bits)
 {
     const auto detail = TvlClasses::getNetworkDetail(history, &NetworkSample::toUp, &NetworkSample::toDw);
     if (!detail)
         return {};
-    const double interval = history.back().interval;
-    const auto perSecond = [](std::int64_t bytes, double over) {
-        return over > 0 ? static_cast<double>(bytes) / over : 0.0;
-    };
-    return {rate(perSecond(detail->nowUp, seconds), bits),  rate(perSecond(detail->nowDw, seconds), bits),
-            rate(static_cast<double>(detail->avgUp), bits), rate(static_cast<double>(detail->avgDw), bits),
-            rate(perSecond(detail->maxUp, interval), bits), rate(perSecond(detail->maxDw, interval), bits),
-            TvlClasses::calcMemorySize(detail->lstUp, 1),   TvlClasses::calcMemorySize(detail->lstDw, 1)};
+    const NetworkRates now = currentNetworkRates(history);
+    NetworkRates peak;
+    for (std::size_t i = 1; i < history.size(); ++i) {
+        const NetworkRates r = sampleRates(history, i);
+        peak = {std::max(peak.up, r.up), std::max(peak.down, r.down)};
+    }
+    return {rate(now.up, bits),
+            rate(now.down, bits),
+            rate(static_cast<double>(detail->avgUp), bits),
+            rate(static_cast<double>(detail->avgDw), bits),
+            rate(peak.up, bits),
+            rate(peak.down, bits),
+            TvlClasses::calcMemorySize(detail->lstUp, 1),
+            TvlClasses::calcMemorySize(detail->lstDw, 1)};
 }
 
 QString linkSpeedText(std::int64_t bitsPerSecond)

@@ -22,10 +22,10 @@ struct NetworkPanelFigures {
     bool operator==(const NetworkPanelFigures&) const = default;
 };
 
-// From the history's traffic figures; seconds is what the newest sample covers. The peak is
-// per sample interval in the history and is turned into a rate with the newest interval.
-// Empty texts for an empty history.
-NetworkPanelFigures networkPanelFigures(const History<NetworkSample>& history, double seconds, bool bits);
+// From the history's traffic figures. Samples cover different spans (one second while the menu
+// is open, the interval setting otherwise), so now and peak are each sample's growth over its
+// own span. Empty texts for an empty history.
+NetworkPanelFigures networkPanelFigures(const History<NetworkSample>& history, bool bits);
 
 struct NicRow {
     std::string bsdName;

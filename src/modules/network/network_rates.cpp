@@ -27,11 +27,9 @@ NetworkRates sampleRates(const History<NetworkSample>& history, std::size_t inde
     return growth(history[index - 1], history[index], history[index].interval);
 }
 
-NetworkRates currentNetworkRates(const History<NetworkSample>& history, double seconds)
+NetworkRates currentNetworkRates(const History<NetworkSample>& history)
 {
-    if (history.size() < 2)
-        return {};
-    return growth(history[history.size() - 2], history.back(), seconds);
+    return history.empty() ? NetworkRates{} : sampleRates(history, history.size() - 1);
 }
 
 bool networkRatesInBits(const ModuleDefaults& myDefaults)

@@ -16,12 +16,12 @@ struct NetworkRates {
     bool operator==(const NetworkRates&) const = default;
 };
 
-// The growth from sample index - 1 to sample index over that sample's interval; none for the
-// first sample. A counter that went backwards (a reset, an interface gone) gives 0.
+// The growth from sample index - 1 to sample index over the seconds that sample covers; none for
+// the first sample. A counter that went backwards (a reset, an interface gone) gives 0.
 NetworkRates sampleRates(const History<NetworkSample>& history, std::size_t index);
 
-// The growth between the two newest samples over seconds, the time the newest one covers.
-NetworkRates currentNetworkRates(const History<NetworkSample>& history, double seconds);
+// The rates of the newest sample.
+NetworkRates currentNetworkRates(const History<NetworkSample>& history);
 
 // Network_Text_Mode: 2 shows bits per second, anything else (1) bytes.
 bool networkRatesInBits(const ModuleDefaults& myDefaults);

@@ -70,6 +70,6 @@ QImage NetworkTabViewController::drawPreview(const ModuleDefaults& defaults)
     ImageNetworkBar bar;
     bar.redrawWithSize(QSizeF(networkBarWidth(settings), height),
                        TvlClasses::retStatusMenuInsets(networkShownElementCount(settings)), false, true, settings,
-                       history, currentNetworkRates(history, history.back().interval));
+                       history, currentNetworkRates(history));
     return bar.image(devicePixelRatioF() * PicturePreview::zoom());
 }
