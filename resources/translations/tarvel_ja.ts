@@ -506,5 +506,9 @@ new ver : %@</source>
         <source>%1, settings in %2</source>
         <translation>%1、設定ファイル: %2</translation>
     </message>
+    <message>
+        <source>Show virtual devices (loop, LVM, RAID)</source>
+        <translation>仮想デバイスも表示 (ループ, LVM, RAID)</translation>
+    </message>
 </context>
 </TS>
