@@ -9,8 +9,8 @@
 #include <algorithm>
 #include <chrono>
 #include <future>
-#include <thread>
 #include <gtest/gtest.h>
+#include <thread>
 
 namespace {
 

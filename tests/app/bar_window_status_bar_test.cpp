@@ -144,13 +144,7 @@ TEST(BarWindowTheme, ADarkThemeDarkensTheBarBehindItsPictures)
     TvlClasses::checkMyApplicationSupportDir();
     ASSERT_TRUE(TvlClasses::replaceThemeFile(TvlClasses::retBundleThemePath(QStringLiteral("_dark_theme")),
                                              TvlClasses::retThemeFilePath(QStringLiteral("_now_theme.plist"))));
-    {
-        PlistSettingsStore store(t.settingsPath());
-        for (const ModuleSchema* schema : allModuleSchemas())
-            PrefFunctions::initializeModulePreference(*schema, store);
-        store.setString(PrefKey::AppVersion, QStringLiteral("6.0.0"));
-        ASSERT_TRUE(store.synchronize());
-    }
+    t.writeSettings();
     BarWindowStatusBar bar;
     t.launchWithBar(bar);
     // The left end of the bar holds no item: there the bar's own colour shows.

@@ -53,8 +53,9 @@ TEST(GeneralMenu, UpdateCheckAnswersThroughTheFallbackWithoutANotificationServic
     t.store().setString(QLatin1String(PrefKey::UpdateVersionFileURL), server.url(QStringLiteral("/newer.dat")));
     check->trigger();
     ASSERT_TRUE(QTest::qWaitFor([&bar] { return !bar.messages.isEmpty(); }, 5000));
-    EXPECT_EQ(bar.messages.first(),
-              QStringLiteral("New version available|now ver : %1\nnew ver : 9.99.99").arg(QStringLiteral(TARVEL_VERSION)));
+    EXPECT_EQ(
+        bar.messages.first(),
+        QStringLiteral("New version available|now ver : %1\nnew ver : 9.99.99").arg(QStringLiteral(TARVEL_VERSION)));
     EXPECT_TRUE(t.store().boolForKey(QLatin1String(PrefKey::UpdateAlerting)));
 
     // A server that is gone is not told apart from being up to date.

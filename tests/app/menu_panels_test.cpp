@@ -54,14 +54,7 @@ TEST(MenuPanels, EveryPanelIsShownWholeAndTheProcessesFromTheFirstOpening)
     TestApp t;
     t.root = t.dir.filePath(QStringLiteral("tree")).toStdString();
     writeProcessTree(t.root, "w-", 1);
-    {
-        PlistSettingsStore store(t.settingsPath());
-        for (const ModuleSchema* schema : allModuleSchemas())
-            PrefFunctions::initializeModulePreference(*schema, store);
-        store.setString(PrefKey::AppVersion, QStringLiteral("6.0.0"));
-        store.setBool(PrefKey::DisplayTopWindowAtStartup, false);
-        ASSERT_TRUE(store.synchronize());
-    }
+    t.writeSettings([](SettingsStore& store) { store.setBool(PrefKey::DisplayTopWindowAtStartup, false); });
     t.queueTicks({{10, 5, 0, 85}});
     t.launchWithBar(bar);
     t.executor->finishCycle();

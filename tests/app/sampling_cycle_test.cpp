@@ -171,14 +171,7 @@ TEST(CycleBody, MemoryAndNetworkStepsAndTheInterfaceBaseBetweenSamples)
 TEST(SamplingSchedule, AMountDuringARunningCycleIsMeasuredAtTheNextCycle)
 {
     TestApp t;
-    {
-        PlistSettingsStore store(t.settingsPath());
-        for (const ModuleSchema* schema : allModuleSchemas())
-            PrefFunctions::initializeModulePreference(*schema, store);
-        store.setString(AppVersion, QStringLiteral("6.0.0"));
-        store.setInteger(Vlms_UpdateInterval, 30);
-        store.synchronize();
-    }
+    t.writeSettings([](SettingsStore& store) { store.setInteger(Vlms_UpdateInterval, 30); });
     t.launch();
     t.executor->finishCycle(); // the first cycle measures every volume
     const auto volumes = [&] { return moduleHistory<VolumeSample>(t.app->infoDict(), ModuleId::Volume).size(); };
@@ -221,16 +214,11 @@ TEST(SamplingCycle, NetworkAndDiskRatesHoldWhetherTheirMenusAreOpenOrNot)
 {
     RecordingStatusBar bar;
     TestApp t;
-    {
-        PlistSettingsStore store(t.settingsPath());
-        for (const ModuleSchema* schema : allModuleSchemas())
-            PrefFunctions::initializeModulePreference(*schema, store);
-        store.setString(AppVersion, QStringLiteral("6.0.0"));
+    t.writeSettings([](SettingsStore& store) {
         store.setArray(TopItemSortArray, {3, 4});
         store.setInteger(Network_UpdateInterval, 3);
         store.setInteger(Disk_UpdateInterval, 3);
-        store.synchronize();
-    }
+    });
     // Steady traffic: 3000 bytes sent and 1 MiB read every second.
     FakeNetworkSource* network = nullptr;
     OneDisk* disk = nullptr;

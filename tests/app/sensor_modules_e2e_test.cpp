@@ -49,19 +49,17 @@ TEST(SensorModules, AMacRunningLinuxNamesItsSmcKeysAndRemembersThoseThatDoNotAns
     TestApp t;
     launchOver(t, bar, "sensors-mac");
     const QJsonObject root = reportJson(t);
-    EXPECT_EQ(root.value(QStringLiteral("Temp")).toObject(),
-              (QJsonObject{{QStringLiteral("PCPU 1 Proximity"), 52},
-                           {QStringLiteral("GPU Proximity"), 48},
-                           {QStringLiteral("Enclosure Base 1"), 30},
-                           {QStringLiteral("Applesmc TZ9X"), 41},
-                           {QStringLiteral("Coretemp Package Id 0"), 55},
-                           {QStringLiteral("Coretemp Core 0"), 53},
-                           {QLatin1String(kAverageTempKey), 46}}));
+    EXPECT_EQ(root.value(QStringLiteral("Temp")).toObject(), (QJsonObject{{QStringLiteral("PCPU 1 Proximity"), 52},
+                                                                          {QStringLiteral("GPU Proximity"), 48},
+                                                                          {QStringLiteral("Enclosure Base 1"), 30},
+                                                                          {QStringLiteral("Applesmc TZ9X"), 41},
+                                                                          {QStringLiteral("Coretemp Package Id 0"), 55},
+                                                                          {QStringLiteral("Coretemp Core 0"), 53},
+                                                                          {QLatin1String(kAverageTempKey), 46}}));
     // The fan standing still counts in the average.
-    EXPECT_EQ(root.value(QStringLiteral("Fan")).toObject(),
-              (QJsonObject{{QStringLiteral("Leftside"), 2000},
-                           {QStringLiteral("Rightside"), 0},
-                           {QLatin1String(kAverageFanKey), 1000}}));
+    EXPECT_EQ(root.value(QStringLiteral("Fan")).toObject(), (QJsonObject{{QStringLiteral("Leftside"), 2000},
+                                                                         {QStringLiteral("Rightside"), 0},
+                                                                         {QLatin1String(kAverageFanKey), 1000}}));
     EXPECT_EQ(bar.texts.value(QStringLiteral("Temp")), QStringLiteral("46°C"));
 
     // Keys of the tables this SMC does not have are never read again, across launches.
@@ -82,14 +80,9 @@ TEST(SensorModules, TheBarFollowsTheChosenSensorAndTheMenuListsTheDrives)
 {
     RecordingStatusBar bar;
     TestApp t;
-    {
-        PlistSettingsStore store(t.settingsPath());
-        for (const ModuleSchema* schema : allModuleSchemas())
-            PrefFunctions::initializeModulePreference(*schema, store);
+    t.writeSettings([](SettingsStore& store) {
         store.setString(QLatin1String(PrefKey::Temp_ShowTempOnMenu), QStringLiteral("Drivetemp Temp1"));
-        store.setString(QLatin1String(PrefKey::AppVersion), QStringLiteral(TARVEL_VERSION));
-        store.synchronize();
-    }
+    });
     launchOver(t, bar, "sensors-drives");
     ASSERT_NE(t.app->menuModule(ModuleId::Temp), nullptr);
     SensorMenuModule& temp = sensorModule(t, ModuleId::Temp);
@@ -124,6 +117,7 @@ TEST(SensorModules, AMachineWithoutSensorsSaysSoAndKeepsRunning)
     EXPECT_FALSE(root.contains(QStringLiteral("Fan")));
     SnapshotReport report(t.app->collector());
     const QString text = report.text(*t.app);
-    EXPECT_TRUE(text.contains(QStringLiteral("Temp\n  ---\n  No temperature sensors were found.\n"))) << text.toStdString();
+    EXPECT_TRUE(text.contains(QStringLiteral("Temp\n  ---\n  No temperature sensors were found.\n")))
+        << text.toStdString();
     EXPECT_TRUE(text.contains(QStringLiteral("Fan\n  ---\n  No fans were found.\n"))) << text.toStdString();
 }

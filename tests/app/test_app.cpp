@@ -1,7 +1,11 @@
 // The controller harness shared by the application tests.
 #include "test_app.h"
 
+#include "modules/module_registry.h"
+#include "prefs/pref_keys.h"
+
 #include <QThread>
+#include <gtest/gtest.h>
 
 std::optional<std::vector<ProcessorTicks>> ScriptedCpuSource::readProcessorTicks()
 {
@@ -27,10 +31,22 @@ void ManualExecutor::finishCycle()
     }
 }
 
-TestApp::TestApp() : script(std::make_shared<std::deque<std::vector<ProcessorTicks>>>())
+TestApp::TestApp()
+    : script(std::make_shared<std::deque<std::vector<ProcessorTicks>>>())
 {
     // Themes go to a folder of the test's own.
     qputenv("XDG_DATA_HOME", dir.filePath(QStringLiteral("data")).toUtf8());
+}
+
+void TestApp::writeSettings(const std::function<void(SettingsStore&)>& change) const
+{
+    PlistSettingsStore store(settingsPath());
+    for (const ModuleSchema* schema : allModuleSchemas())
+        PrefFunctions::initializeModulePreference(*schema, store);
+    store.setString(PrefKey::AppVersion, QStringLiteral(TARVEL_VERSION));
+    if (change)
+        change(store);
+    EXPECT_TRUE(store.synchronize());
 }
 
 void TestApp::launch(bool threaded)

@@ -62,6 +62,9 @@ struct TestApp {
     // Launches with status items going to the given bar.
     void launchWithBar(StatusBar& bar);
     void queueTicks(std::vector<ProcessorTicks> ticks) { script->push_back(std::move(ticks)); }
+    // Writes every module's first-run settings and this version to the settings file, then the
+    // test's changes, as a settings file that a run of this version has already made.
+    void writeSettings(const std::function<void(SettingsStore&)>& change = {}) const;
     void launchOn(StatusBar* bar, bool threaded);
     PlistSettingsStore& store() { return static_cast<PlistSettingsStore&>(app->userDefaults()); }
     // The CPU history of the last finished cycle.

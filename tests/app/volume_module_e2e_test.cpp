@@ -34,15 +34,10 @@ TEST(VolumeModuleEndToEnd, LoopMountShowsWithinTwoCyclesAndGoesAfterTheUnmount)
                  {QStringLiteral("-q"), QStringLiteral("-F"), QStringLiteral("-L"), name, image}))
         GTEST_SKIP() << "cannot make an ext4 image";
 
-    {
-        PlistSettingsStore store(t.settingsPath());
-        for (const ModuleSchema* schema : allModuleSchemas())
-            PrefFunctions::initializeModulePreference(*schema, store);
-        store.setString(AppVersion, QStringLiteral("6.0.0"));
+    t.writeSettings([](SettingsStore& store) {
         store.setArray(TopItemSortArray, {7});
         store.setBool(Vlms_Display_Percent, true);
-        store.synchronize();
-    }
+    });
     RecordingStatusBar bar;
     auto executor = std::make_unique<ManualExecutor>();
     ManualExecutor& cycles = *executor;
