@@ -1,4 +1,5 @@
 // Reading kernel files and file systems: fresh contents, reopening, large files, and nothing that blocks.
+#include "collect/linux/linux_process_source.h"
 #include "collect/linux/proc_file.h"
 #include "collect/linux/statvfs_with_deadline.h"
 #include "collect/linux/sys_root.h"
@@ -166,4 +167,20 @@ TEST(SysRoot, PathsFromTheTreeNeverLeaveIt)
     // A mount point read from the tree's own table may climb as it likes: it stays inside.
     EXPECT_EQ(root.join("/../../../.."), std::filesystem::path("/tmp/tree/"));
     EXPECT_EQ(root.join("mnt/../../../etc"), std::filesystem::path("/tmp/tree/etc"));
+}
+
+TEST(ProcFile, AProcessScanPassesOverAPipeInPlaceOfAStatFile)
+{
+    QTemporaryDir dir;
+    const std::filesystem::path root = dir.path().toStdString();
+    std::filesystem::create_directories(root / "proc/100");
+    std::filesystem::create_directories(root / "proc/101");
+    ASSERT_EQ(::mkfifo((root / "proc/100/stat").c_str(), 0600), 0);
+    std::ofstream(root / "proc/101/stat") << "101 (ok) S 1 1 1 0 -1 0 0 0 0 0 7 3 0 0 20 0 1 0 500 1000 9 0\n";
+
+    LinuxProcessSource source{SysRoot(root)};
+    const auto scan = source.scanProcesses();
+    ASSERT_TRUE(scan.has_value());
+    ASSERT_EQ(scan->size(), 1u);
+    EXPECT_EQ(scan->front().pid, 101);
 }

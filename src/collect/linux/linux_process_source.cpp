@@ -5,7 +5,6 @@
 #include "collect/linux/process_stat_parser.h"
 #include "collect/linux/rejected_text.h"
 
-#include <fcntl.h>
 #include <sys/resource.h>
 #include <unistd.h>
 
@@ -27,15 +26,6 @@ std::optional<std::int64_t> processEntry(const char* name)
         pid = pid * 10 + (*c - '0');
     }
     return pid;
-}
-
-int openAt(int folder, const char* relative)
-{
-    int fd;
-    do {
-        fd = ::openat(folder, relative, O_RDONLY | O_CLOEXEC);
-    } while (fd < 0 && errno == EINTR);
-    return fd;
 }
 
 // The start of the file, up to size bytes; 0 or less when it cannot be read (a process that
@@ -155,7 +145,7 @@ std::optional<std::string_view> LinuxProcessSource::readStat(std::int64_t pid, c
             ::close(fd);
         std::array<char, 32> relative{};
         std::snprintf(relative.data(), relative.size(), "%s/stat", name);
-        fd = openAt(::dirfd(procFolder_.get()), relative.data());
+        fd = openKernelFile(::dirfd(procFolder_.get()), relative.data());
         got = fd >= 0 ? readStart(fd, buffer_.data(), buffer_.size()) : -1;
         if (got <= 0) {
             if (fd >= 0)

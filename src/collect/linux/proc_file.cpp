@@ -12,14 +12,20 @@ namespace {
 // Most kernel text files fit; /proc/stat on large machines grows the buffer once.
 constexpr std::size_t kInitialBuffer = 4096;
 
+int openReadOnly(const std::filesystem::path& path)
+{
+    return openKernelFile(AT_FDCWD, path.c_str());
+}
+} // namespace
+
 // Kernel text files are regular files. A pipe nobody writes would block a read for ever and a
 // device such as /dev/zero never ends, so anything else standing in their place (in a tree
 // given with --root, say) is not opened; non-blocking, so that even opening a pipe cannot wait.
-int openReadOnly(const std::filesystem::path& path)
+int openKernelFile(int folder, const char* path)
 {
     int fd;
     do {
-        fd = ::open(path.c_str(), O_RDONLY | O_CLOEXEC | O_NONBLOCK);
+        fd = ::openat(folder, path, O_RDONLY | O_CLOEXEC | O_NONBLOCK);
     } while (fd < 0 && errno == EINTR);
     if (fd < 0)
         return fd;
@@ -31,7 +37,6 @@ int openReadOnly(const std::filesystem::path& path)
     }
     return fd;
 }
-} // namespace
 
 ProcFile::ProcFile(std::filesystem::path path)
     : path_(std::move(path))

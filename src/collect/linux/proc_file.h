@@ -7,6 +7,10 @@
 #include <string_view>
 #include <vector>
 
+// Opens a kernel file for reading, relative to the folder descriptor (AT_FDCWD for the working
+// folder, or an absolute path): only a regular file, and never waiting; -1 otherwise.
+int openKernelFile(int folder, const char* path);
+
 class ProcFile {
 public:
     // No kernel text file we read comes near this (a /proc/self/mountinfo of 30,000 mounts
