@@ -510,5 +510,725 @@ new ver : %@</source>
         <source>Show virtual devices (loop, LVM, RAID)</source>
         <translation>仮想デバイスも表示 (ループ, LVM, RAID)</translation>
     </message>
+    <message>
+        <source>Tarvel 6 will restart after %lld days.</source>
+        <translation>Tarvel 6 は %lld 日後に再起動します。</translation>
+    </message>
+    <message>
+        <source>Hello!</source>
+        <translation>こんにちは!</translation>
+    </message>
+    <message>
+        <source>The current theme could not be written.</source>
+        <translation>現在のテーマを書き込めませんでした。</translation>
+    </message>
+    <message>
+        <source>The desktop's appearance changed; switching to the theme %s.</source>
+        <translation>デスクトップの外観が変わりました。テーマ %s に切り替えます。</translation>
+    </message>
+    <message>
+        <source>No display found: showing texts. Run tarvel on a desktop (DISPLAY or WAYLAND_DISPLAY) for the panel.</source>
+        <translation>ディスプレイが見つからないため、テキストで表示します。パネルを使うにはデスクトップ (DISPLAY または WAYLAND_DISPLAY) で tarvel を実行してください。</translation>
+    </message>
+    <message>
+        <source>Root</source>
+        <translation>ルート</translation>
+    </message>
+    <message>
+        <source>User</source>
+        <translation>ユーザ</translation>
+    </message>
+    <message>
+        <source>System</source>
+        <translation>システム</translation>
+    </message>
+    <message>
+        <source>Nice</source>
+        <translation>低優先度</translation>
+    </message>
+    <message>
+        <source>Idle</source>
+        <translation>アイドル</translation>
+    </message>
+    <message>
+        <source>(Probably VM)</source>
+        <translation>(おそらく仮想マシン)</translation>
+    </message>
+    <message>
+        <source>Cpu Type</source>
+        <translation>CPU の種類</translation>
+    </message>
+    <message>
+        <source>Uptime Boot/Actv</source>
+        <translation>稼働時間 起動/活動</translation>
+    </message>
+    <message>
+        <source>Scheduling Stat</source>
+        <translation>スケジューリング</translation>
+    </message>
+    <message>
+        <source>Load Average</source>
+        <translation>ロードアベレージ</translation>
+    </message>
+    <message>
+        <source>Host Name</source>
+        <translation>ホスト名</translation>
+    </message>
+    <message>
+        <source>CPU</source>
+        <translation>CPU</translation>
+    </message>
+    <message>
+        <source>%@ %dcores</source>
+        <translation>%@ %dコア</translation>
+    </message>
+    <message>
+        <source>Graph</source>
+        <translation>グラフ</translation>
+    </message>
+    <message>
+        <source>Level bar</source>
+        <translation>レベルバー</translation>
+    </message>
+    <message>
+        <source>Cycle meter</source>
+        <translation>円グラフメーター</translation>
+    </message>
+    <message>
+        <source>Text</source>
+        <translation>テキスト</translation>
+    </message>
+    <message>
+        <source>Display</source>
+        <translation>表示</translation>
+    </message>
+    <message>
+        <source>Average multiple processors</source>
+        <translation>複数プロセッサを平均する</translation>
+    </message>
+    <message>
+        <source>Show user and system as one figure</source>
+        <translation>ユーザとシステムを合計して表示</translation>
+    </message>
+    <message>
+        <source>Draw the graph as a line</source>
+        <translation>グラフを線で描く</translation>
+    </message>
+    <message>
+        <source>Heavy line</source>
+        <translation>太線</translation>
+    </message>
+    <message>
+        <source>Show the CPU label</source>
+        <translation>CPUラベルを表示</translation>
+    </message>
+    <message>
+        <source>No disk found</source>
+        <translation>ディスクが見つかりません</translation>
+    </message>
+    <message>
+        <source>Revision</source>
+        <translation>リビジョン</translation>
+    </message>
+    <message>
+        <source>Serial</source>
+        <translation>シリアル</translation>
+    </message>
+    <message>
+        <source>Read</source>
+        <translation>読込</translation>
+    </message>
+    <message>
+        <source>Write</source>
+        <translation>書込</translation>
+    </message>
+    <message>
+        <source>Written</source>
+        <translation>書込済み</translation>
+    </message>
+    <message>
+        <source>Disk</source>
+        <translation>ディスク</translation>
+    </message>
+    <message>
+        <source>None</source>
+        <translation>なし</translation>
+    </message>
+    <message>
+        <source>Read/write lamps</source>
+        <translation>読込/書込ランプ</translation>
+    </message>
+    <message>
+        <source>Lamp labels</source>
+        <translation>ランプのラベル</translation>
+    </message>
+    <message>
+        <source>Graph labels</source>
+        <translation>グラフのラベル</translation>
+    </message>
+    <message>
+        <source>Text labels</source>
+        <translation>テキストのラベル</translation>
+    </message>
+    <message>
+        <source>Graph style</source>
+        <translation>グラフの形</translation>
+    </message>
+    <message>
+        <source>Graph scale</source>
+        <translation>グラフの目盛り</translation>
+    </message>
+    <message>
+        <source>Relative to the busiest moment shown</source>
+        <translation>表示中の最大値に合わせる</translation>
+    </message>
+    <message>
+        <source>Logarithmic</source>
+        <translation>対数</translation>
+    </message>
+    <message>
+        <source>Show each disk</source>
+        <translation>ディスクごとに表示</translation>
+    </message>
+    <message>
+        <source>Disk pictures behind each disk</source>
+        <translation>ディスクごとに背景にディスクの絵を描く</translation>
+    </message>
+    <message>
+        <source>Show the Disk label</source>
+        <translation>Diskラベルを表示</translation>
+    </message>
+    <message>
+        <source>Fan</source>
+        <translation>ファン</translation>
+    </message>
+    <message>
+        <source>Blend the warning colours</source>
+        <translation>警告色をなめらかに変える</translation>
+    </message>
+    <message>
+        <source>Preferences...</source>
+        <translation>環境設定...</translation>
+    </message>
+    <message>
+        <source>Shared</source>
+        <translation>共有</translation>
+    </message>
+    <message>
+        <source>Save Theme...</source>
+        <translation>テーマを保存...</translation>
+    </message>
+    <message>
+        <source>Theme</source>
+        <translation>テーマ</translation>
+    </message>
+    <message>
+        <source>Font</source>
+        <translation>フォント</translation>
+    </message>
+    <message>
+        <source>Font position adjustment</source>
+        <translation>フォント位置の調整</translation>
+    </message>
+    <message>
+        <source>Font size difference</source>
+        <translation>フォントサイズの差</translation>
+    </message>
+    <message>
+        <source>Selected Theme</source>
+        <translation>選択中のテーマ</translation>
+    </message>
+    <message>
+        <source>The theme could not be saved.</source>
+        <translation>テーマを保存できませんでした。</translation>
+    </message>
+    <message>
+        <source>Drag to change the order in the menu bar.</source>
+        <translation>ドラッグしてメニューバーでの並び順を変えられます。</translation>
+    </message>
+    <message>
+        <source>Show the Tarvel item</source>
+        <translation>Tarvel 項目を表示</translation>
+    </message>
+    <message>
+        <source>Preview the menu bar here</source>
+        <translation>ここにメニューバーをプレビュー</translation>
+    </message>
+    <message>
+        <source>Modules</source>
+        <translation>モジュール</translation>
+    </message>
+    <message>
+        <source>Colors</source>
+        <translation>カラー</translation>
+    </message>
+    <message>
+        <source>General</source>
+        <translation>一般</translation>
+    </message>
+    <message>
+        <source>Never</source>
+        <translation>しない</translation>
+    </message>
+    <message>
+        <source>Reboot Tarvel regularly (days)</source>
+        <translation>Tarvel を定期的に再起動 (日)</translation>
+    </message>
+    <message>
+        <source>Display preferences at startup</source>
+        <translation>起動時に環境設定を表示</translation>
+    </message>
+    <message>
+        <source>Never receive the update notification</source>
+        <translation>アップデートの通知を受け取らない</translation>
+    </message>
+    <message>
+        <source>Start Tarvel at login</source>
+        <translation>ログイン時に Tarvel を起動</translation>
+    </message>
+    <message>
+        <source>(not available on this system yet)</source>
+        <translation>(このシステムではまだ使えません)</translation>
+    </message>
+    <message>
+        <source>The autostart entry could not be written:</source>
+        <translation>自動起動のエントリを書き込めませんでした:</translation>
+    </message>
+    <message>
+        <source>Wired:</source>
+        <translation>固定:</translation>
+    </message>
+    <message>
+        <source>Active:</source>
+        <translation>使用中:</translation>
+    </message>
+    <message>
+        <source>A:</source>
+        <translation>ア:</translation>
+    </message>
+    <message>
+        <source>Inactive:</source>
+        <translation>非使用:</translation>
+    </message>
+    <message>
+        <source>I:</source>
+        <translation>非:</translation>
+    </message>
+    <message>
+        <source>App:</source>
+        <translation>アプリ:</translation>
+    </message>
+    <message>
+        <source>Cached:</source>
+        <translation>キャッシュ:</translation>
+    </message>
+    <message>
+        <source>C:</source>
+        <translation>キ:</translation>
+    </message>
+    <message>
+        <source>Wired</source>
+        <translation>固定</translation>
+    </message>
+    <message>
+        <source>Active</source>
+        <translation>使用中</translation>
+    </message>
+    <message>
+        <source>Inactive</source>
+        <translation>非使用</translation>
+    </message>
+    <message>
+        <source>Compressed</source>
+        <translation>圧縮</translation>
+    </message>
+    <message>
+        <source>Other</source>
+        <translation>その他</translation>
+    </message>
+    <message>
+        <source>Free</source>
+        <translation>空き</translation>
+    </message>
+    <message>
+        <source>Application</source>
+        <translation>アプリケーション</translation>
+    </message>
+    <message>
+        <source>Cached Files</source>
+        <translation>キャッシュされたファイル</translation>
+    </message>
+    <message>
+        <source>Total</source>
+        <translation>合計</translation>
+    </message>
+    <message>
+        <source>Page-ins</source>
+        <translation>ページイン</translation>
+    </message>
+    <message>
+        <source>Page-outs</source>
+        <translation>ページアウト</translation>
+    </message>
+    <message>
+        <source>Swap Used</source>
+        <translation>使用中のスワップ</translation>
+    </message>
+    <message>
+        <source>Swap Areas</source>
+        <translation>スワップ領域</translation>
+    </message>
+    <message>
+        <source>Memory</source>
+        <translation>メモリ</translation>
+    </message>
+    <message>
+        <source>%d pages/s</source>
+        <translation>%d ページ/秒</translation>
+    </message>
+    <message>
+        <source>%1 of %2</source>
+        <translation>%2 中 %1</translation>
+    </message>
+    <message>
+        <source>file</source>
+        <translation>ファイル</translation>
+    </message>
+    <message>
+        <source>partition</source>
+        <translation>パーティション</translation>
+    </message>
+    <message>
+        <source>Detail text</source>
+        <translation>詳細テキスト</translation>
+    </message>
+    <message>
+        <source>Unit</source>
+        <translation>単位</translation>
+    </message>
+    <message>
+        <source>Show wired, active and inactive pages</source>
+        <translation>固定・使用中・非使用のページを表示</translation>
+    </message>
+    <message>
+        <source>Long labels in the text</source>
+        <translation>テキストで長いラベルを使う</translation>
+    </message>
+    <message>
+        <source>Long labels in the detail text</source>
+        <translation>詳細テキストで長いラベルを使う</translation>
+    </message>
+    <message>
+        <source>Show the Memory label</source>
+        <translation>Memoryラベルを表示</translation>
+    </message>
+    <message>
+        <source>Now</source>
+        <translation>現在</translation>
+    </message>
+    <message>
+        <source>Peak</source>
+        <translation>最大</translation>
+    </message>
+    <message>
+        <source>Since Boot</source>
+        <translation>起動以来</translation>
+    </message>
+    <message>
+        <source>Location</source>
+        <translation>場所</translation>
+    </message>
+    <message>
+        <source>Open Network Settings</source>
+        <translation>ネットワーク設定を開く</translation>
+    </message>
+    <message>
+        <source>Network</source>
+        <translation>ネットワーク</translation>
+    </message>
+    <message>
+        <source>Gbps</source>
+        <translation>Gbps</translation>
+    </message>
+    <message>
+        <source>Mbps</source>
+        <translation>Mbps</translation>
+    </message>
+    <message>
+        <source>Kbps</source>
+        <translation>Kbps</translation>
+    </message>
+    <message>
+        <source>Type</source>
+        <translation>種類</translation>
+    </message>
+    <message>
+        <source>IPv4</source>
+        <translation>IPv4</translation>
+    </message>
+    <message>
+        <source>IPv6</source>
+        <translation>IPv6</translation>
+    </message>
+    <message>
+        <source>Link</source>
+        <translation>リンク</translation>
+    </message>
+    <message>
+        <source>MAC Address</source>
+        <translation>MAC アドレス</translation>
+    </message>
+    <message>
+        <source>Upload and download labels</source>
+        <translation>アップロードとダウンロードのラベル</translation>
+    </message>
+    <message>
+        <source>Activity lamps</source>
+        <translation>通信ランプ</translation>
+    </message>
+    <message>
+        <source>Labels</source>
+        <translation>ラベル</translation>
+    </message>
+    <message>
+        <source>List every interface in the menu</source>
+        <translation>すべてのインターフェイスをメニューに表示</translation>
+    </message>
+    <message>
+        <source>Show the Network label</source>
+        <translation>Networkラベルを表示</translation>
+    </message>
+    <message>
+        <source>Preview</source>
+        <translation>プレビュー</translation>
+    </message>
+    <message>
+        <source>Elements</source>
+        <translation>表示要素</translation>
+    </message>
+    <message>
+        <source>Drag an element to change its place in the menu bar.</source>
+        <translation>要素をドラッグするとメニューバーでの位置を変えられます。</translation>
+    </message>
+    <message>
+        <source>Menu items</source>
+        <translation>メニュー項目</translation>
+    </message>
+    <message>
+        <source>Open "%@" Preference</source>
+        <translation>「%@」の設定を開く</translation>
+    </message>
+    <message>
+        <source>Open Disk Utility</source>
+        <translation>ディスクユーティリティを開く</translation>
+    </message>
+    <message>
+        <source>Temp</source>
+        <translation>温度</translation>
+    </message>
+    <message>
+        <source>VNC</source>
+        <translation>VNC</translation>
+    </message>
+    <message>
+        <source>Volumes are ejected through the UDisks2 service, which is not running on this system.</source>
+        <translation>ボリュームは UDisks2 サービスで取り出しますが、このシステムでは動いていません。</translation>
+    </message>
+    <message>
+        <source>Eject</source>
+        <translation>取り出す</translation>
+    </message>
+    <message>
+        <source>Eject "%@"?</source>
+        <translation>「%@」を取り出しますか?</translation>
+    </message>
+    <message>
+        <source>Programs using files on it should be closed first.</source>
+        <translation>先にその中のファイルを使っているプログラムを終了してください。</translation>
+    </message>
+    <message>
+        <source>Network volumes are disconnected, not ejected.</source>
+        <translation>ネットワークボリュームは取り出さずに接続を解除します。</translation>
+    </message>
+    <message>
+        <source>No volume mounted</source>
+        <translation>マウントされたボリュームはありません</translation>
+    </message>
+    <message>
+        <source>Open "%@"</source>
+        <translation>「%@」を開く</translation>
+    </message>
+    <message>
+        <source>Eject "%@"…</source>
+        <translation>「%@」を取り出す…</translation>
+    </message>
+    <message>
+        <source>Read only</source>
+        <translation>読み出し専用</translation>
+    </message>
+    <message>
+        <source>Not measured yet</source>
+        <translation>未計測</translation>
+    </message>
+    <message>
+        <source>Used</source>
+        <translation>使用</translation>
+    </message>
+    <message>
+        <source>of</source>
+        <translation>全体</translation>
+    </message>
+    <message>
+        <source>Volume</source>
+        <translation>ボリューム</translation>
+    </message>
+    <message>
+        <source>Bar chart</source>
+        <translation>棒グラフ</translation>
+    </message>
+    <message>
+        <source>Cycle chart</source>
+        <translation>円グラフ</translation>
+    </message>
+    <message>
+        <source>Percentage</source>
+        <translation>パーセント</translation>
+    </message>
+    <message>
+        <source>Colour the figures by how full the volume is</source>
+        <translation>使用率に応じて数値を色分けする</translation>
+    </message>
+    <message>
+        <source>Show each volume</source>
+        <translation>ボリュームごとに表示</translation>
+    </message>
+    <message>
+        <source>Volume pictures behind each volume</source>
+        <translation>ボリュームごとに背景にボリュームの絵を描く</translation>
+    </message>
+    <message>
+        <source>Show the Volume label</source>
+        <translation>Volumeラベルを表示</translation>
+    </message>
+    <message>
+        <source>Dark</source>
+        <translation>ダーク</translation>
+    </message>
+    <message>
+        <source>Light</source>
+        <translation>ライト</translation>
+    </message>
+    <message>
+        <source>Update Interval : %ld sec</source>
+        <translation>更新間隔 : %ld 秒</translation>
+    </message>
+    <message>
+        <source>Histgram width : %ld pixel</source>
+        <translation>グラフの幅 : %ld ピクセル</translation>
+    </message>
+    <message>
+        <source>Ignore below : %ldKB/s</source>
+        <translation>無視する値 : %ldKB/s 未満</translation>
+    </message>
+    <message>
+        <source>Your settings could not be saved. They apply until Tarvel quits.</source>
+        <translation>設定を保存できませんでした。Tarvel を終了するまでは有効です。</translation>
+    </message>
+    <message>
+        <source>Shadow under menu-bar text</source>
+        <translation>メニューバーのテキストの影</translation>
+    </message>
+    <message>
+        <source>Line under an empty graph</source>
+        <translation>空のグラフの下線</translation>
+    </message>
+    <message>
+        <source>Frame of bar and meter</source>
+        <translation>バーとメーターの枠</translation>
+    </message>
+    <message>
+        <source>Graph background</source>
+        <translation>グラフの背景</translation>
+    </message>
+    <message>
+        <source>Combined percentage</source>
+        <translation>合計のパーセント</translation>
+    </message>
+    <message>
+        <source>Active; application</source>
+        <translation>使用中・アプリケーション</translation>
+    </message>
+    <message>
+        <source>Inactive; cached files</source>
+        <translation>非使用・キャッシュされたファイル</translation>
+    </message>
+    <message>
+        <source>Pressure low</source>
+        <translation>メモリプレッシャー 低</translation>
+    </message>
+    <message>
+        <source>Pressure warning</source>
+        <translation>メモリプレッシャー 警告</translation>
+    </message>
+    <message>
+        <source>Pressure critical</source>
+        <translation>メモリプレッシャー 危険</translation>
+    </message>
+    <message>
+        <source>Lamp frame</source>
+        <translation>ランプの枠</translation>
+    </message>
+    <message>
+        <source>Lamp off</source>
+        <translation>ランプ 消灯</translation>
+    </message>
+    <message>
+        <source>Used, low</source>
+        <translation>使用量 低</translation>
+    </message>
+    <message>
+        <source>Used, warning</source>
+        <translation>使用量 警告</translation>
+    </message>
+    <message>
+        <source>Used, critical</source>
+        <translation>使用量 危険</translation>
+    </message>
+    <message>
+        <source>Label text</source>
+        <translation>ラベルのテキスト</translation>
+    </message>
+    <message>
+        <source>Percentage text</source>
+        <translation>パーセントのテキスト</translation>
+    </message>
+    <message>
+        <source>Low</source>
+        <translation>低</translation>
+    </message>
+    <message>
+        <source>Warning</source>
+        <translation>警告</translation>
+    </message>
+    <message>
+        <source>Critical</source>
+        <translation>危険</translation>
+    </message>
+    <message>
+        <source>This module is not available on this system yet.</source>
+        <translation>このモジュールはこのシステムではまだ使えません。</translation>
+    </message>
+    <message>
+        <source>● for Dark Appearance</source>
+        <translation>● ダークモード用</translation>
+    </message>
+    <message>
+        <source>○ for Light Appearance</source>
+        <translation>○ ライトモード用</translation>
+    </message>
+    <message>
+        <source>-</source>
+        <translation>-</translation>
+    </message>
 </context>
 </TS>

@@ -17,6 +17,7 @@
 #include "prefs/theme_appearance.h"
 #include "prefs/theme_files.h"
 #include "prefs/theme_repair.h"
+#include "toolkit/localization.h"
 
 #include <QGuiApplication>
 #include <QTimer>
@@ -360,7 +361,7 @@ void AppDelegate::rebootMeSetting()
     changeRebootPool = false;
     if (rebootDaysInt == 0)
         return;
-    qCInfo(lcApp, "Tarvel 6 will restart after %lld days.", static_cast<long long>(rebootDaysInt));
+    qCInfo(lcApp, Tarvel::textKey("Tarvel 6 will restart after %lld days."), static_cast<long long>(rebootDaysInt));
     rebootTimer_ = new QTimer(this);
     rebootTimer_->setInterval(kRebootTickMs);
     connect(rebootTimer_, &QTimer::timeout, this, &AppDelegate::rebootMe);

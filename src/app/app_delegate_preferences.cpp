@@ -44,7 +44,7 @@ void AppDelegate::drawModuleTabViewControllers()
     for (const ModuleSchema* schema : allModuleSchemas()) {
         PreferenceTab* tab = createPreferenceTab(schema->id, this, *userDefaults_, *prefCenter_);
         tab->setMyDefaults(all, themeColorDict_);
-        const QString label = schema->id == ModuleId::General ? localized("Hello!") : localized(schema->prefName);
+        const QString label = schema->id == ModuleId::General ? Tarvel::localized("Hello!") : Tarvel::localized(schema->prefName);
         preferencePanel_->addTab(tab, label);
     }
     // The Disk and Volume previews draw one set per disk or volume, as the items do.
@@ -253,7 +253,7 @@ void AppDelegate::writeNowThemeFile()
 {
     if (!PlistIo::writeDictionaryAtomically(TvlClasses::retThemeFilePath(QLatin1String(TvlClasses::kNowThemeFileName)),
                                             themeColorDict_)) {
-        qCWarning(lcApp, "The current theme could not be written.");
+        qCWarning(lcApp, Tarvel::textKey("The current theme could not be written."));
         if (preferencePanel_ != nullptr)
             preferencePanel_->showStoreFailure();
     }
@@ -274,7 +274,7 @@ void AppDelegate::changeAppearanceMode(bool desktopIsDark)
         TvlClasses::retAppearanceSwitchTheme(themeColorDict_, desktopIsDark, TvlClasses::retThemeList());
     if (!alternative || !TvlClasses::selectThemeFile(*alternative))
         return;
-    qCInfo(lcApp, "The desktop's appearance changed; switching to the theme %s.", qPrintable(*alternative));
+    qCInfo(lcApp, Tarvel::textKey("The desktop's appearance changed; switching to the theme %s."), qPrintable(*alternative));
     notifFromPref(PrefNotification{
         QLatin1String(moduleSchema(ModuleId::General).notification),
         {{QLatin1String(NotifKey::ModuleDefaultReload), true}, {QLatin1String(NotifKey::ModuleThemeChanged), true}}});

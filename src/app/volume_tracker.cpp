@@ -15,7 +15,7 @@ VolumeBaseDict withRootNamed(VolumeBaseDict base)
 {
     for (auto& [path, volume] : base)
         if (volume.isUnnamedRoot)
-            volume.volumeName = localized("Root");
+            volume.volumeName = Tarvel::localized("Root");
     return base;
 }
 } // namespace

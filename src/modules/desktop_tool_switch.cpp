@@ -23,7 +23,7 @@ QWidget* row(QCheckBox* box, DesktopTool tool, QWidget* parent)
     layout->addWidget(box);
     if (!found) {
         // Ticked, it would be saved and still add nothing to the menu.
-        auto* note = new QLabel(localized("Not installed"), line);
+        auto* note = new QLabel(Tarvel::localized("Not installed"), line);
         note->setObjectName(box->objectName() + QStringLiteral("Note"));
         note->setEnabled(false);
         layout->addWidget(note);

@@ -105,23 +105,23 @@ QString title(DesktopTool tool, const std::optional<DesktopEntry>& found)
     Q_UNUSED(found)
     switch (tool) {
     case DesktopTool::SystemMonitor:
-        return localized("Open Activity Monitor");
+        return Tarvel::localized("Open Activity Monitor");
     case DesktopTool::LogViewer:
-        return localized("Open Console");
+        return Tarvel::localized("Open Console");
     case DesktopTool::Terminal:
-        return localized("Open Terminal");
+        return Tarvel::localized("Open Terminal");
     }
     return {};
 #else
     if (found && !found->name.isEmpty())
-        return localized("Open %1").arg(found->name);
+        return Tarvel::localized("Open %1").arg(found->name);
     switch (tool) {
     case DesktopTool::SystemMonitor:
-        return localized("Open System Monitor");
+        return Tarvel::localized("Open System Monitor");
     case DesktopTool::LogViewer:
-        return localized("Open Log Viewer");
+        return Tarvel::localized("Open Log Viewer");
     case DesktopTool::Terminal:
-        return localized("Open Terminal");
+        return Tarvel::localized("Open Terminal");
     }
     return {};
 #endif

@@ -11,7 +11,7 @@ namespace PanelLabels {
 
 QLabel* title(QWidget* parent, const char* key)
 {
-    auto* label = new QLabel(localized(key), parent);
+    auto* label = new QLabel(Tarvel::localized(key), parent);
     label->setForegroundRole(QPalette::PlaceholderText);
     return label;
 }

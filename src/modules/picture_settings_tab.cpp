@@ -79,7 +79,7 @@ int PictureSettingsTab::sliderPosition(SliderKind kind, qint64 stored, int minim
 
 QWidget* PictureSettingsTab::buildPreview(const char* objectName)
 {
-    auto* box = new QGroupBox(localized("Preview"), this);
+    auto* box = new QGroupBox(Tarvel::localized("Preview"), this);
     preview_ = new PicturePreview(box);
     preview_->setObjectName(QLatin1String(objectName));
     (new QVBoxLayout(box))->addWidget(preview_);
@@ -88,12 +88,12 @@ QWidget* PictureSettingsTab::buildPreview(const char* objectName)
 
 QWidget* PictureSettingsTab::buildElements()
 {
-    auto* box = new QGroupBox(localized("Elements"), this);
+    auto* box = new QGroupBox(Tarvel::localized("Elements"), this);
     auto* layout = new QVBoxLayout(box);
     elementList_ = new ElementOrderList(box);
     elementList_->setObjectName(QLatin1String(orderKey_));
     layout->addWidget(elementList_);
-    auto* hint = new QLabel(localized("Drag an element to change its place in the menu bar."), box);
+    auto* hint = new QLabel(Tarvel::localized("Drag an element to change its place in the menu bar."), box);
     hint->setWordWrap(true);
     layout->addWidget(hint);
     layout->addStretch(1);
@@ -104,7 +104,7 @@ QWidget* PictureSettingsTab::buildElements()
 
 QWidget* PictureSettingsTab::buildMenuItems(const char* amonKey, const char* cnslKey, const char* tmnlKey)
 {
-    auto* box = new QGroupBox(localized("Menu items"), this);
+    auto* box = new QGroupBox(Tarvel::localized("Menu items"), this);
     auto* form = new QFormLayout(box);
     const QVariantMap refreshItems{{QLatin1String(NotifKey::ModuleItemRefreshNow), true}};
     DesktopToolSwitch::addRows(form, {amonKey, cnslKey, tmnlKey},
@@ -115,7 +115,7 @@ QWidget* PictureSettingsTab::buildMenuItems(const char* amonKey, const char* cns
 QCheckBox* PictureSettingsTab::addSwitch(QFormLayout* form, const char* key, const char* text,
                                          const QVariantMap& userInfo)
 {
-    QCheckBox* box = makeSwitch(key, localized(text), userInfo);
+    QCheckBox* box = makeSwitch(key, Tarvel::localized(text), userInfo);
     form->addRow(box);
     return box;
 }
@@ -132,7 +132,7 @@ QCheckBox* PictureSettingsTab::makeSwitch(const char* key, const QString& text, 
 
 QCheckBox* PictureSettingsTab::addLabelSwitch(QFormLayout* form, const char* key, const char* text)
 {
-    auto* box = new QCheckBox(localized(text));
+    auto* box = new QCheckBox(Tarvel::localized(text));
     box->setObjectName(QLatin1String(key));
     form->addRow(box);
     switches_.emplace_back(key, box);
@@ -172,7 +172,7 @@ QComboBox* PictureSettingsTab::addPopup(QFormLayout* form, const char* key, cons
     auto* popup = new QComboBox();
     popup->setObjectName(QLatin1String(key));
     popup->addItems(entries);
-    form->addRow(localized(text), popup);
+    form->addRow(Tarvel::localized(text), popup);
     const PopupControl control{key, popup, firstValue};
     popups_.push_back(control);
     connect(popup, &QComboBox::currentIndexChanged, this, [this, control](int index) { popupChanged(control, index); });
@@ -189,7 +189,7 @@ QSpinBox* PictureSettingsTab::addNumber(QFormLayout* form, const char* key, cons
     box->setSuffix(unit);
     // Typing "75" passes through 7 on its way: only the finished number is stored.
     box->setKeyboardTracking(false);
-    form->addRow(localized(text), box);
+    form->addRow(Tarvel::localized(text), box);
     numbers_.push_back({key, box});
     connect(box, &QSpinBox::valueChanged, this, [this, key](int value) {
         if (loading())
@@ -227,7 +227,7 @@ void PictureSettingsTab::loadControls()
         for (const qint64 code : shownOrder(d.intList(QLatin1String(orderKey_)), elements_)) {
             const auto element =
                 std::find_if(elements_.begin(), elements_.end(), [code](const Element& e) { return e.code == code; });
-            entries.append({code, localized(element->text), d.boolValue(element->key)});
+            entries.append({code, Tarvel::localized(element->text), d.boolValue(element->key)});
         }
         elementList_->setEntries(entries);
         // Exactly the size of its rows: there is never anything to scroll to.

@@ -64,7 +64,7 @@ namespace GeneralFunctions {
 
 QAction* retOpenPrefMenuItem(QMenu* menu, const ModuleDefaults& defaults, std::function<void()> action)
 {
-    const QString title = localized("Open \"%@\" Preference")
+    const QString title = Tarvel::localized("Open \"%@\" Preference")
                               .replace(QLatin1String("%@"), defaults.stringValue(PrefKey::PrefName));
     return addItem(menu, defaults, title, OpenPrefTag, std::move(action));
 }

@@ -22,7 +22,7 @@ void StorageMenuModule::addBaseItems(const char* amonKey, const char* cnslKey, c
                                            myDefaults.boolValue(cnslKey), myDefaults.boolValue(tmnlKey),
                                            [this] { openTab(); });
     if (DiskUtility::find()) {
-        QAction* utility = statusMenu->addAction(storageMenuIcon(utilityIcon), localized("Open Disk Utility"));
+        QAction* utility = statusMenu->addAction(storageMenuIcon(utilityIcon), Tarvel::localized("Open Disk Utility"));
         connect(utility, &QAction::triggered, this, [] { DiskUtility::launch(); });
     }
     statusMenu->addSeparator();

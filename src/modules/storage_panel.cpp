@@ -24,7 +24,7 @@ bool StoragePanel::startBlocks(bool nothingToList, const char* emptyNotice)
     blocks_.clear();
     nextLine_ = 0;
     if (nothingToList)
-        grid_->addWidget(new QLabel(localized(emptyNotice), this), 0, 0, 1, 2);
+        grid_->addWidget(new QLabel(Tarvel::localized(emptyNotice), this), 0, 0, 1, 2);
     return !nothingToList;
 }
 

@@ -36,5 +36,5 @@ DdnsLine DdnsLine::parse(const QString& line)
 QString ddnsLineLabel(int number, int count)
 {
     const QString number0 = QStringLiteral("%1").arg(number, TvlClasses::TvlCalcDigits(count), 10, QLatin1Char('0'));
-    return localized("Line %0*d").replace(QLatin1String("%0*d"), number0);
+    return Tarvel::localized("Line %0*d").replace(QLatin1String("%0*d"), number0);
 }

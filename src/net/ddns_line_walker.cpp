@@ -14,7 +14,7 @@ constexpr char kUpdateSucceeded[] = "更新に成功しました";
 
 QString localizedText(const QString& key)
 {
-    return localized(key.toUtf8().constData());
+    return Tarvel::localized(key.toUtf8().constData());
 }
 
 } // namespace
@@ -31,9 +31,9 @@ void DdnsLineWalker::run()
     for (int i = 0; i < count && !isInterruptionRequested(); ++i)
         walkLine(DdnsLine::parse(walk_.lines.at(i)), ddnsLineLabel(i + 1, count));
     if (updatesSent_ == 0)
-        outcome_ = fillObjects(localized("Global IP address %@ recorded."), {walk_.newAddress});
+        outcome_ = fillObjects(Tarvel::localized("Global IP address %@ recorded."), {walk_.newAddress});
     else
-        outcome_ = fillObjects(localized("Global IP address %@ sent: %@ of %@ updates succeeded."),
+        outcome_ = fillObjects(Tarvel::localized("Global IP address %@ sent: %@ of %@ updates succeeded."),
                                {walk_.newAddress, QString::number(updatesSucceeded_), QString::number(updatesSent_)});
 }
 
@@ -42,26 +42,26 @@ void DdnsLineWalker::walkLine(const DdnsLine& line, const QString& label)
     switch (line.kind) {
     case DdnsLine::Kind::Blank:
         if (walk_.forced)
-            notify(localized("Blank line"), label);
+            notify(Tarvel::localized("Blank line"), label);
         break;
     case DdnsLine::Kind::Comment:
         if (walk_.forced)
-            notify(localized("Comment out"), label);
+            notify(Tarvel::localized("Comment out"), label);
         break;
     case DdnsLine::Kind::NoSeparator:
         if (walk_.forced)
-            notify(localized("Invalid Parameter"), label);
+            notify(Tarvel::localized("Invalid Parameter"), label);
         break;
     case DdnsLine::Kind::ValueDomain:
         sendUpdate(line);
         break;
     case DdnsLine::Kind::Confirm:
-        notify(localized("Global IP Address changed."),
-               fillObjects(localized("%@ -> %@"), {walk_.oldText, walk_.newAddress}));
+        notify(Tarvel::localized("Global IP Address changed."),
+               fillObjects(Tarvel::localized("%@ -> %@"), {walk_.oldText, walk_.newAddress}));
         break;
     case DdnsLine::Kind::Malformed:
         if (walk_.forced)
-            notify(fillObjects(localized("Some error occurred (%@)"), {line.firstPart}), label);
+            notify(fillObjects(Tarvel::localized("Some error occurred (%@)"), {line.firstPart}), label);
         break;
     }
 }
@@ -72,7 +72,7 @@ void DdnsLineWalker::sendUpdate(const DdnsLine& line)
     const QString url =
         walk_.endpointBase + QLatin1String(ValueDomainEndpoint::kPath) + QLatin1Char('?') +
         fillObjects(QStringLiteral("d=%@&p=%@&h=%@&i=%@"), {line.domain, line.password, line.host, walk_.newAddress});
-    const QString text = fillObjects(localized("%@ -> %@.%@"), {walk_.newAddress, line.host, line.domain});
+    const QString text = fillObjects(Tarvel::localized("%@ -> %@.%@"), {walk_.newAddress, line.host, line.domain});
     ++updatesSent_;
     TvlSendDdnsValueDomain(walk_.timeoutMs).sendDdnsProperty(url, [&](const QString& result) {
         // A request abandoned because the program quits is nobody's news.

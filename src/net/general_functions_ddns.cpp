@@ -44,9 +44,9 @@ void checkGlobalIpAddressForDdns(const QString& newAddress, bool forced, Setting
                                  const DdnsCheckOptions& options, DdnsFinished finished)
 {
     const QVariant recorded = store.objectForKey(PrefKey::NowGlobalIpAddr);
-    const QString oldText = recorded.isValid() ? recorded.toString() : localized("(No Record)");
+    const QString oldText = recorded.isValid() ? recorded.toString() : Tarvel::localized("(No Record)");
     if (recorded.isValid() && recorded.toString() == newAddress) {
-        report(finished, fillObjects(localized("The global IP address is unchanged (%@)."), {newAddress}));
+        report(finished, fillObjects(Tarvel::localized("The global IP address is unchanged (%@)."), {newAddress}));
         return;
     }
     store.setString(PrefKey::NowGlobalIpAddr, newAddress);
@@ -64,7 +64,7 @@ void runDdnsCheck(SettingsStore& store, Notifier& notifier, bool forced, const D
                   DdnsFinished finished)
 {
     if (!DdnsSettings::hasDdnsList(store)) {
-        report(finished, localized("No dynamic DNS lines are set."));
+        report(finished, Tarvel::localized("No dynamic DNS lines are set."));
         return;
     }
     auto* lookup =
@@ -73,7 +73,7 @@ void runDdnsCheck(SettingsStore& store, Notifier& notifier, bool forced, const D
     TvlRetGlobalIpAddress::lookUpOnce(
         lookup, [&store, &notifier, forced, options, finished = std::move(finished)](const GlobalIpResult& result) {
             if (result.ip.isEmpty())
-                report(finished, localized("The global IP address could not be found."));
+                report(finished, Tarvel::localized("The global IP address could not be found."));
             else
                 checkGlobalIpAddressForDdns(result.ip, forced, store, notifier, options, finished);
         });

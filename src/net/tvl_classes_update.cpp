@@ -72,8 +72,8 @@ void updateCheck(SettingsStore& store, Notifier& notifier, const QString& ownVer
 {
     const QString address = UpdateSettings::versionFileUrl(store);
     if (address.isEmpty()) {
-        notifier.fireNotification(UserNotification{localized("Update check unavailable"),
-                                                   localized("No address is set for the version file."),
+        notifier.fireNotification(UserNotification{Tarvel::localized("Update check unavailable"),
+                                                   Tarvel::localized("No address is set for the version file."),
                                                    QString(),
                                                    {}});
         if (done)
@@ -111,18 +111,18 @@ int existsUpdateAlert(SettingsStore& store, Notifier& notifier, const QString& o
     store.setBool(PrefKey::UpdateAlerting, true);
     store.synchronize();
     notifier.fireNotification(
-        UserNotification{localized("New version available"),
-                         fillObjects(localized("now ver : %@\nnew ver : %@"), {ownVersion, newVersion}),
+        UserNotification{Tarvel::localized("New version available"),
+                         fillObjects(Tarvel::localized("now ver : %@\nnew ver : %@"), {ownVersion, newVersion}),
                          QString::fromLatin1(UserNotifTag::UpdateExists),
-                         {{QString::fromLatin1(kDownloadAction), localized("Download")},
-                          {QString::fromLatin1(kCancelAction), localized("Cancel")}}});
+                         {{QString::fromLatin1(kDownloadAction), Tarvel::localized("Download")},
+                          {QString::fromLatin1(kCancelAction), Tarvel::localized("Cancel")}}});
     return 1;
 }
 
 void noUpdateAlert(Notifier& notifier)
 {
     notifier.fireNotification(
-        UserNotification{localized("No update available"), QString(), QString::fromLatin1(UserNotifTag::NoUpdate), {}});
+        UserNotification{Tarvel::localized("No update available"), QString(), QString::fromLatin1(UserNotifTag::NoUpdate), {}});
 }
 
 } // namespace TvlClasses

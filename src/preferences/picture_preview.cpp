@@ -125,7 +125,7 @@ void PicturePreview::paintEvent(QPaintEvent* event)
         const QRect frame(0, i * height, width, height);
         painter.fillRect(frame, TvlClasses::retPanelColor(strip.dark));
         // The caption sits at the right end, out of the picture's way, and only where it fits.
-        const QString caption = localized(strip.dark ? "Dark" : "Light");
+        const QString caption = Tarvel::localized(strip.dark ? Tarvel::textKey("Dark") : Tarvel::textKey("Light"));
         if (width - contentWidth() - kPadding > painter.fontMetrics().horizontalAdvance(caption)) {
             painter.setPen(strip.dark ? QColor(0xa0, 0xa0, 0xa0) : QColor(0x80, 0x80, 0x80));
             painter.drawText(frame.adjusted(0, 0, -kPadding, 0), Qt::AlignRight | Qt::AlignVCenter, caption);

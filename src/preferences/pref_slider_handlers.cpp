@@ -10,17 +10,17 @@ namespace PrefFunctions {
 
 QString updateSliderText(long value)
 {
-    return localized("Update Interval : %ld sec").replace(QStringLiteral("%ld"), QString::number(value));
+    return Tarvel::localized("Update Interval : %ld sec").replace(QStringLiteral("%ld"), QString::number(value));
 }
 
 QString graphSliderText(long value)
 {
-    return localized("Histgram width : %ld pixel").replace(QStringLiteral("%ld"), QString::number(value));
+    return Tarvel::localized("Histgram width : %ld pixel").replace(QStringLiteral("%ld"), QString::number(value));
 }
 
 QString limenBaseSliderText(long value)
 {
-    return localized("Ignore below : %ldKB/s").replace(QStringLiteral("%ld"), QString::number(value));
+    return Tarvel::localized("Ignore below : %ldKB/s").replace(QStringLiteral("%ld"), QString::number(value));
 }
 
 namespace {

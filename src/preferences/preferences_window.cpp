@@ -40,7 +40,7 @@ PreferencesWindow::PreferencesWindow(QWidget* parent)
 {
     setObjectName(QStringLiteral("Preferences"));
     WheelGuard::guard(this);
-    setWindowTitle(QStringLiteral("%1 %2").arg(QApplication::applicationName(), localized("Preferences")));
+    setWindowTitle(QStringLiteral("%1 %2").arg(QApplication::applicationName(), Tarvel::localized("Preferences")));
     auto* layout = new QVBoxLayout(this);
     layout->addWidget(tabs_, 1);
     failure_->setObjectName(QStringLiteral("StoreFailure"));
@@ -111,7 +111,7 @@ void PreferencesWindow::openTab(int index)
 
 void PreferencesWindow::showStoreFailure()
 {
-    failure_->setText(localized("Your settings could not be saved. They apply until Tarvel quits."));
+    failure_->setText(Tarvel::localized("Your settings could not be saved. They apply until Tarvel quits."));
     failure_->show();
 }
 

@@ -11,7 +11,7 @@ UnbuiltModuleTab::UnbuiltModuleTab(const ModuleSchema& schema, SettingsStore& st
     : PreferenceTab(schema, store, center, parent)
 {
     auto* layout = new QVBoxLayout(this);
-    auto* line = new QLabel(localized("This module is not available on this system yet."), this);
+    auto* line = new QLabel(Tarvel::localized("This module is not available on this system yet."), this);
     line->setAlignment(Qt::AlignCenter);
     line->setWordWrap(true);
     layout->addWidget(line);

@@ -30,7 +30,7 @@ void PlistSettingsStore::load()
     if (target.kind == GuardedFile::Kind::Other) {
         // A directory, a device or a dangling link is the user's, whatever it holds.
         readOnly_ = true;
-        openProblem_ = localized("The settings file %1 is not a regular file; the default "
+        openProblem_ = Tarvel::localized("The settings file %1 is not a regular file; the default "
                                  "settings are used and nothing is saved there.")
                            .arg(path_);
         return;
@@ -40,13 +40,13 @@ void PlistSettingsStore::load()
         return;
     }
     if (const std::optional<QString> aside = GuardedFile::setAside(writePath_)) {
-        openProblem_ = localized("The settings file %1 could not be read; it was moved to %2 "
+        openProblem_ = Tarvel::localized("The settings file %1 could not be read; it was moved to %2 "
                                  "and the default settings are used.")
                            .arg(path_, *aside);
         return;
     }
     readOnly_ = true;
-    openProblem_ = localized("The settings file %1 could not be read nor moved aside; the "
+    openProblem_ = Tarvel::localized("The settings file %1 could not be read nor moved aside; the "
                              "default settings are used and the file is left as it is.")
                        .arg(path_);
 }
@@ -81,7 +81,7 @@ bool PlistSettingsStore::synchronize()
     QDir().mkpath(QFileInfo(writePath_).absolutePath());
     if (!PlistIo::writeDictionaryAtomically(writePath_, values_)) {
         if (saveProblemReporter_ && !saveProblemReported_)
-            saveProblemReporter_(localized("The settings could not be saved to %1.").arg(path_));
+            saveProblemReporter_(Tarvel::localized("The settings could not be saved to %1.").arg(path_));
         saveProblemReported_ = true;
         return false;
     }

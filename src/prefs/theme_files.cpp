@@ -68,16 +68,16 @@ QVariantMap checkNowThemeFile(QString* problem)
         // The user's colours may be in there: keep the file, start again from the light theme.
         const std::optional<QString> aside = GuardedFile::setAside(now.path);
         if (!aside) {
-            tell(localized("The colour theme %1 could not be read nor moved aside; "
+            tell(Tarvel::localized("The colour theme %1 could not be read nor moved aside; "
                            "the light theme is used and the file is left as it is.")
                      .arg(nowPath));
             return PlistIo::readDictionary(lightPath).value_or(QVariantMap());
         }
-        tell(localized("The colour theme %1 could not be read; it was moved to %2 and the "
+        tell(Tarvel::localized("The colour theme %1 could not be read; it was moved to %2 and the "
                        "light theme is used.")
                  .arg(nowPath, *aside));
     } else if (now.kind == GuardedFile::Kind::Other) {
-        tell(localized("The colour theme %1 is not a regular file; the light theme "
+        tell(Tarvel::localized("The colour theme %1 is not a regular file; the light theme "
                        "is used and nothing is saved there.")
                  .arg(nowPath));
         return PlistIo::readDictionary(lightPath).value_or(QVariantMap());

@@ -54,11 +54,11 @@ QVariantList retThemeList()
 QString retThemeDetailText(const QVariantMap& entry)
 {
     const char* appearance = entry.value(QLatin1String(PrefKey::_ForDarkAppearance)).toBool()
-                                 ? "● for Dark Appearance"
-                                 : "○ for Light Appearance";
+                                 ? Tarvel::textKey("● for Dark Appearance")
+                                 : Tarvel::textKey("○ for Light Appearance");
     return QStringLiteral("%1 by %2\n%3\n%4")
         .arg(entry.value(QLatin1String(PrefKey::_Name)).toString(), entry.value(QLatin1String(PrefKey::_Author)).toString(),
-             entry.value(QLatin1String(PrefKey::_Credit)).toString(), localized(appearance));
+             entry.value(QLatin1String(PrefKey::_Credit)).toString(), Tarvel::localized(appearance));
 }
 
 bool selectThemeFile(const QString& fileName)

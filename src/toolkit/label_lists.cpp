@@ -8,9 +8,6 @@
 #include <array>
 #include <span>
 
-// The context must match the one localized() looks up; the macro only marks texts for lupdate.
-#define TVL_LABEL(text) QT_TRANSLATE_NOOP("Tarvel", text)
-
 namespace {
 
 QStringList localizedList(std::span<const char* const> keys)
@@ -18,7 +15,7 @@ QStringList localizedList(std::span<const char* const> keys)
     QStringList labels;
     labels.reserve(static_cast<qsizetype>(keys.size()));
     for (const char* key : keys)
-        labels.append(localized(key));
+        labels.append(Tarvel::localized(key));
     return labels;
 }
 
@@ -27,7 +24,7 @@ QList<QStringList> localizedPairs(std::span<const std::array<const char*, 2>> pa
     QList<QStringList> labels;
     labels.reserve(static_cast<qsizetype>(pairs.size()));
     for (const auto& pair : pairs)
-        labels.append(QStringList{localized(pair[0]), localized(pair[1])});
+        labels.append(QStringList{Tarvel::localized(pair[0]), Tarvel::localized(pair[1])});
     return labels;
 }
 
@@ -46,57 +43,57 @@ namespace PlistFunction {
 
 QStringList retGeneralGraphKind()
 {
-    static constexpr const char* kKeys[] = {TVL_LABEL("Default"), TVL_LABEL("Opposed"),
-                                            TVL_LABEL("Centered"), TVL_LABEL("Line Graph"),
-                                            TVL_LABEL("Line Graph (Heavy line)")};
+    static constexpr const char* kKeys[] = {Tarvel::textKey("Default"), Tarvel::textKey("Opposed"),
+                                            Tarvel::textKey("Centered"), Tarvel::textKey("Line Graph"),
+                                            Tarvel::textKey("Line Graph (Heavy line)")};
     return localizedList(kKeys);
 }
 
 QStringList retMemoryUnit()
 {
-    static constexpr const char* kKeys[] = {TVL_LABEL("Automatic"), TVL_LABEL("Unify in MB"),
-                                            TVL_LABEL("Unify in GB")};
+    static constexpr const char* kKeys[] = {Tarvel::textKey("Automatic"), Tarvel::textKey("Unify in MB"),
+                                            Tarvel::textKey("Unify in GB")};
     return localizedList(kKeys);
 }
 
 QStringList retNetworkBitOrByte()
 {
     // The bytes entry uses full-width parentheses, the bits entry ASCII ones; both are keys.
-    static constexpr const char* kKeys[] = {TVL_LABEL("KB/s（Bytes）"), TVL_LABEL("Kbps (Bits)")};
+    static constexpr const char* kKeys[] = {Tarvel::textKey("KB/s（Bytes）"), Tarvel::textKey("Kbps (Bits)")};
     return localizedList(kKeys);
 }
 
 QList<QStringList> retNetworkUdLabel()
 {
     static constexpr std::array<const char*, 2> kPairs[] = {
-        {TVL_LABEL("Up"), TVL_LABEL("Dw")},
-        {TVL_LABEL("Upload"), TVL_LABEL("Download")},
-        {TVL_LABEL("Out"), TVL_LABEL("In")},
-        {TVL_LABEL("Send"), TVL_LABEL("Receive")}};
+        {Tarvel::textKey("Up"), Tarvel::textKey("Dw")},
+        {Tarvel::textKey("Upload"), Tarvel::textKey("Download")},
+        {Tarvel::textKey("Out"), Tarvel::textKey("In")},
+        {Tarvel::textKey("Send"), Tarvel::textKey("Receive")}};
     return localizedPairs(kPairs);
 }
 
 QList<QStringList> retDiskReadWrite()
 {
     static constexpr std::array<const char*, 2> kPairs[] = {
-        {TVL_LABEL("-"), TVL_LABEL("-")},
-        {TVL_LABEL("R:"), TVL_LABEL("W:")},
-        {TVL_LABEL("Read:"), TVL_LABEL("Write:")}};
+        {Tarvel::textKey("-"), Tarvel::textKey("-")},
+        {Tarvel::textKey("R:"), Tarvel::textKey("W:")},
+        {Tarvel::textKey("Read:"), Tarvel::textKey("Write:")}};
     return localizedPairs(kPairs);
 }
 
 QStringList retVolumePercentKind()
 {
-    static constexpr const char* kKeys[] = {TVL_LABEL("Show Used"), TVL_LABEL("Show Free")};
+    static constexpr const char* kKeys[] = {Tarvel::textKey("Show Used"), Tarvel::textKey("Show Free")};
     return localizedList(kKeys);
 }
 
 QList<QStringList> retVolumeUsedFree()
 {
     static constexpr std::array<const char*, 2> kPairs[] = {
-        {TVL_LABEL("-"), TVL_LABEL("-")},
-        {TVL_LABEL("U:"), TVL_LABEL("F:")},
-        {TVL_LABEL("Used:"), TVL_LABEL("Free:")}};
+        {Tarvel::textKey("-"), Tarvel::textKey("-")},
+        {Tarvel::textKey("U:"), Tarvel::textKey("F:")},
+        {Tarvel::textKey("Used:"), Tarvel::textKey("Free:")}};
     return localizedPairs(kPairs);
 }
 

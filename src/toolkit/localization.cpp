@@ -12,7 +12,7 @@ constexpr const char* kContext = "Tarvel";
 constexpr char16_t kEmptyTranslation = u'\u200B';
 }
 
-QString localized(const char* key)
+QString Tarvel::localized(const char* key)
 {
     QString text = QCoreApplication::translate(kContext, key);
     if (text.size() == 1 && text.front() == QChar(kEmptyTranslation))

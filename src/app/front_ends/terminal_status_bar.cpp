@@ -24,7 +24,7 @@ QByteArray cursorUp(int lines)
 constexpr const char* kClearToEnd = "\x1b[J";
 constexpr const char* kClearLine = "\r\x1b[2K";
 constexpr const char* kNoDisplayNotice =
-    "No display found: showing texts. Run tarvel on a desktop (DISPLAY or WAYLAND_DISPLAY) for the panel.";
+    Tarvel::textKey("No display found: showing texts. Run tarvel on a desktop (DISPLAY or WAYLAND_DISPLAY) for the panel.");
 
 } // namespace
 
@@ -75,7 +75,7 @@ void TerminalStatusBar::flush()
     QByteArray bytes;
     if (!noticeShown_) {
         noticeShown_ = true;
-        bytes += localized(kNoDisplayNotice).toUtf8() + '\n';
+        bytes += Tarvel::localized(kNoDisplayNotice).toUtf8() + '\n';
     }
     if (interactive_) {
         if (drawnLines_ > 0)

@@ -23,8 +23,8 @@
 
 namespace {
 
-constexpr const char* kShareNames[] = {"User", "System", "Nice", "Idle"};
-constexpr const char* kVirtualMachine = "(Probably VM)";
+constexpr const char* kShareNames[] = {Tarvel::textKey("User"), Tarvel::textKey("System"), Tarvel::textKey("Nice"), Tarvel::textKey("Idle")};
+constexpr const char* kVirtualMachine = Tarvel::textKey("(Probably VM)");
 constexpr const char* kDefaultSearchAddress = "https://duckduckgo.com/";
 
 void setOpacity(QWidget* widget, double opacity)
@@ -66,7 +66,7 @@ CPU_MenuController::CPU_MenuController(LoadSystemInformation& loadInfo, Settings
     for (std::size_t s = 0; s < 4; ++s) {
         swatches_[s] = new QLabel(this);
         grid->addWidget(swatches_[s], row, 0);
-        grid->addWidget(new QLabel(localized(kShareNames[s]), this), row, 1);
+        grid->addWidget(new QLabel(Tarvel::localized(kShareNames[s]), this), row, 1);
         shareLabels_[s] = PanelLabels::figure(this, Qt::AlignRight);
         grid->addWidget(shareLabels_[s], row++, 2);
     }
@@ -80,7 +80,7 @@ CPU_MenuController::CPU_MenuController(LoadSystemInformation& loadInfo, Settings
     grid->addWidget(machinNameButton, row++, 1, 1, 2);
     // Column 0 is a gutter for the swatches and the machine's picture: a title spanning it would
     // widen it and push the share names away from their swatches.
-    grid->addWidget(PanelLabels::title(this, "Cpu Type"), row, 1);
+    grid->addWidget(PanelLabels::title(this, Tarvel::textKey("Cpu Type")), row, 1);
     cpuKindLabel = new QLabel(this);
     grid->addWidget(cpuKindLabel, row++, 2);
     for (QLabel*& gpu : gpuLabels_) {
@@ -88,7 +88,7 @@ CPU_MenuController::CPU_MenuController(LoadSystemInformation& loadInfo, Settings
         grid->addWidget(gpu, row++, 2);
     }
 
-    const char* titles[] = {"Uptime Boot/Actv", nullptr, "Scheduling Stat", "Load Average", "Host Name"};
+    const char* titles[] = {Tarvel::textKey("Uptime Boot/Actv"), nullptr, Tarvel::textKey("Scheduling Stat"), Tarvel::textKey("Load Average"), Tarvel::textKey("Host Name")};
     for (std::size_t line = 0; line < optionLabels_.size(); ++line) {
         if (titles[line] != nullptr)
             grid->addWidget(PanelLabels::title(this, titles[line]), row, 1);

@@ -6,6 +6,7 @@
 #include "modules/module_descriptor.h"
 #include "prefs/pref_keys.h"
 #include "prefs/pref_measure.h"
+#include "toolkit/localization.h"
 
 namespace {
 
@@ -28,7 +29,7 @@ ModuleSchema cpuSchema()
             LaunchCpus,
             1,
             "CpuModuleNotif",
-            "CPU",
+            Tarvel::textKey("CPU"),
             Cpu_UpdateInterval,
             withToolItems({{CpuItemSortArray, T::Array, ints({1, 2, 3, 4})},
                            {Cpu_Display_Graph, T::Bool, true},

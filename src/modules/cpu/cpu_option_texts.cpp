@@ -41,12 +41,12 @@ QStringList cpuGetOptionData(const CpuOptionFigures& figures)
     lines << buildUpTime(figures.awakeSeconds.value_or(-1.0));
 
     const auto& counts = figures.counts;
-    lines << (counts ? fillFormat(localized("%d threads, %d processes"), clampedToInt(counts->threads),
+    lines << (counts ? fillFormat(Tarvel::localized("%d threads, %d processes"), clampedToInt(counts->threads),
                                   clampedToInt(counts->processes))
                      : QStringLiteral("---"));
 
     const auto& loads = figures.loads;
-    lines << (loads ? fillFormat(localized("1min: %.2f, 5min: %.2f, 15min: %.2f"), loads->one, loads->five,
+    lines << (loads ? fillFormat(Tarvel::localized("1min: %.2f, 5min: %.2f, 15min: %.2f"), loads->one, loads->five,
                                  loads->fifteen)
                     : QStringLiteral("---"));
 
@@ -67,7 +67,7 @@ QString buildUpTime(double seconds)
 
     if (days <= 0)
         return QString::asprintf("%d:%02d:%02d", hours, minutes, secs);
-    const QString suffix = days == 1 ? QString() : localized("_dayS");
+    const QString suffix = days == 1 ? QString() : Tarvel::localized("_dayS");
     const QByteArray suffixUtf8 = suffix.toUtf8();
-    return fillFormat(localized("%dday%@ %d:%02d:%02d"), days, suffixUtf8.constData(), hours, minutes, secs);
+    return fillFormat(Tarvel::localized("%dday%@ %d:%02d:%02d"), days, suffixUtf8.constData(), hours, minutes, secs);
 }

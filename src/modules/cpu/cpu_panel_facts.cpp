@@ -15,7 +15,7 @@ QString cpuKindText(LoadSystemInformation& loadInfo)
     const auto processors = loadInfo.processorCount();
     if (!processors)
         return brand.isEmpty() ? QStringLiteral("---") : brand;
-    return localized("%@ %dcores")
+    return Tarvel::localized("%@ %dcores")
         .replace(QLatin1String("%@"), brand)
         .replace(QLatin1String("%d"), QString::number(*processors));
 }

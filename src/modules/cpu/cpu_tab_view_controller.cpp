@@ -20,10 +20,10 @@ using namespace PrefKey;
 
 CpuTabViewController::CpuTabViewController(SettingsStore& store, PrefNotificationCenter& center, QWidget* parent)
     : SampledPictureTab(ModuleId::Cpu,
-                        {{1, Cpu_Display_Graph, "Graph"},
-                         {2, Cpu_Display_LevelBar, "Level bar"},
-                         {3, Cpu_Display_CircleMeter, "Cycle meter"},
-                         {4, Cpu_Display_Text, "Text"}},
+                        {{1, Cpu_Display_Graph, Tarvel::textKey("Graph")},
+                         {2, Cpu_Display_LevelBar, Tarvel::textKey("Level bar")},
+                         {3, Cpu_Display_CircleMeter, Tarvel::textKey("Cycle meter")},
+                         {4, Cpu_Display_Text, Tarvel::textKey("Text")}},
                         CpuItemSortArray, store, center, parent)
 {
     buildFrame("CpuPreview", buildDisplay(), buildMenuItems(CPU_EnaMenu_Amon, CPU_EnaMenu_Cnsl, CPU_EnaMenu_Tmnl));
@@ -32,16 +32,16 @@ CpuTabViewController::CpuTabViewController(SettingsStore& store, PrefNotificatio
 
 QWidget* CpuTabViewController::buildDisplay()
 {
-    auto* box = new QGroupBox(localized("Display"), this);
+    auto* box = new QGroupBox(Tarvel::localized("Display"), this);
     auto* form = new QFormLayout(box);
     addSlider(form, Cpu_GraphWidth, SliderKind::GraphWidth, kGraphSliderMin, kGraphSliderMax);
     addSlider(form, Cpu_UpdateInterval, SliderKind::Interval, kIntervalSliderMin, kIntervalSliderMax);
-    addSwitch(form, Cpu_AverageMultiProcessors, "Average multiple processors");
-    addSwitch(form, Cpu_Text_DisplayAverage, "Show user and system as one figure");
-    QCheckBox* line = addSwitch(form, CPU_GraphAsLine, "Draw the graph as a line");
-    boldLine_ = addSwitch(form, CPU_LineAsBold, "Heavy line");
+    addSwitch(form, Cpu_AverageMultiProcessors, Tarvel::textKey("Average multiple processors"));
+    addSwitch(form, Cpu_Text_DisplayAverage, Tarvel::textKey("Show user and system as one figure"));
+    QCheckBox* line = addSwitch(form, CPU_GraphAsLine, Tarvel::textKey("Draw the graph as a line"));
+    boldLine_ = addSwitch(form, CPU_LineAsBold, Tarvel::textKey("Heavy line"));
     connect(line, &QCheckBox::toggled, boldLine_, &QWidget::setEnabled);
-    addLabelSwitch(form, Cpu_ShowMyLabel, "Show the CPU label");
+    addLabelSwitch(form, Cpu_ShowMyLabel, Tarvel::textKey("Show the CPU label"));
     return box;
 }
 

@@ -3,12 +3,13 @@
 
 #include "modules/disk/disk_menu_rows.h"
 #include "modules/panel_labels.h"
+#include "toolkit/localization.h"
 
 #include <QLabel>
 
 template <> void Disk_MenuController::loadBaseData(const StoragePictures& pictures, const DiskBaseDict& diskBaseDict)
 {
-    if (!startBlocks(diskBaseDict.empty(), "No disk found"))
+    if (!startBlocks(diskBaseDict.empty(), Tarvel::textKey("No disk found")))
         return;
     for (const auto& [key, disk] : diskBaseDict) {
         QLabel* totals = PanelLabels::figure(this, Qt::AlignLeft);

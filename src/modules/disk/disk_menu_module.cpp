@@ -5,6 +5,7 @@
 #include "modules/disk/disk_menu_rows.h"
 #include "modules/module_descriptor.h"
 #include "prefs/pref_keys.h"
+#include "toolkit/localization.h"
 
 using namespace PrefKey;
 

@@ -37,11 +37,11 @@ QString diskFactsText(const DiskBaseEntry& disk)
     if (disk.vendorName)
         facts << *disk.vendorName;
     if (disk.productRevisionLevel)
-        facts << localized("Revision") + QLatin1Char(' ') + *disk.productRevisionLevel;
+        facts << Tarvel::localized("Revision") + QLatin1Char(' ') + *disk.productRevisionLevel;
     if (disk.productSerialNumber)
-        facts << localized("Serial") + QLatin1Char(' ') + *disk.productSerialNumber;
+        facts << Tarvel::localized("Serial") + QLatin1Char(' ') + *disk.productSerialNumber;
     if (disk.mediumType)
-        facts << localized(disk.mediumType->toUtf8().constData());
+        facts << Tarvel::localized(disk.mediumType->toUtf8().constData());
     // Solid-state disks report a rotation rate of 0: there is nothing to say then.
     if (disk.mediumRotationRate && *disk.mediumRotationRate > 0)
         facts << QStringLiteral("%1 rpm").arg(*disk.mediumRotationRate);
@@ -53,7 +53,7 @@ QString diskFactsText(const DiskBaseEntry& disk)
 QString diskRatesText(const History<DiskSample>& history, const QString& key)
 {
     const DiskRates rates = newestDiskRates(history, key);
-    return localized("Read") + QLatin1Char(' ') + rate(rates.read) + QStringLiteral("  ") + localized("Write") +
+    return Tarvel::localized("Read") + QLatin1Char(' ') + rate(rates.read) + QStringLiteral("  ") + Tarvel::localized("Write") +
            QLatin1Char(' ') + rate(rates.write);
 }
 
@@ -64,8 +64,8 @@ QString diskTotalsText(const History<DiskSample>& history, const QString& key)
     const auto device = history.back().devices.find(key);
     if (device == history.back().devices.end())
         return {};
-    return localized("Read") + QLatin1Char(' ') + TvlClasses::calcDiskSize(clampedBytes(device->second[0])) +
-           QStringLiteral("  ") + localized("Written") + QLatin1Char(' ') +
+    return Tarvel::localized("Read") + QLatin1Char(' ') + TvlClasses::calcDiskSize(clampedBytes(device->second[0])) +
+           QStringLiteral("  ") + Tarvel::localized("Written") + QLatin1Char(' ') +
            TvlClasses::calcDiskSize(clampedBytes(device->second[1]));
 }
 

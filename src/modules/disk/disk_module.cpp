@@ -7,6 +7,7 @@
 #include "prefs/pref_keys.h"
 #include "prefs/pref_measure.h"
 #include "toolkit/label_lists.h"
+#include "toolkit/localization.h"
 
 #include <QJsonArray>
 
@@ -38,7 +39,7 @@ ModuleSchema diskSchema()
             LaunchDisk,
             4,
             "DiskModuleNotif",
-            "Disk",
+            Tarvel::textKey("Disk"),
             Disk_UpdateInterval,
             withToolItems({{DiskItemSortArray, T::Array, ints({1, 2, 3})},
                            {Disk_Display_Indicator, T::Bool, true},

@@ -23,7 +23,7 @@ QStringList labelChoices()
 {
     QStringList choices;
     for (const QStringList& pair : PlistFunction::retDiskReadWrite())
-        choices.append(pair.value(0) == QLatin1String("-") ? localized("None") : pair.join(QStringLiteral(" / ")));
+        choices.append(pair.value(0) == QLatin1String("-") ? Tarvel::localized("None") : pair.join(QStringLiteral(" / ")));
     return choices;
 }
 
@@ -31,9 +31,9 @@ QStringList labelChoices()
 
 const QList<PictureSettingsTab::Element>& DiskTabViewController::elements()
 {
-    static const QList<Element> list{{1, Disk_Display_Indicator, "Read/write lamps"},
-                                     {2, Disk_Display_Graph, "Graph"},
-                                     {3, Disk_Display_Text, "Text"}};
+    static const QList<Element> list{{1, Disk_Display_Indicator, Tarvel::textKey("Read/write lamps")},
+                                     {2, Disk_Display_Graph, Tarvel::textKey("Graph")},
+                                     {3, Disk_Display_Text, Tarvel::textKey("Text")}};
     return list;
 }
 
@@ -46,25 +46,25 @@ DiskTabViewController::DiskTabViewController(SettingsStore& store, PrefNotificat
 
 QWidget* DiskTabViewController::buildDisplay()
 {
-    auto* box = new QGroupBox(localized("Display"), this);
+    auto* box = new QGroupBox(Tarvel::localized("Display"), this);
     auto* form = new QFormLayout(box);
     addSlider(form, Disk_GraphWidth, SliderKind::GraphWidth, kGraphSliderMin, kGraphSliderMax);
     addSlider(form, Disk_UpdateInterval, SliderKind::Interval, kIntervalSliderMin, kIntervalSliderMax);
-    addPopup(form, Disk_Indicator_Label, "Lamp labels", labelChoices());
-    addPopup(form, Disk_Graph_Label, "Graph labels", labelChoices());
-    addPopup(form, Disk_Text_Label, "Text labels", labelChoices());
-    addPopup(form, Disk_Graph_Mode, "Graph style", PlistFunction::retGeneralGraphKind());
-    addPopup(form, Disk_Percent_Mode, "Graph scale",
-             {localized("Relative to the busiest moment shown"), localized("Logarithmic")});
-    QCheckBox* each = addSwitch(form, Disk_ShowEachDisk, "Show each disk");
-    QCheckBox* icons = addSwitch(form, Disk_WithDiskIconInBackground, "Disk pictures behind each disk");
+    addPopup(form, Disk_Indicator_Label, Tarvel::textKey("Lamp labels"), labelChoices());
+    addPopup(form, Disk_Graph_Label, Tarvel::textKey("Graph labels"), labelChoices());
+    addPopup(form, Disk_Text_Label, Tarvel::textKey("Text labels"), labelChoices());
+    addPopup(form, Disk_Graph_Mode, Tarvel::textKey("Graph style"), PlistFunction::retGeneralGraphKind());
+    addPopup(form, Disk_Percent_Mode, Tarvel::textKey("Graph scale"),
+             {Tarvel::localized("Relative to the busiest moment shown"), Tarvel::localized("Logarithmic")});
+    QCheckBox* each = addSwitch(form, Disk_ShowEachDisk, Tarvel::textKey("Show each disk"));
+    QCheckBox* icons = addSwitch(form, Disk_WithDiskIconInBackground, Tarvel::textKey("Disk pictures behind each disk"));
     // A picture stands for one disk, so it goes only behind per-disk sets.
     connect(each, &QCheckBox::toggled, icons, &QWidget::setEnabled);
     icons->setEnabled(each->isChecked());
     // The menu lists a block per disk, so it is rebuilt for the new list.
-    addSwitch(form, Disk_ShowVirtualDisks, "Show virtual devices (loop, LVM, RAID)",
+    addSwitch(form, Disk_ShowVirtualDisks, Tarvel::textKey("Show virtual devices (loop, LVM, RAID)"),
               {{QLatin1String(NotifKey::ModuleItemRefreshNow), true}});
-    addLabelSwitch(form, Disk_ShowMyLabel, "Show the Disk label");
+    addLabelSwitch(form, Disk_ShowMyLabel, Tarvel::textKey("Show the Disk label"));
     return box;
 }
 

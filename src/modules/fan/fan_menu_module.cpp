@@ -5,6 +5,7 @@
 #include "modules/fan/fan_picture_settings.h"
 #include "modules/fan/image_fan_bar.h"
 #include "prefs/pref_keys.h"
+#include "toolkit/localization.h"
 
 using namespace PrefKey;
 

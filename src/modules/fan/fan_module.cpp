@@ -10,6 +10,7 @@
 #include "prefs/pref_functions.h"
 #include "prefs/pref_keys.h"
 #include "prefs/pref_measure.h"
+#include "toolkit/localization.h"
 
 namespace {
 
@@ -40,7 +41,7 @@ ModuleSchema fanSchema()
             LaunchFans,
             6,
             "FanModuleNotif",
-            "Fan",
+            Tarvel::textKey("Fan"),
             Fan_UpdateInterval,
             withToolItems({{FanItemSortArray, T::Array, ints({1, 2})},
                            {Fan_Display_Text, T::Bool, true},

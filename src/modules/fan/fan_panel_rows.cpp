@@ -14,9 +14,9 @@ QString limits(const FanEntry& fan)
 {
     QStringList parts;
     if (fan.minimum)
-        parts.append(localized("min %1").arg(speed(*fan.minimum)));
+        parts.append(Tarvel::localized("min %1").arg(speed(*fan.minimum)));
     if (fan.maximum)
-        parts.append(localized("max %1").arg(speed(*fan.maximum)));
+        parts.append(Tarvel::localized("max %1").arg(speed(*fan.maximum)));
     return parts.join(QStringLiteral(", "));
 }
 
@@ -26,10 +26,10 @@ QList<SensorPanelRow> fanPanelRows(const QList<FanEntry>& fans, const SensorSamp
 {
     using Kind = SensorPanelRow::Kind;
     if (fans.isEmpty())
-        return {{Kind::Note, localized("No fans were found."), {}, {}}};
+        return {{Kind::Note, Tarvel::localized("No fans were found."), {}, {}}};
     QList<SensorPanelRow> rows;
     for (const FanEntry& fan : fans)
         rows.append({Kind::Reading, fan.name, speed(sample.reading(fan.name)), limits(fan)});
-    rows.append({Kind::Reading, localized("Average"), speed(sample.average), {}});
+    rows.append({Kind::Reading, Tarvel::localized("Average"), speed(sample.average), {}});
     return rows;
 }

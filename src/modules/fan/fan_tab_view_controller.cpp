@@ -13,7 +13,7 @@
 using namespace PrefKey;
 
 FanTabViewController::FanTabViewController(SettingsStore& store, PrefNotificationCenter& center, QWidget* parent)
-    : SensorPictureTab(ModuleId::Fan, {{1, Fan_Display_Graph, "Graph"}, {2, Fan_Display_Text, "Text"}},
+    : SensorPictureTab(ModuleId::Fan, {{1, Fan_Display_Graph, Tarvel::textKey("Graph")}, {2, Fan_Display_Text, Tarvel::textKey("Text")}},
                        FanItemSortArray, std::make_unique<ImageFanBar>(), &fanPictureSettings, store, center, parent)
 {
     buildFrame("FanPreview", buildDisplay(), buildMenuItems(Fan_EnaMenu_Amon, Fan_EnaMenu_Cnsl, Fan_EnaMenu_Tmnl));
@@ -22,14 +22,14 @@ FanTabViewController::FanTabViewController(SettingsStore& store, PrefNotificatio
 
 QWidget* FanTabViewController::buildDisplay()
 {
-    auto* box = new QGroupBox(localized("Display"), this);
+    auto* box = new QGroupBox(Tarvel::localized("Display"), this);
     auto* form = new QFormLayout(box);
-    addNumber(form, Fax_MaxRpm, "Top of the graph", 2000, 6000, 100, QStringLiteral(" rpm"));
+    addNumber(form, Fax_MaxRpm, Tarvel::textKey("Top of the graph"), 2000, 6000, 100, QStringLiteral(" rpm"));
     addSlider(form, Fan_GraphWidth, SliderKind::GraphWidth, kGraphSliderMin, kGraphSliderMax);
     addSlider(form, Fan_UpdateInterval, SliderKind::Interval, kIntervalSliderMin, kIntervalSliderMax);
-    addSwitch(form, Fan_PileUp_TextGraph, "Pile the text on the graph");
-    addSwitch(form, Fan_ColoredMenu, "Colour the text by the speed");
-    addSwitch(form, Fan_GradientColor, "Blend the warning colours");
-    addLabelSwitch(form, Fan_ShowMyLabel, "Show the Fan label");
+    addSwitch(form, Fan_PileUp_TextGraph, Tarvel::textKey("Pile the text on the graph"));
+    addSwitch(form, Fan_ColoredMenu, Tarvel::textKey("Colour the text by the speed"));
+    addSwitch(form, Fan_GradientColor, Tarvel::textKey("Blend the warning colours"));
+    addLabelSwitch(form, Fan_ShowMyLabel, Tarvel::textKey("Show the Fan label"));
     return box;
 }

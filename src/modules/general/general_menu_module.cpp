@@ -21,7 +21,7 @@ void General_MenuModule::drawBaseStatusBar()
 {
     statusMenu->clear();
     const auto add = [this](const char* text, void (General_MenuModule::*action)(), const char* icon = nullptr) {
-        QAction* item = statusMenu->addAction(localized(text));
+        QAction* item = statusMenu->addAction(Tarvel::localized(text));
         if (icon != nullptr) {
             const ThemePicture picture = myDefaults.picture(QLatin1String(icon));
             if (!picture.image.isNull())
@@ -29,14 +29,14 @@ void General_MenuModule::drawBaseStatusBar()
         }
         connect(item, &QAction::triggered, this, action);
     };
-    add("Preferences...", &General_MenuModule::openTab, "O01");
-    add("Check for Updates...", &General_MenuModule::checkUpdate, "O02");
-    add("Visit the Web Site", &General_MenuModule::visitWebSite);
+    add(Tarvel::textKey("Preferences..."), &General_MenuModule::openTab, "O01");
+    add(Tarvel::textKey("Check for Updates..."), &General_MenuModule::checkUpdate, "O02");
+    add(Tarvel::textKey("Visit the Web Site"), &General_MenuModule::visitWebSite);
     statusMenu->addSeparator();
-    add("Open the Settings Folder", &General_MenuModule::openAsDir);
-    add("Show Where Tarvel Runs From", &General_MenuModule::openDirContMyself);
+    add(Tarvel::textKey("Open the Settings Folder"), &General_MenuModule::openAsDir);
+    add(Tarvel::textKey("Show Where Tarvel Runs From"), &General_MenuModule::openDirContMyself);
     statusMenu->addSeparator();
-    add("Quit", &General_MenuModule::quitMySelf);
+    add(Tarvel::textKey("Quit"), &General_MenuModule::quitMySelf);
     // The controller never redraws this item on its own, so its picture is set with its menu.
     refreshBar();
 }
@@ -69,7 +69,7 @@ QString General_MenuModule::itemText() const
     const QString home = QDir::homePath() + u'/';
     if (where.startsWith(home))
         where = QStringLiteral("~/") + where.mid(home.size());
-    return localized("%1, settings in %2").arg(text, where);
+    return Tarvel::localized("%1, settings in %2").arg(text, where);
 }
 
 void General_MenuModule::checkUpdate()

@@ -28,7 +28,7 @@ TopTabColorSection::TopTabColorSection(QWidget* parent)
         const QStringList keys = themeColorKeysOf(*schema);
         if (keys.isEmpty())
             continue;
-        const QString title = id == ModuleId::General ? localized("Shared") : localized(schema->prefName);
+        const QString title = id == ModuleId::General ? Tarvel::localized("Shared") : Tarvel::localized(schema->prefName);
         auto* group = new QGroupBox(title, this);
         auto* form = new QFormLayout(group);
         for (const QString& key : keys) {

@@ -21,7 +21,7 @@ constexpr int kSettleMs = 600;
 TopTabDdnsSection::TopTabDdnsSection(QWidget* parent)
     : QWidget(parent)
     , editor_(new QPlainTextEdit(this))
-    , run_(new QPushButton(localized("Update Now"), this))
+    , run_(new QPushButton(Tarvel::localized("Update Now"), this))
     , outcome_(new QLabel(this))
     , settle_(new QTimer(this))
 {
@@ -51,7 +51,7 @@ TopTabDdnsSection::TopTabDdnsSection(QWidget* parent)
             settle_->stop();
             Q_EMIT listEdited(editor_->toPlainText());
         }
-        outcome_->setText(localized("Looking up the global address..."));
+        outcome_->setText(Tarvel::localized("Looking up the global address..."));
         Q_EMIT runRequested();
     });
     run_->setEnabled(false);

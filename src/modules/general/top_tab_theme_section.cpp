@@ -43,7 +43,7 @@ TopTabThemeSection::TopTabThemeSection(QWidget* parent)
     : QWidget(parent)
     , themes_(new QComboBox(this))
     , detail_(new QLabel(this))
-    , save_(new QPushButton(localized("Save Theme..."), this))
+    , save_(new QPushButton(Tarvel::localized("Save Theme..."), this))
     , families_(new QComboBox(this))
     , styles_(new QComboBox(this))
     , adjust_(new QSpinBox(this))
@@ -53,20 +53,20 @@ TopTabThemeSection::TopTabThemeSection(QWidget* parent)
     auto* themeRow = new QHBoxLayout();
     themeRow->addWidget(themes_, 1);
     themeRow->addWidget(save_);
-    form->addRow(localized("Theme"), themeRow);
+    form->addRow(Tarvel::localized("Theme"), themeRow);
     detail_->setWordWrap(true);
     detail_->setTextInteractionFlags(Qt::TextSelectableByMouse);
     form->addRow(QString(), detail_);
     auto* fontRow = new QHBoxLayout();
     fontRow->addWidget(families_, 1);
     fontRow->addWidget(styles_);
-    form->addRow(localized("Font"), fontRow);
+    form->addRow(Tarvel::localized("Font"), fontRow);
     adjust_->setRange(-5, 5);
     sizeDiff_->setRange(-4, 6);
     adjust_->setSizePolicy(QSizePolicy::Fixed, QSizePolicy::Fixed);
     sizeDiff_->setSizePolicy(QSizePolicy::Fixed, QSizePolicy::Fixed);
-    form->addRow(localized("Font position adjustment"), adjust_);
-    form->addRow(localized("Font size difference"), sizeDiff_);
+    form->addRow(Tarvel::localized("Font position adjustment"), adjust_);
+    form->addRow(Tarvel::localized("Font size difference"), sizeDiff_);
     families_->addItems(QFontDatabase::families());
 
     connect(themes_, &QComboBox::currentIndexChanged, this, &TopTabThemeSection::themeChosen);
@@ -95,7 +95,7 @@ void TopTabThemeSection::rebuildThemeMenus()
         const QString file = entry.value(QLatin1String(PrefKey::_FileName)).toString();
         const bool current = file == QLatin1String(TvlClasses::kNowThemeFileName);
         const QString name = entry.value(QLatin1String(PrefKey::_Name)).toString();
-        themes_->addItem(current ? localized("Selected Theme") + QStringLiteral(" (") + name + QLatin1Char(')') : name,
+        themes_->addItem(current ? Tarvel::localized("Selected Theme") + QStringLiteral(" (") + name + QLatin1Char(')') : name,
                          file);
         themes_->setItemData(themes_->count() - 1, file, Qt::ToolTipRole);
         if (current)
@@ -112,7 +112,7 @@ void TopTabThemeSection::showDetail()
         return;
     QString text = TvlClasses::retThemeDetailText(themeEntry_);
     if (!fontInUse_.isEmpty())
-        text += u'\n' + localized("Font: %1").arg(fontInUse_);
+        text += u'\n' + Tarvel::localized("Font: %1").arg(fontInUse_);
     detail_->setText(text);
 }
 
@@ -181,10 +181,10 @@ void TopTabThemeSection::saveTheme(const QVariantMap& theme)
     const QString name = theme.value(QLatin1String(PrefKey::_Name)).toString();
     const QString proposed = TvlClasses::retThemeFilePath(QStringLiteral("%1 copy.plist").arg(name));
     const QString path =
-        QFileDialog::getSaveFileName(this, localized("Save Theme..."), proposed, QStringLiteral("*.plist"));
+        QFileDialog::getSaveFileName(this, Tarvel::localized("Save Theme..."), proposed, QStringLiteral("*.plist"));
     if (path.isEmpty())
         return;
     if (!TvlClasses::saveThemeFile(path, theme))
-        QMessageBox::warning(this, localized("Save Theme..."), localized("The theme could not be saved."));
+        QMessageBox::warning(this, Tarvel::localized("Save Theme..."), Tarvel::localized("The theme could not be saved."));
     rebuildThemeMenus();
 }

@@ -57,10 +57,10 @@ TopTabViewController::TopTabViewController(MenuModuleDelegate* delegate, Setting
     auto* modulesBox = new QWidget();
     auto* modulesLayout = new QVBoxLayout(modulesBox);
     modulesLayout->setContentsMargins(0, 0, 0, 0);
-    auto* hint = new QLabel(localized("Drag to change the order in the menu bar."));
+    auto* hint = new QLabel(Tarvel::localized("Drag to change the order in the menu bar."));
     hint->setEnabled(false);
-    appIcon_ = new QCheckBox(localized("Show the Tarvel item"));
-    barPreviewOn_ = new QCheckBox(localized("Preview the menu bar here"));
+    appIcon_ = new QCheckBox(Tarvel::localized("Show the Tarvel item"));
+    barPreviewOn_ = new QCheckBox(Tarvel::localized("Preview the menu bar here"));
     barPreviewOn_->setObjectName(QLatin1String(TopHistgramPreview));
     barPreview_ = new QLabel();
     barPreview_->setAlignment(Qt::AlignRight | Qt::AlignVCenter);
@@ -70,11 +70,11 @@ TopTabViewController::TopTabViewController(MenuModuleDelegate* delegate, Setting
     modulesLayout->addWidget(appIcon_);
     modulesLayout->addWidget(barPreviewOn_);
     modulesLayout->addWidget(barPreview_);
-    layout->addWidget(group(localized("Modules"), modulesBox, this));
-    layout->addWidget(group(localized("Theme"), theme_, this));
-    layout->addWidget(group(localized("Colors"), colors_, this));
-    layout->addWidget(group(localized("General"), buildOptions(), this));
-    layout->addWidget(group(localized("Dynamic DNS"), buildDdns(), this));
+    layout->addWidget(group(Tarvel::localized("Modules"), modulesBox, this));
+    layout->addWidget(group(Tarvel::localized("Theme"), theme_, this));
+    layout->addWidget(group(Tarvel::localized("Colors"), colors_, this));
+    layout->addWidget(group(Tarvel::localized("General"), buildOptions(), this));
+    layout->addWidget(group(Tarvel::localized("Dynamic DNS"), buildDdns(), this));
     layout->addStretch(1);
 
     connect(modules_, &ElementOrderList::entrySwitched, this, &TopTabViewController::moduleSwitched);
@@ -100,11 +100,11 @@ QWidget* TopTabViewController::buildOptions()
     rebootDays_ = new QSpinBox(options);
     rebootDays_->setRange(0, kMaxRebootDays);
     rebootDays_->setSizePolicy(QSizePolicy::Fixed, QSizePolicy::Fixed);
-    rebootDays_->setSpecialValueText(localized("Never"));
-    form->addRow(localized("Reboot Tarvel regularly (days)"), rebootDays_);
-    atStartup_ = new QCheckBox(localized("Display preferences at startup"), options);
-    denyUpdate_ = new QCheckBox(localized("Never receive the update notification"), options);
-    atLogin_ = new QCheckBox(localized("Start Tarvel at login"), options);
+    rebootDays_->setSpecialValueText(Tarvel::localized("Never"));
+    form->addRow(Tarvel::localized("Reboot Tarvel regularly (days)"), rebootDays_);
+    atStartup_ = new QCheckBox(Tarvel::localized("Display preferences at startup"), options);
+    denyUpdate_ = new QCheckBox(Tarvel::localized("Never receive the update notification"), options);
+    atLogin_ = new QCheckBox(Tarvel::localized("Start Tarvel at login"), options);
     // Named after their keys, for tests and accessibility tools.
     rebootDays_->setObjectName(QLatin1String(kRebootRegularlyDays));
     atStartup_->setObjectName(QLatin1String(DisplayTopWindowAtStartup));
@@ -182,9 +182,9 @@ void TopTabViewController::loadModuleEnabled()
         const auto id = moduleForSortCode(code.toLongLong());
         if (id)
             entries.append({code.toLongLong(),
-                            moduleHasStatusItem(*id) ? localized(moduleSchema(*id).prefName)
-                                                     : localized(moduleSchema(*id).prefName) + QStringLiteral("  ") +
-                                                           localized("(not available on this system yet)"),
+                            moduleHasStatusItem(*id) ? Tarvel::localized(moduleSchema(*id).prefName)
+                                                     : Tarvel::localized(moduleSchema(*id).prefName) + QStringLiteral("  ") +
+                                                           Tarvel::localized("(not available on this system yet)"),
                             PrefFunctions::isModuleSwitchedOn(store(), moduleSchema(*id))});
     }
     modules_->setEntries(entries);
@@ -265,8 +265,8 @@ void TopTabViewController::loginChanged(bool on)
     if (loading())
         return;
     if (!LoginItem::setEnabled(on, QCoreApplication::applicationFilePath())) {
-        QMessageBox::warning(this, localized("Start Tarvel at login"),
-                             localized("The autostart entry could not be written:") + QLatin1Char('\n') +
+        QMessageBox::warning(this, Tarvel::localized("Start Tarvel at login"),
+                             Tarvel::localized("The autostart entry could not be written:") + QLatin1Char('\n') +
                                  LoginItem::entryPath());
         const QSignalBlocker blocker(atLogin_);
         atLogin_->setChecked(!on);

@@ -23,17 +23,17 @@ const char* headerOf(MemoryPart part, bool longLabel)
 {
     switch (part) {
     case MemoryPart::Wired:
-        return longLabel ? "Wired:" : "W:";
+        return longLabel ? Tarvel::textKey("Wired:") : Tarvel::textKey("W:");
     case MemoryPart::Active:
-        return longLabel ? "Active:" : "A:";
+        return longLabel ? Tarvel::textKey("Active:") : Tarvel::textKey("A:");
     case MemoryPart::Inactive:
-        return longLabel ? "Inactive:" : "I:";
+        return longLabel ? Tarvel::textKey("Inactive:") : Tarvel::textKey("I:");
     case MemoryPart::Application:
-        return longLabel ? "App:" : "A:";
+        return longLabel ? Tarvel::textKey("App:") : Tarvel::textKey("A:");
     case MemoryPart::Cached:
-        return longLabel ? "Cached:" : "C:";
+        return longLabel ? Tarvel::textKey("Cached:") : Tarvel::textKey("C:");
     case MemoryPart::Free:
-        return longLabel ? "Free:" : "F:";
+        return longLabel ? Tarvel::textKey("Free:") : Tarvel::textKey("F:");
     case MemoryPart::Compressed:
     case MemoryPart::Other:
         break;
@@ -157,8 +157,10 @@ void ImageMemoryBar::drawText(QPainter& painter, TextAttributes& attributes, con
     // The figure in use is headed in the colour of the memory pressure, as the graph shows it.
     const QColor pressure = retGraphColor(memoryPressure(resumeArray.back(), totalPages_), settings.low,
                                           settings.warning, settings.critical, true);
-    drawLine(painter, attributes, column, 0, localized(longLabel ? "Used:" : "U:"), pressure, parts.inUse());
-    drawLine(painter, attributes, column, 2, localized(longLabel ? "Free:" : "F:"), settings.textColor,
+    const char* usedKey = longLabel ? Tarvel::textKey("Used:") : Tarvel::textKey("U:");
+    const char* freeKey = longLabel ? Tarvel::textKey("Free:") : Tarvel::textKey("F:");
+    drawLine(painter, attributes, column, 0, Tarvel::localized(usedKey), pressure, parts.inUse());
+    drawLine(painter, attributes, column, 2, Tarvel::localized(freeKey), settings.textColor,
              shareOf(parts, MemoryPart::Free).pages);
     x += widths_.text() + insets.spacing;
 }
@@ -178,7 +180,7 @@ void ImageMemoryBar::drawDetailText(QPainter& painter, TextAttributes& attribute
         const MemoryPart part = shown[i];
         // Free's own colour is kept faint; its header is drawn like the figures.
         const QColor header = part == MemoryPart::Free ? mySettings.textColor : mySettings.partColor(part);
-        drawLine(painter, attributes, columns[i / 2], i % 2 == 0 ? 0 : 2, localized(headerOf(part, longLabel)), header,
+        drawLine(painter, attributes, columns[i / 2], i % 2 == 0 ? 0 : 2, Tarvel::localized(headerOf(part, longLabel)), header,
                  shareOf(parts, part).pages);
     }
     x += widths_.detail() + insets.spacing;

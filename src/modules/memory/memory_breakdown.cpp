@@ -2,6 +2,7 @@
 #include "modules/memory/memory_breakdown.h"
 
 #include "modules/memory/memory_theme_keys.h"
+#include "toolkit/localization.h"
 #include "toolkit/value_format.h"
 
 #include <algorithm>
@@ -99,21 +100,21 @@ const char* memoryPartName(MemoryPart part)
 {
     switch (part) {
     case MemoryPart::Wired:
-        return "Wired";
+        return Tarvel::textKey("Wired");
     case MemoryPart::Active:
-        return "Active";
+        return Tarvel::textKey("Active");
     case MemoryPart::Inactive:
-        return "Inactive";
+        return Tarvel::textKey("Inactive");
     case MemoryPart::Compressed:
-        return "Compressed";
+        return Tarvel::textKey("Compressed");
     case MemoryPart::Other:
-        return "Other";
+        return Tarvel::textKey("Other");
     case MemoryPart::Free:
-        return "Free";
+        return Tarvel::textKey("Free");
     case MemoryPart::Application:
-        return "Application";
+        return Tarvel::textKey("Application");
     case MemoryPart::Cached:
-        return "Cached Files";
+        return Tarvel::textKey("Cached Files");
     }
     return "";
 }

@@ -26,20 +26,20 @@ Memory_MenuController::Memory_MenuController(LoadSystemInformation& loadInfo, QW
         grid->addWidget(names_[r], row, 1);
         grid->addWidget(sizes_[r], row++, 2);
     }
-    grid->addWidget(PanelLabels::title(this, "Total"), row, 1);
+    grid->addWidget(PanelLabels::title(this, Tarvel::textKey("Total")), row, 1);
     totalLabel_ = PanelLabels::figure(this, Qt::AlignRight);
     grid->addWidget(totalLabel_, row++, 2);
 
-    const char* rateTitles[] = {"Page-ins", "Page-outs"};
+    const char* rateTitles[] = {Tarvel::textKey("Page-ins"), Tarvel::textKey("Page-outs")};
     for (std::size_t i = 0; i < pageRates_.size(); ++i) {
         grid->addWidget(PanelLabels::title(this, rateTitles[i]), row, 0, 1, 2);
         pageRates_[i] = PanelLabels::figure(this, Qt::AlignRight);
         grid->addWidget(pageRates_[i], row++, 2);
     }
-    grid->addWidget(PanelLabels::title(this, "Swap Used"), row, 0, 1, 2);
+    grid->addWidget(PanelLabels::title(this, Tarvel::textKey("Swap Used")), row, 0, 1, 2);
     swapUsedLabel_ = PanelLabels::figure(this, Qt::AlignRight);
     grid->addWidget(swapUsedLabel_, row++, 2);
-    grid->addWidget(PanelLabels::title(this, "Swap Areas"), row, 0, 1, 2);
+    grid->addWidget(PanelLabels::title(this, Tarvel::textKey("Swap Areas")), row, 0, 1, 2);
     swapAreasLabel_ = new QLabel(this);
     swapAreasLabel_->setAlignment(Qt::AlignRight | Qt::AlignTop);
     grid->addWidget(swapAreasLabel_, row++, 2);
@@ -80,7 +80,7 @@ void Memory_MenuController::replaceData(double seconds, const MemoryPictureSetti
         for (std::size_t r = 0; r < rows.size() && r < kPartRows; ++r) {
             const MemoryPanelRow& line = rows[r];
             swatches_[r]->setPixmap(line.swatch ? PanelLabels::swatch(settings.partColor(line.part)) : QPixmap());
-            names_[r]->setText(localized(memoryPartName(line.part)));
+            names_[r]->setText(Tarvel::localized(memoryPartName(line.part)));
             sizes_[r]->setText(line.size);
         }
         totalLabel_->setText(TvlClasses::calcMemorySize(totalPages * static_cast<std::int64_t>(pageSize), unit));

@@ -5,6 +5,7 @@
 #include "modules/module_descriptor.h"
 #include "modules/standard_menu_items.h"
 #include "prefs/pref_keys.h"
+#include "toolkit/localization.h"
 #include "toolkit/menu_geometry.h"
 
 #include <QLabel>

@@ -6,6 +6,7 @@
 #include "modules/module_descriptor.h"
 #include "prefs/pref_keys.h"
 #include "prefs/pref_measure.h"
+#include "toolkit/localization.h"
 
 #include <QJsonArray>
 
@@ -30,7 +31,7 @@ ModuleSchema memorySchema()
             LaunchMemo,
             2,
             "MemoryModuleNotif",
-            "Memory",
+            Tarvel::textKey("Memory"),
             Memory_UpdateInterval,
             withToolItems({{MemoryItemSortArray, T::Array, ints({1, 2, 3, 4, 5})},
                            {Memory_Unit, T::Integer, 1},

@@ -57,14 +57,14 @@ QString memoryPageRateText(const History<MemorySample>& history, MemoryFigure co
     if (now < 0 || before < 0)
         return QStringLiteral("---");
     const double rate = static_cast<double>(std::max<std::int64_t>(now - before, 0)) / seconds;
-    return localized("%d pages/s").replace(QLatin1String("%d"), QString::number(std::llround(rate)));
+    return Tarvel::localized("%d pages/s").replace(QLatin1String("%d"), QString::number(std::llround(rate)));
 }
 
 QString swapUsedText(const SwapUsage& usage, int unit)
 {
     if (usage.total <= 0)
         return QStringLiteral("---");
-    return localized("%1 of %2")
+    return Tarvel::localized("%1 of %2")
         .arg(TvlClasses::calcMemorySize(usage.used, unit), TvlClasses::calcMemorySize(usage.total, unit));
 }
 
@@ -73,7 +73,7 @@ QStringList swapAreaTexts(const std::vector<SwapArea>& areas, int unit)
     QStringList lines;
     for (const SwapArea& area : areas) {
         lines << QStringLiteral("%1 (%2): %3")
-                     .arg(QString::fromStdString(area.filename), localized(area.type == "file" ? "file" : "partition"),
+                     .arg(QString::fromStdString(area.filename), area.type == "file" ? Tarvel::localized("file") : Tarvel::localized("partition"),
                           swapUsedText({kiBToBytes(area.sizeKiB), 0, kiBToBytes(area.usedKiB)}, unit));
     }
     return lines;

@@ -22,11 +22,11 @@ using namespace PrefKey;
 MemoryTabViewController::MemoryTabViewController(MenuModuleDelegate* delegate, SettingsStore& store,
                                                  PrefNotificationCenter& center, QWidget* parent)
     : SampledPictureTab(ModuleId::Memory,
-                        {{1, Memory_Display_Graph, "Graph"},
-                         {2, Memory_Display_LevelBar, "Level bar"},
-                         {3, Memory_Display_CircleMeter, "Cycle meter"},
-                         {4, Memory_Display_Text, "Text"},
-                         {5, Memory_Display_DetailText, "Detail text"}},
+                        {{1, Memory_Display_Graph, Tarvel::textKey("Graph")},
+                         {2, Memory_Display_LevelBar, Tarvel::textKey("Level bar")},
+                         {3, Memory_Display_CircleMeter, Tarvel::textKey("Cycle meter")},
+                         {4, Memory_Display_Text, Tarvel::textKey("Text")},
+                         {5, Memory_Display_DetailText, Tarvel::textKey("Detail text")}},
                         MemoryItemSortArray, store, center, parent)
     , delegate_(delegate)
 {
@@ -44,15 +44,15 @@ MemoryTabViewController::MemoryTabViewController(MenuModuleDelegate* delegate, S
 
 QWidget* MemoryTabViewController::buildDisplay()
 {
-    auto* box = new QGroupBox(localized("Display"), this);
+    auto* box = new QGroupBox(Tarvel::localized("Display"), this);
     auto* form = new QFormLayout(box);
     addSlider(form, Memory_GraphWidth, SliderKind::GraphWidth, kGraphSliderMin, kGraphSliderMax);
     addSlider(form, Memory_UpdateInterval, SliderKind::Interval, kIntervalSliderMin, kIntervalSliderMax);
-    addPopup(form, Memory_Unit, "Unit", PlistFunction::retMemoryUnit());
-    addSwitch(form, Memory_TradMemoryInfo, "Show wired, active and inactive pages");
-    addSwitch(form, Memory_Text_WithLongLabel, "Long labels in the text");
-    addSwitch(form, Memory_DetailText_WithLongLabel, "Long labels in the detail text");
-    addLabelSwitch(form, Memory_ShowMyLabel, "Show the Memory label");
+    addPopup(form, Memory_Unit, Tarvel::textKey("Unit"), PlistFunction::retMemoryUnit());
+    addSwitch(form, Memory_TradMemoryInfo, Tarvel::textKey("Show wired, active and inactive pages"));
+    addSwitch(form, Memory_Text_WithLongLabel, Tarvel::textKey("Long labels in the text"));
+    addSwitch(form, Memory_DetailText_WithLongLabel, Tarvel::textKey("Long labels in the detail text"));
+    addLabelSwitch(form, Memory_ShowMyLabel, Tarvel::textKey("Show the Memory label"));
     return box;
 }
 

@@ -3,6 +3,7 @@
 
 #include "modules/network/network_rates.h"
 #include "modules/panel_labels.h"
+#include "toolkit/localization.h"
 
 #include <QGridLayout>
 #include <QLabel>
@@ -11,9 +12,9 @@ Network_Current::Network_Current(QWidget* parent)
     : QWidget(parent)
 {
     auto* grid = PanelLabels::panelGrid(this, 12);
-    grid->addWidget(PanelLabels::title(this, "Upload"), 0, 1, Qt::AlignRight);
-    grid->addWidget(PanelLabels::title(this, "Download"), 0, 2, Qt::AlignRight);
-    const char* titles[] = {"Now", "Average", "Peak", "Since Boot"};
+    grid->addWidget(PanelLabels::title(this, Tarvel::textKey("Upload")), 0, 1, Qt::AlignRight);
+    grid->addWidget(PanelLabels::title(this, Tarvel::textKey("Download")), 0, 2, Qt::AlignRight);
+    const char* titles[] = {Tarvel::textKey("Now"), Tarvel::textKey("Average"), Tarvel::textKey("Peak"), Tarvel::textKey("Since Boot")};
     for (std::size_t row = 0; row < cells_.size(); ++row) {
         const int line = static_cast<int>(row) + 1;
         grid->addWidget(PanelLabels::title(this, titles[row]), line, 0);
@@ -22,10 +23,10 @@ Network_Current::Network_Current(QWidget* parent)
             grid->addWidget(cells_[row][column], line, static_cast<int>(column) + 1);
         }
     }
-    grid->addWidget(PanelLabels::title(this, "Global IP Address"), 5, 0);
+    grid->addWidget(PanelLabels::title(this, Tarvel::textKey("Global IP Address")), 5, 0);
     globalAddress_ = PanelLabels::figure(this, Qt::AlignRight);
     grid->addWidget(globalAddress_, 5, 1, 1, 2);
-    grid->addWidget(PanelLabels::title(this, "Location"), 6, 0);
+    grid->addWidget(PanelLabels::title(this, Tarvel::textKey("Location")), 6, 0);
     location_ = new QLabel(this);
     location_->setAlignment(Qt::AlignRight | Qt::AlignVCenter);
     grid->addWidget(location_, 6, 1, 1, 2);

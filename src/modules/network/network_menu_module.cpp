@@ -99,7 +99,7 @@ void Network_MenuModule::drawBaseStatusBar()
                                            myDefaults.boolValue(Network_EnaMenu_Cnsl),
                                            myDefaults.boolValue(Network_EnaMenu_Tmnl), [this] { openTab(); });
     if (const auto settings = networkSettingsProgram()) {
-        QAction* item = statusMenu->addAction(localized("Open Network Settings"));
+        QAction* item = statusMenu->addAction(Tarvel::localized("Open Network Settings"));
         const ThemePicture icon = myDefaults.picture(NetworkThemeKey::O22);
         if (!icon.image.isNull())
             item->setIcon(QIcon(QPixmap::fromImage(icon.image)));
@@ -107,7 +107,7 @@ void Network_MenuModule::drawBaseStatusBar()
                 [settings] { QProcess::startDetached(QLatin1String(settings->program), settings->arguments); });
     }
     if (myDelegate != nullptr) {
-        QAction* lookUp = statusMenu->addAction(localized("Look Up the Global IP Address"));
+        QAction* lookUp = statusMenu->addAction(Tarvel::localized("Look Up the Global IP Address"));
         connect(lookUp, &QAction::triggered, this, &Network_MenuModule::checkGlobalIp);
     }
     statusMenu->addSeparator();
@@ -249,8 +249,8 @@ void Network_MenuModule::checkGlobalIp()
             if (networkCurrent != nullptr)
                 networkCurrent->setGlobalAddress(shown);
             if (Notifier* notifier = myDelegate->notifier()) {
-                const QString text = result.ip.isEmpty() ? localized("No address service answered.") : result.ip;
-                notifier->fireNotification({localized("Global IP Address"), text, {}, {}});
+                const QString text = result.ip.isEmpty() ? Tarvel::localized("No address service answered.") : result.ip;
+                notifier->fireNotification({Tarvel::localized("Global IP Address"), text, {}, {}});
             }
         });
 }

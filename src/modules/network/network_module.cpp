@@ -7,6 +7,7 @@
 #include "prefs/pref_keys.h"
 #include "prefs/pref_measure.h"
 #include "toolkit/label_lists.h"
+#include "toolkit/localization.h"
 
 namespace {
 
@@ -31,7 +32,7 @@ ModuleSchema networkSchema()
             LaunchNetw,
             3,
             "NetworkModuleNotif",
-            "Network",
+            Tarvel::textKey("Network"),
             Network_UpdateInterval,
             withToolItems({{NetworkItemSortArray, T::Array, ints({1, 2, 3, 4})},
                            {Network_Display_UdLabel, T::Bool, false},

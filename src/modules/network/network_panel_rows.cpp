@@ -45,10 +45,10 @@ QString linkSpeedText(std::int64_t bitsPerSecond)
     };
     const auto bps = static_cast<double>(bitsPerSecond);
     if (bps >= 1e9)
-        return scaled(bps / 1e9, "Gbps");
+        return scaled(bps / 1e9, Tarvel::textKey("Gbps"));
     if (bps >= 1e6)
-        return scaled(bps / 1e6, "Mbps");
-    return scaled(bps / 1e3, "Kbps");
+        return scaled(bps / 1e6, Tarvel::textKey("Mbps"));
+    return scaled(bps / 1e3, Tarvel::textKey("Kbps"));
 }
 
 std::vector<NicRow> networkInterfaceRows(const NetworkBase& base, bool showAll,
@@ -64,21 +64,21 @@ std::vector<NicRow> networkInterfaceRows(const NetworkBase& base, bool showAll,
         const QString bsd = QString::fromStdString(name);
         row.title = entry.itf && entry.itf->name != bsd ? QStringLiteral("%1 (%2)").arg(entry.itf->name, bsd) : bsd;
         if (entry.itf)
-            row.lines.append({localized("Type"), localized(entry.itf->type.toUtf8().constData())});
+            row.lines.append({Tarvel::localized("Type"), Tarvel::localized(entry.itf->type.toUtf8().constData())});
         if (entry.ip && entry.ip->ipv4) {
             const QString host = hostNames.value(*entry.ip->ipv4);
-            row.lines.append({localized("IPv4"),
+            row.lines.append({Tarvel::localized("IPv4"),
                               host.isEmpty() ? *entry.ip->ipv4 : QStringLiteral("%1 (%2)").arg(*entry.ip->ipv4, host)});
         }
         if (entry.ip && entry.ip->ipv6)
-            row.lines.append({localized("IPv6"), *entry.ip->ipv6});
+            row.lines.append({Tarvel::localized("IPv6"), *entry.ip->ipv6});
         if (entry.nic) {
-            QString link = localized(entry.nic->linkstatus.toUtf8().constData());
+            QString link = Tarvel::localized(entry.nic->linkstatus.toUtf8().constData());
             if (entry.nic->speed && *entry.nic->speed > 0)
                 link += QStringLiteral(", ") + linkSpeedText(*entry.nic->speed);
-            row.lines.append({localized("Link"), link});
+            row.lines.append({Tarvel::localized("Link"), link});
             if (entry.nic->macaddr)
-                row.lines.append({localized("MAC Address"), *entry.nic->macaddr});
+                row.lines.append({Tarvel::localized("MAC Address"), *entry.nic->macaddr});
         }
         rows.push_back(std::move(row));
     }

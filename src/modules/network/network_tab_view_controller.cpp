@@ -24,10 +24,10 @@ using namespace PrefKey;
 NetworkTabViewController::NetworkTabViewController(SettingsStore& store, PrefNotificationCenter& center,
                                                    QWidget* parent)
     : SampledPictureTab(ModuleId::Network,
-                        {{1, Network_Display_UdLabel, "Upload and download labels"},
-                         {2, Network_Display_UdCircle, "Activity lamps"},
-                         {3, Network_Display_Graph, "Graph"},
-                         {4, Network_Display_Text, "Text"}},
+                        {{1, Network_Display_UdLabel, Tarvel::textKey("Upload and download labels")},
+                         {2, Network_Display_UdCircle, Tarvel::textKey("Activity lamps")},
+                         {3, Network_Display_Graph, Tarvel::textKey("Graph")},
+                         {4, Network_Display_Text, Tarvel::textKey("Text")}},
                         NetworkItemSortArray, store, center, parent)
 {
     auto* columns = new QHBoxLayout();
@@ -44,7 +44,7 @@ NetworkTabViewController::NetworkTabViewController(SettingsStore& store, PrefNot
 
 QWidget* NetworkTabViewController::buildDisplay()
 {
-    auto* box = new QGroupBox(localized("Display"), this);
+    auto* box = new QGroupBox(Tarvel::localized("Display"), this);
     auto* form = new QFormLayout(box);
     addSlider(form, Network_GraphWidth, SliderKind::GraphWidth, kGraphSliderMin, kGraphSliderMax);
     addSlider(form, Network_UpdateInterval, SliderKind::Interval, kIntervalSliderMin, kIntervalSliderMax);
@@ -52,12 +52,12 @@ QWidget* NetworkTabViewController::buildDisplay()
     QStringList pairs;
     for (const QStringList& pair : PlistFunction::retNetworkUdLabel())
         pairs << pair.join(QStringLiteral(" / "));
-    addPopup(form, Network_UdLabel_Mode, "Labels", pairs);
-    addPopup(form, Network_Graph_Mode, "Graph style", PlistFunction::retGeneralGraphKind());
-    addPopup(form, Network_Text_Mode, "Unit", PlistFunction::retNetworkBitOrByte());
-    addSwitch(form, Network_ShowAllNic, "List every interface in the menu",
+    addPopup(form, Network_UdLabel_Mode, Tarvel::textKey("Labels"), pairs);
+    addPopup(form, Network_Graph_Mode, Tarvel::textKey("Graph style"), PlistFunction::retGeneralGraphKind());
+    addPopup(form, Network_Text_Mode, Tarvel::textKey("Unit"), PlistFunction::retNetworkBitOrByte());
+    addSwitch(form, Network_ShowAllNic, Tarvel::textKey("List every interface in the menu"),
               {{QLatin1String(NotifKey::ModuleItemRefreshNow), true}});
-    addLabelSwitch(form, Network_ShowMyLabel, "Show the Network label");
+    addLabelSwitch(form, Network_ShowMyLabel, Tarvel::textKey("Show the Network label"));
     return box;
 }
 

@@ -5,6 +5,7 @@
 #include "modules/temp/temp_menu_controller.h"
 #include "modules/temp/temp_picture_settings.h"
 #include "prefs/pref_keys.h"
+#include "toolkit/localization.h"
 
 using namespace PrefKey;
 

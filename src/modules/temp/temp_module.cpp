@@ -11,6 +11,7 @@
 #include "prefs/pref_keys.h"
 #include "prefs/pref_measure.h"
 #include "toolkit/label_lists.h"
+#include "toolkit/localization.h"
 
 namespace {
 
@@ -41,7 +42,7 @@ ModuleSchema tempSchema()
             LaunchTemp,
             5,
             "TempModuleNotif",
-            "Temp",
+            Tarvel::textKey("Temp"),
             Temp_UpdateInterval,
             withToolItems({{TempItemSortArray, T::Array, ints({1, 2})},
                            {Temp_Display_Text, T::Bool, true},

@@ -10,9 +10,9 @@ QString marks(const TempSensorEntry& entry, const TempUnit& unit)
 {
     QStringList parts;
     if (entry.high)
-        parts.append(localized("high %1").arg(tempDegreesText(*entry.high, unit)));
+        parts.append(Tarvel::localized("high %1").arg(tempDegreesText(*entry.high, unit)));
     if (entry.critical)
-        parts.append(localized("critical %1").arg(tempDegreesText(*entry.critical, unit)));
+        parts.append(Tarvel::localized("critical %1").arg(tempDegreesText(*entry.critical, unit)));
     return parts.join(QStringLiteral(", "));
 }
 
@@ -29,7 +29,7 @@ QList<SensorPanelRow> tempPanelRows(const std::optional<QList<TempSensorEntry>>&
     using Kind = SensorPanelRow::Kind;
     QList<SensorPanelRow> rows;
     if (!table || table->isEmpty()) {
-        rows.append({Kind::Note, localized("No temperature sensors were found."), {}, {}});
+        rows.append({Kind::Note, Tarvel::localized("No temperature sensors were found."), {}, {}});
     } else {
         // Chips in the order the table first names them, each with all of its sensors.
         QStringList groups;
@@ -38,19 +38,19 @@ QList<SensorPanelRow> tempPanelRows(const std::optional<QList<TempSensorEntry>>&
                 groups.append(entry.group);
         }
         for (const QString& group : std::as_const(groups)) {
-            rows.append({Kind::Heading, group.isEmpty() ? localized("Sensors") : group, {}, {}});
+            rows.append({Kind::Heading, group.isEmpty() ? Tarvel::localized("Sensors") : group, {}, {}});
             for (const TempSensorEntry& entry : *table) {
                 if (entry.group == group)
                     rows.append({Kind::Reading, entry.name, tempDegreesText(sample.reading(entry.name), unit),
                                  marks(entry, unit)});
             }
         }
-        rows.append({Kind::Reading, localized("Average"), tempDegreesText(sample.average, unit), {}});
+        rows.append({Kind::Reading, Tarvel::localized("Average"), tempDegreesText(sample.average, unit), {}});
     }
     // The drive list starts with its "---" row, which stands for the section's heading.
     for (qsizetype i = 0; i < drives.size(); ++i) {
         if (i == 0)
-            rows.append({Kind::Heading, localized("Drives"), {}, {}});
+            rows.append({Kind::Heading, Tarvel::localized("Drives"), {}, {}});
         else
             rows.append({Kind::Reading, drives.at(i).model, tempDegreesText(drives.at(i).temperature, unit), {}});
     }

@@ -18,7 +18,7 @@ using namespace PrefKey;
 
 TempTabViewController::TempTabViewController(MenuModuleDelegate* delegate, SettingsStore& store,
                                              PrefNotificationCenter& center, QWidget* parent)
-    : SensorPictureTab(ModuleId::Temp, {{1, Temp_Display_Graph, "Graph"}, {2, Temp_Display_Text, "Text"}},
+    : SensorPictureTab(ModuleId::Temp, {{1, Temp_Display_Graph, Tarvel::textKey("Graph")}, {2, Temp_Display_Text, Tarvel::textKey("Text")}},
                        TempItemSortArray, std::make_unique<ImageTempBar>(), &tempPictureSettings, store, center,
                        parent)
 {
@@ -30,21 +30,21 @@ TempTabViewController::TempTabViewController(MenuModuleDelegate* delegate, Setti
 
 QWidget* TempTabViewController::buildDisplay()
 {
-    auto* box = new QGroupBox(localized("Display"), this);
+    auto* box = new QGroupBox(Tarvel::localized("Display"), this);
     auto* form = new QFormLayout(box);
     sensorPopup_ = new QComboBox();
     sensorPopup_->setObjectName(QLatin1String(Temp_ShowTempOnMenu));
-    form->addRow(localized("Temperature shown"), sensorPopup_);
+    form->addRow(Tarvel::localized("Temperature shown"), sensorPopup_);
     connect(sensorPopup_, &QComboBox::currentIndexChanged, this, &TempTabViewController::sensorChosen);
-    addPopup(form, Temp_Unit_Mode, "Unit", GeneralFunctions::retTempUnit());
-    addNumber(form, Temp_MaxTemp, "Top of the graph", 60, 100, 5, QStringLiteral("°C"));
+    addPopup(form, Temp_Unit_Mode, Tarvel::textKey("Unit"), GeneralFunctions::retTempUnit());
+    addNumber(form, Temp_MaxTemp, Tarvel::textKey("Top of the graph"), 60, 100, 5, QStringLiteral("°C"));
     addSlider(form, Temp_GraphWidth, SliderKind::GraphWidth, kGraphSliderMin, kGraphSliderMax);
     addSlider(form, Temp_UpdateInterval, SliderKind::Interval, kIntervalSliderMin, kIntervalSliderMax);
-    addSwitch(form, Temp_PileUp_TextGraph, "Pile the text on the graph");
-    addSwitch(form, Temp_ColoredMenu, "Colour the text by the temperature");
-    addSwitch(form, Temp_GradientColor, "Blend the warning colours");
-    addSwitch(form, Temp_AccessForSmartDisks, "Ask the drives for their temperatures");
-    addLabelSwitch(form, Temp_ShowMyLabel, "Show the Temp label");
+    addSwitch(form, Temp_PileUp_TextGraph, Tarvel::textKey("Pile the text on the graph"));
+    addSwitch(form, Temp_ColoredMenu, Tarvel::textKey("Colour the text by the temperature"));
+    addSwitch(form, Temp_GradientColor, Tarvel::textKey("Blend the warning colours"));
+    addSwitch(form, Temp_AccessForSmartDisks, Tarvel::textKey("Ask the drives for their temperatures"));
+    addLabelSwitch(form, Temp_ShowMyLabel, Tarvel::textKey("Show the Temp label"));
     return box;
 }
 
@@ -71,12 +71,12 @@ void TempTabViewController::fillSensorPopup()
     const QSignalBlocker quiet(sensorPopup_);
     const QString stored = myDefaults().stringValue(QLatin1String(Temp_ShowTempOnMenu));
     sensorPopup_->clear();
-    sensorPopup_->addItem(localized("Average of all sensors"), QLatin1String(kTempShowAverage));
+    sensorPopup_->addItem(Tarvel::localized("Average of all sensors"), QLatin1String(kTempShowAverage));
     for (const QString& name : std::as_const(sensorNames_))
         sensorPopup_->addItem(name, name);
     // A sensor chosen once and missing now stays chosen: it may come back with its driver.
     if (!stored.isEmpty() && stored != QLatin1String(kTempShowAverage) && !sensorNames_.contains(stored))
-        sensorPopup_->addItem(localized("%1 (not found)").arg(stored), stored);
+        sensorPopup_->addItem(Tarvel::localized("%1 (not found)").arg(stored), stored);
     const int index = sensorPopup_->findData(stored);
     sensorPopup_->setCurrentIndex(index < 0 ? 0 : index);
 }

@@ -9,7 +9,7 @@
 VncHostTable::VncHostTable(QWidget* parent)
     : QTableWidget(0, 3, parent)
 {
-    setHorizontalHeaderLabels({localized("In menu"), localized("Name"), localized("Address")});
+    setHorizontalHeaderLabels({Tarvel::localized("In menu"), Tarvel::localized("Name"), Tarvel::localized("Address")});
     setSelectionBehavior(QAbstractItemView::SelectRows);
     setSelectionMode(QAbstractItemView::SingleSelection);
     setEditTriggers(QAbstractItemView::DoubleClicked | QAbstractItemView::EditKeyPressed |

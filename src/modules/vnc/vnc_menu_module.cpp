@@ -65,7 +65,7 @@ void VNC_MenuModule::drawBaseStatusBar()
         statusMenu, myDefaults, myDefaults.boolValue(QLatin1String(Vnc_EnaMenu_Amon)),
         myDefaults.boolValue(QLatin1String(Vnc_EnaMenu_Cnsl)), myDefaults.boolValue(QLatin1String(Vnc_EnaMenu_Tmnl)),
         [this] { openTab(); });
-    QAction* viewer = statusMenu->addAction(localized("Open VNC Viewer"));
+    QAction* viewer = statusMenu->addAction(Tarvel::localized("Open VNC Viewer"));
     viewer->setData(kOpenViewerTag);
     connect(viewer, &QAction::triggered, this, &VNC_MenuModule::openScreenSharing);
     // The sharing settings item has no counterpart here: Linux desktops have no one place where
@@ -110,7 +110,7 @@ void VNC_MenuModule::addtionalVncMenus()
         statusMenu->addAction(item);
     }
     if (myDefaults.boolValue(QLatin1String(Vnc_AddMenuOpenAll)) && hosts.size() >= 2) {
-        auto* all = new VNC_MenuItem(localized("Open All of Servers at Once"), OpenAllVncTag, statusMenu);
+        auto* all = new VNC_MenuItem(Tarvel::localized("Open All of Servers at Once"), OpenAllVncTag, statusMenu);
         all->setIcon(themeIcon(myDefaults, "O42", false));
         connect(all, &QAction::triggered, this, [this, all] { selectVncMenuItem(all); });
         statusMenu->addAction(all);

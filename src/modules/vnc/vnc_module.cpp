@@ -4,6 +4,7 @@
 #include "modules/vnc/vnc_sites.h"
 #include "modules/vnc/vnc_tab_view_controller.h"
 #include "prefs/pref_keys.h"
+#include "toolkit/localization.h"
 
 #include <QJsonArray>
 
@@ -22,7 +23,7 @@ ModuleSchema vncSchema()
             LaunchVNC,
             8,
             "VNCModuleNotif",
-            "VNC",
+            Tarvel::textKey("VNC"),
             nullptr,
             withToolItems({{Vnc_ShowMenu, T::Bool, false},
                            {Vnc_AddMenuOpenAll, T::Bool, false},

@@ -20,11 +20,11 @@ void tellNoViewer(Notifier* notifier, const QString& scheme, const QString& what
         return;
     const QString text =
         what.isEmpty()
-            ? localized("No VNC viewer is registered for %1: addresses. Install one, such as Remmina "
+            ? Tarvel::localized("No VNC viewer is registered for %1: addresses. Install one, such as Remmina "
                         "or TigerVNC.")
                   .arg(scheme)
-            : localized("No VNC viewer is registered for %1: addresses, so %2 cannot be opened.").arg(scheme, what);
-    notifier->fireNotification({localized("No VNC viewer"), text, {}, {}});
+            : Tarvel::localized("No VNC viewer is registered for %1: addresses, so %2 cannot be opened.").arg(scheme, what);
+    notifier->fireNotification({Tarvel::localized("No VNC viewer"), text, {}, {}});
 }
 
 } // namespace

@@ -34,7 +34,7 @@ VNCTabViewController::VNCTabViewController(MenuModuleDelegate* delegate, Setting
     , delegate_(delegate)
     , importer_([] { return GeneralFunctions::importScreenShareFiles(VncUserDirs::fromEnvironment()); })
     , chooser_(
-          [this] { return QFileDialog::getExistingDirectory(this, localized("Choose a folder of .vncloc files")); })
+          [this] { return QFileDialog::getExistingDirectory(this, Tarvel::localized("Choose a folder of .vncloc files")); })
     , opener_([this](const QString& url) {
         TvlClasses::goScreenSharingApp(url, delegate_ != nullptr ? delegate_->notifier() : nullptr);
     })
@@ -46,7 +46,7 @@ VNCTabViewController::VNCTabViewController(MenuModuleDelegate* delegate, Setting
 
 QWidget* VNCTabViewController::buildHosts()
 {
-    auto* box = new QGroupBox(localized("Hosts"), this);
+    auto* box = new QGroupBox(Tarvel::localized("Hosts"), this);
     auto* layout = new QVBoxLayout(box);
     table_ = new VncHostTable(box);
     table_->setObjectName(QStringLiteral("VncHosts"));
@@ -56,25 +56,25 @@ QWidget* VNCTabViewController::buildHosts()
     message_->setWordWrap(true);
     message_->hide();
     layout->addWidget(message_);
-    auto* hint = new QLabel(localized("Double-click a name or an address to change it."), box);
+    auto* hint = new QLabel(Tarvel::localized("Double-click a name or an address to change it."), box);
     hint->setWordWrap(true);
     layout->addWidget(hint);
 
     auto* rows = new QHBoxLayout();
-    rows->addWidget(addButton("VncAdd", "Add", &VNCTabViewController::addHost));
-    for (auto [name, text, action] : {std::tuple{"VncDelete", "Delete", &VNCTabViewController::deleteHost},
-                                      std::tuple{"VncMoveUp", "Move Up", &VNCTabViewController::moveHostUp},
-                                      std::tuple{"VncMoveDown", "Move Down", &VNCTabViewController::moveHostDown}})
+    rows->addWidget(addButton("VncAdd", Tarvel::textKey("Add"), &VNCTabViewController::addHost));
+    for (auto [name, text, action] : {std::tuple{"VncDelete", Tarvel::textKey("Delete"), &VNCTabViewController::deleteHost},
+                                      std::tuple{"VncMoveUp", Tarvel::textKey("Move Up"), &VNCTabViewController::moveHostUp},
+                                      std::tuple{"VncMoveDown", Tarvel::textKey("Move Down"), &VNCTabViewController::moveHostDown}})
         rows->addWidget(rowButtons_.emplace_back(addButton(name, text, action)));
     rows->addStretch(1);
-    rows->addWidget(rowButtons_.emplace_back(addButton("VncConnect", "Connect", &VNCTabViewController::connectHost)));
+    rows->addWidget(rowButtons_.emplace_back(addButton("VncConnect", Tarvel::textKey("Connect"), &VNCTabViewController::connectHost)));
     layout->addLayout(rows);
 
     auto* imports = new QHBoxLayout();
     imports->addWidget(
-        addButton("VncImportViewers", "Import from Remmina and TigerVNC", &VNCTabViewController::importFromViewers));
+        addButton("VncImportViewers", Tarvel::textKey("Import from Remmina and TigerVNC"), &VNCTabViewController::importFromViewers));
     imports->addWidget(
-        addButton("VncImportFolder", "Import .vncloc Files...", &VNCTabViewController::importFromFolder));
+        addButton("VncImportFolder", Tarvel::textKey("Import .vncloc Files..."), &VNCTabViewController::importFromFolder));
     imports->addStretch(1);
     layout->addLayout(imports);
 
@@ -88,10 +88,10 @@ QWidget* VNCTabViewController::buildHosts()
 
 QWidget* VNCTabViewController::buildSwitches()
 {
-    auto* box = new QGroupBox(localized("Menu items"), this);
+    auto* box = new QGroupBox(Tarvel::localized("Menu items"), this);
     new QVBoxLayout(box);
-    addSwitch(box, Vnc_ShowMenu, "Show the VNC item in the menu bar");
-    addSwitch(box, Vnc_AddMenuOpenAll, "Add \"Open All of Servers at Once\" to the menu");
+    addSwitch(box, Vnc_ShowMenu, Tarvel::textKey("Show the VNC item in the menu bar"));
+    addSwitch(box, Vnc_AddMenuOpenAll, Tarvel::textKey("Add \"Open All of Servers at Once\" to the menu"));
     // The tool items are built with the menu, so it is rebuilt at its next opening.
     const QVariantMap refreshItems{{QLatin1String(NotifKey::ModuleItemRefreshNow), true}};
     DesktopToolSwitch::addRows(box->layout(), {Vnc_EnaMenu_Amon, Vnc_EnaMenu_Cnsl, Vnc_EnaMenu_Tmnl},
@@ -102,7 +102,7 @@ QWidget* VNCTabViewController::buildSwitches()
 QPushButton* VNCTabViewController::addButton(const char* objectName, const char* text,
                                              void (VNCTabViewController::*action)())
 {
-    auto* button = new QPushButton(localized(text), this);
+    auto* button = new QPushButton(Tarvel::localized(text), this);
     button->setObjectName(QLatin1String(objectName));
     connect(button, &QPushButton::clicked, this, action);
     return button;
@@ -110,7 +110,7 @@ QPushButton* VNCTabViewController::addButton(const char* objectName, const char*
 
 void VNCTabViewController::addSwitch(QWidget* box, const char* key, const char* text)
 {
-    box->layout()->addWidget(makeSwitch(key, localized(text), {}));
+    box->layout()->addWidget(makeSwitch(key, Tarvel::localized(text), {}));
 }
 
 QCheckBox* VNCTabViewController::makeSwitch(const char* key, const QString& text, const QVariantMap& userInfo)
@@ -143,19 +143,19 @@ void VNCTabViewController::loadViews()
 qsizetype VNCTabViewController::importSSCacheFiles(const QList<VncHost>& found)
 {
     if (found.isEmpty()) {
-        showMessage(localized("No VNC hosts were found."));
+        showMessage(Tarvel::localized("No VNC hosts were found."));
         return 0;
     }
     records_ = appendImported(records_, found);
     storeHosts();
     showHosts(static_cast<int>(records_.size() - found.size()));
-    showMessage(localized("Imported %1 hosts.").arg(found.size()));
+    showMessage(Tarvel::localized("Imported %1 hosts.").arg(found.size()));
     return found.size();
 }
 
 void VNCTabViewController::addHost()
 {
-    records_.append(QVariantMap{{QLatin1String(kName), localized("New Host")},
+    records_.append(QVariantMap{{QLatin1String(kName), Tarvel::localized("New Host")},
                                 {QLatin1String(kUrl), QStringLiteral("vnc://localhost")},
                                 {QLatin1String(kMenu), true}});
     const int row = static_cast<int>(records_.size() - 1);
@@ -212,7 +212,7 @@ void VNCTabViewController::menuToggled(int row, bool shown)
 void VNCTabViewController::nameEdited(int row, const QString& name)
 {
     if (name.trimmed().isEmpty()) {
-        showMessage(localized("A host needs a name."));
+        showMessage(Tarvel::localized("A host needs a name."));
         table_->setCellText(row, VncHostTable::NameColumn,
                             records_.value(row).toMap().value(QLatin1String(kName)).toString());
         return;
@@ -225,7 +225,7 @@ void VNCTabViewController::addressEdited(int row, const QString& address)
     const auto url = VncServerAddress::normalizedUrl(address);
     if (!url) {
         showMessage(
-            localized("\"%1\" is not a VNC address. Type vnc://host:port or host:port.").arg(address.trimmed()));
+            Tarvel::localized("\"%1\" is not a VNC address. Type vnc://host:port or host:port.").arg(address.trimmed()));
         table_->setCellText(row, VncHostTable::AddressColumn,
                             records_.value(row).toMap().value(QLatin1String(kUrl)).toString());
         return;

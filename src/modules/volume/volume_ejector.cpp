@@ -54,16 +54,16 @@ QString VolumeEjector::blockObjectPath(const QString& kernelName)
 
 QString VolumeEjector::unavailableMessage()
 {
-    return localized("Volumes are ejected through the UDisks2 service, which is not running on this system.");
+    return Tarvel::localized("Volumes are ejected through the UDisks2 service, which is not running on this system.");
 }
 
 void VolumeEjector::ejectWithConfirmation(const QString& path, const VolumeBaseEntry& volume)
 {
-    QMessageBox question(QMessageBox::Question, localized("Eject"),
-                         localized("Eject \"%@\"?").replace(QLatin1String("%@"), volume.volumeName),
+    QMessageBox question(QMessageBox::Question, Tarvel::localized("Eject"),
+                         Tarvel::localized("Eject \"%@\"?").replace(QLatin1String("%@"), volume.volumeName),
                          QMessageBox::Cancel);
-    question.setInformativeText(localized("Programs using files on it should be closed first."));
-    QPushButton* ejectButton = question.addButton(localized("Eject"), QMessageBox::AcceptRole);
+    question.setInformativeText(Tarvel::localized("Programs using files on it should be closed first."));
+    QPushButton* ejectButton = question.addButton(Tarvel::localized("Eject"), QMessageBox::AcceptRole);
     question.setDefaultButton(ejectButton);
     question.exec();
     if (question.clickedButton() == ejectButton)
@@ -73,7 +73,7 @@ void VolumeEjector::ejectWithConfirmation(const QString& path, const VolumeBaseE
 void VolumeEjector::eject(const QString& path, const VolumeBaseEntry& volume)
 {
     if (volume.isNetworkVol || volume.bsdPath.isEmpty()) {
-        Q_EMIT finished(path, false, localized("Network volumes are disconnected, not ejected."));
+        Q_EMIT finished(path, false, Tarvel::localized("Network volumes are disconnected, not ejected."));
         return;
     }
     if (!bus().isConnected()) {

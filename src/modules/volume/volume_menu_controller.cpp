@@ -2,6 +2,7 @@
 #include "modules/volume/volume_menu_controller.h"
 
 #include "modules/volume/volume_menu_rows.h"
+#include "toolkit/localization.h"
 
 #include <QLabel>
 
@@ -15,7 +16,7 @@ constexpr double kPictureSize = 36;
 template <>
 void Volume_MenuController::loadBaseData(const StoragePictures& pictures, const VolumeBaseDict& volumeBaseDict)
 {
-    if (!startBlocks(volumeBaseDict.empty(), "No volume mounted"))
+    if (!startBlocks(volumeBaseDict.empty(), Tarvel::textKey("No volume mounted")))
         return;
     for (const auto& [path, volume] : volumeBaseDict) {
         const StoragePicture kind = volumePicture(volume.iconKind, volume.bsdName, volume.isRemovable);

@@ -19,7 +19,7 @@ namespace {
 
 QString quoted(const char* key, const QString& name)
 {
-    return localized(key).replace(QLatin1String("%@"), name);
+    return Tarvel::localized(key).replace(QLatin1String("%@"), name);
 }
 
 } // namespace
@@ -76,14 +76,14 @@ void Volume_MenuModule::addVolumeItems()
     const QIcon open = storageMenuIcon(settings_.bar.openIcon);
     const QIcon eject = storageMenuIcon(settings_.bar.ejectIcon);
     for (const auto& [path, volume] : *volumeBaseDict_) {
-        QAction* item = statusMenu->addAction(open, quoted("Open \"%@\"", volume.volumeName));
+        QAction* item = statusMenu->addAction(open, quoted(Tarvel::textKey("Open \"%@\""), volume.volumeName));
         item->setData(path);
         connect(item, &QAction::triggered, this, [path] { QDesktopServices::openUrl(QUrl::fromLocalFile(path)); });
     }
     for (const auto& [path, volume] : *volumeBaseDict_) {
         if (!volume.isUnmountable || volume.isNetworkVol)
             continue;
-        QAction* item = statusMenu->addAction(eject, quoted("Eject \"%@\"…", volume.volumeName));
+        QAction* item = statusMenu->addAction(eject, quoted(Tarvel::textKey("Eject \"%@\"…"), volume.volumeName));
         item->setData(path);
         connect(item, &QAction::triggered, this,
                 [this, path, volume] { ejector_->ejectWithConfirmation(path, volume); });
@@ -95,7 +95,7 @@ void Volume_MenuModule::ejectFinished(const QString& path, bool ejected, const Q
     Q_UNUSED(path)
     // A successful eject shows itself: the volume leaves the menu bar with the next unmount.
     if (!ejected)
-        QMessageBox::warning(nullptr, localized("Eject"), message);
+        QMessageBox::warning(nullptr, Tarvel::localized("Eject"), message);
 }
 
 void Volume_MenuModule::refreshBar()

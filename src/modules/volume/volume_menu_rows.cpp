@@ -14,17 +14,17 @@ QString volumeFactsText(const QString& path, const VolumeBaseEntry& volume)
     facts << (volume.isNetworkVol || volume.bsdPath.isEmpty() ? volume.bsdName : volume.bsdPath);
     facts << path;
     if (!volume.isWritable)
-        facts << localized("Read only");
+        facts << Tarvel::localized("Read only");
     return facts.join(QStringLiteral(" · "));
 }
 
 QString volumeUsageText(const VolumeUsage& usage)
 {
     if (usage.total <= 0)
-        return localized("Not measured yet");
-    return localized("Used") + QLatin1Char(' ') + TvlClasses::calcDiskSize(usage.used) + QStringLiteral(" (") +
-           TvlClasses::calcPercent(usedFraction(usage)) + QStringLiteral(") · ") + localized("Free") +
-           QLatin1Char(' ') + TvlClasses::calcDiskSize(usage.free) + QStringLiteral(" · ") + localized("of") +
+        return Tarvel::localized("Not measured yet");
+    return Tarvel::localized("Used") + QLatin1Char(' ') + TvlClasses::calcDiskSize(usage.used) + QStringLiteral(" (") +
+           TvlClasses::calcPercent(usedFraction(usage)) + QStringLiteral(") · ") + Tarvel::localized("Free") +
+           QLatin1Char(' ') + TvlClasses::calcDiskSize(usage.free) + QStringLiteral(" · ") + Tarvel::localized("of") +
            QLatin1Char(' ') + TvlClasses::calcDiskSize(usage.total);
 }
 

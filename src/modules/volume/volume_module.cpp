@@ -7,6 +7,7 @@
 #include "prefs/pref_keys.h"
 #include "prefs/pref_measure.h"
 #include "toolkit/label_lists.h"
+#include "toolkit/localization.h"
 
 #include <QJsonArray>
 
@@ -36,7 +37,7 @@ ModuleSchema volumeSchema()
         LaunchVolume,
         7,
         "VlmsModuleNotif",
-        "Volume",
+        Tarvel::textKey("Volume"),
         Vlms_UpdateInterval,
         withToolItems({{VlmsItemSortArray, T::Array, ints({1, 2, 3, 4, 5})},
                        {Vlms_Display_BarChart, T::Bool, true},

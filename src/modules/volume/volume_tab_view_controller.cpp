@@ -23,7 +23,7 @@ QStringList labelChoices()
 {
     QStringList choices;
     for (const QStringList& pair : PlistFunction::retVolumeUsedFree())
-        choices.append(pair.value(0) == QLatin1String("-") ? localized("None") : pair.join(QStringLiteral(" / ")));
+        choices.append(pair.value(0) == QLatin1String("-") ? Tarvel::localized("None") : pair.join(QStringLiteral(" / ")));
     return choices;
 }
 
@@ -31,11 +31,11 @@ QStringList labelChoices()
 
 const QList<PictureSettingsTab::Element>& VolumeTabViewController::elements()
 {
-    static const QList<Element> list{{1, Vlms_Display_BarChart, "Bar chart"},
-                                     {2, Vlms_Display_CycleChart, "Cycle chart"},
-                                     {3, Vlms_Display_Graph, "Graph"},
-                                     {4, Vlms_Display_Text, "Text"},
-                                     {5, Vlms_Display_Percent, "Percentage"}};
+    static const QList<Element> list{{1, Vlms_Display_BarChart, Tarvel::textKey("Bar chart")},
+                                     {2, Vlms_Display_CycleChart, Tarvel::textKey("Cycle chart")},
+                                     {3, Vlms_Display_Graph, Tarvel::textKey("Graph")},
+                                     {4, Vlms_Display_Text, Tarvel::textKey("Text")},
+                                     {5, Vlms_Display_Percent, Tarvel::textKey("Percentage")}};
     return list;
 }
 
@@ -50,25 +50,25 @@ VolumeTabViewController::VolumeTabViewController(SettingsStore& store, PrefNotif
 
 QWidget* VolumeTabViewController::buildDisplay()
 {
-    auto* box = new QGroupBox(localized("Display"), this);
+    auto* box = new QGroupBox(Tarvel::localized("Display"), this);
     auto* form = new QFormLayout(box);
     addSlider(form, Vlms_GraphWidth, SliderKind::GraphWidth, kGraphSliderMin, kGraphSliderMax);
     addSlider(form, Vlms_UpdateInterval, SliderKind::Interval, kIntervalSliderMin, kIntervalSliderMax);
     // Unlike the other label settings, this one counts from 0.
-    addPopup(form, Vlms_Text_Label, "Text labels", labelChoices(), 0);
-    addPopup(form, Vlms_Percent_Mode, "Percentage", PlistFunction::retVolumePercentKind());
-    QCheckBox* line = addSwitch(form, Vlms_GraphAsLine, "Draw the graph as a line");
-    QCheckBox* bold = addSwitch(form, Vlms_LineAsBold, "Heavy line");
+    addPopup(form, Vlms_Text_Label, Tarvel::textKey("Text labels"), labelChoices(), 0);
+    addPopup(form, Vlms_Percent_Mode, Tarvel::textKey("Percentage"), PlistFunction::retVolumePercentKind());
+    QCheckBox* line = addSwitch(form, Vlms_GraphAsLine, Tarvel::textKey("Draw the graph as a line"));
+    QCheckBox* bold = addSwitch(form, Vlms_LineAsBold, Tarvel::textKey("Heavy line"));
     connect(line, &QCheckBox::toggled, bold, &QWidget::setEnabled);
     bold->setEnabled(line->isChecked());
-    addSwitch(form, Vlms_ColoredValue, "Colour the figures by how full the volume is");
-    addSwitch(form, Vlms_GradientColor, "Blend the warning colours");
-    QCheckBox* each = addSwitch(form, Vlms_ShowEachDisk, "Show each volume");
-    QCheckBox* icons = addSwitch(form, Vlms_WithDiskIconInBackground, "Volume pictures behind each volume");
+    addSwitch(form, Vlms_ColoredValue, Tarvel::textKey("Colour the figures by how full the volume is"));
+    addSwitch(form, Vlms_GradientColor, Tarvel::textKey("Blend the warning colours"));
+    QCheckBox* each = addSwitch(form, Vlms_ShowEachDisk, Tarvel::textKey("Show each volume"));
+    QCheckBox* icons = addSwitch(form, Vlms_WithDiskIconInBackground, Tarvel::textKey("Volume pictures behind each volume"));
     // A picture stands for one volume, so it goes only behind per-volume sets.
     connect(each, &QCheckBox::toggled, icons, &QWidget::setEnabled);
     icons->setEnabled(each->isChecked());
-    addLabelSwitch(form, Vlms_ShowMyLabel, "Show the Volume label");
+    addLabelSwitch(form, Vlms_ShowMyLabel, Tarvel::textKey("Show the Volume label"));
     return box;
 }
 
