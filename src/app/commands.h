@@ -10,6 +10,9 @@ class PlistSettingsStore;
 // The settings store the options name, telling on standard error when it had to be set aside.
 std::unique_ptr<PlistSettingsStore> openSettingsStore(const AppOptions& options);
 
+// What a command that samples says and returns when the monitor ended before its last cycle.
+int reportEndedEarly(int loopStatus);
+
 int runMonitor(const AppOptions& options, int argc, char** argv);
 int runSnapshot(const AppOptions& options, int argc, char** argv);
 int runRender(const AppOptions& options, int argc, char** argv);

@@ -87,5 +87,7 @@ int runRender(const AppOptions& options, int argc, char** argv)
     });
     delegate.applicationDidFinishLaunching();
     const int loop = QCoreApplication::exec();
+    if (finished < options.cycles)
+        return reportEndedEarly(loop);
     return status != 0 ? status : loop;
 }

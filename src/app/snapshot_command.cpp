@@ -21,6 +21,14 @@ std::unique_ptr<PlistSettingsStore> openSettingsStore(const AppOptions& options)
     return store;
 }
 
+int reportEndedEarly(int loopStatus)
+{
+    // The monitor ends itself when its figures cannot be trusted (the collector said why on
+    // standard error); a script must not take the empty output for a report.
+    QTextStream(stderr) << "tarvel: sampling ended before the last cycle; nothing was reported\n";
+    return loopStatus != 0 ? loopStatus : 1;
+}
+
 int runSnapshot(const AppOptions& options, int argc, char** argv)
 {
     // No window is shown: the offscreen platform gives fonts for text measuring without a display.
@@ -45,5 +53,8 @@ int runSnapshot(const AppOptions& options, int argc, char** argv)
         QCoreApplication::quit();
     });
     delegate.applicationDidFinishLaunching();
-    return QCoreApplication::exec();
+    const int loop = QCoreApplication::exec();
+    if (finished < options.cycles)
+        return reportEndedEarly(loop);
+    return loop;
 }
