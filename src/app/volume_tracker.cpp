@@ -94,14 +94,26 @@ void VolumeTracker::mountTableChanged()
 void VolumeTracker::blockDevicesChanged()
 {
     DeviceDatabaseSource* database = loadInfo_.sources().deviceDatabase.get();
+    if (database == nullptr)
+        return;
     // Every queued event is taken, whatever happens next, so the descriptor stops signalling.
-    if (database == nullptr || database->takeChangedDevices().empty() || !switchedOn())
+    const DeviceEvents events = database->takeDeviceEvents();
+    if (!events.any || !switchedOn())
         return;
     // A change event also comes with a new medium or a repartition; only a mounted volume
     // whose name moved is a rename. The descriptions stay as they are until the rename is
     // applied, so the samples taken meanwhile still carry the old name and move with it.
     const VolumeBaseDict after = withRootNamed(loadInfo_.retVolumeBase(loadInfo_.retVolumeUtilDetail()));
-    for (VolumeRename& rename : renamedVolumes(*volumeBaseDict_, after))
+    const std::vector<VolumeRename> renames = renamedVolumes(*volumeBaseDict_, after);
+    for (const VolumeRename& rename : renames)
         if (std::find(pendingRenames_.begin(), pendingRenames_.end(), rename) == pendingRenames_.end())
-            pendingRenames_.push_back(std::move(rename));
+            pendingRenames_.push_back(rename);
+    if (!renames.empty() || !general_.boolValue(PrefKey::LaunchDisk))
+        return;
+    // A loop device detaches only after its volume's unmount has been handled, and a disk can
+    // come or go without any mount: the disk list is rebuilt when its members changed.
+    const DiskBaseDict disks = loadInfo_.retDisAccessBase(volumeUtilDict_, *volumeBaseDict_);
+    const auto sameName = [](const auto& a, const auto& b) { return a.first == b.first; };
+    if (!std::equal(disks.begin(), disks.end(), diskBaseDict_.begin(), diskBaseDict_.end(), sameName))
+        moduleDskVolRefresh();
 }

@@ -18,6 +18,14 @@ struct DeviceProperties {
     std::optional<std::string> bus;           // "usb", "ata", "nvme", ...
 };
 
+struct DeviceEvents {
+    // The kernel names of the devices whose contents changed (a new label, a new medium).
+    std::vector<std::string> changed;
+    // A device came or went, or changed at all: the list of disks may no longer hold (a loop
+    // device detached after its unmount keeps its node, only its size falls to 0).
+    bool any = false;
+};
+
 // Not thread-safe: used from the main thread only (rebuilds and event handling run there).
 class DeviceDatabaseSource {
 public:
@@ -27,7 +35,6 @@ public:
     // A descriptor that turns readable when block devices change, for an event loop to wait
     // on; -1 when there is none.
     virtual int eventDescriptor() = 0;
-    // The kernel names of the devices whose contents changed (a new label, a new medium)
-    // since the previous call. Never blocks.
-    virtual std::vector<std::string> takeChangedDevices() = 0;
+    // What happened to block devices since the previous call. Never blocks.
+    virtual DeviceEvents takeDeviceEvents() = 0;
 };

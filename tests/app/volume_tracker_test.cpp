@@ -1,4 +1,5 @@
-// The descriptions follow a real mount and unmount through the watch on the mount table.
+// The descriptions follow a real mount and unmount through the watch on the mount table, and
+// loop devices attached and detached through the devices' own events.
 #include "app/volume_tracker.h"
 #include "collect/load_system_information.h"
 #include "mount_test_support.h"
@@ -54,4 +55,35 @@ TEST(VolumeTracker, LoopMountIsAddedAndRemovedAsTheTableChanges)
     unmount.dismiss();
     ASSERT_TRUE(runTool(QStringLiteral("umount"), {mountPoint}));
     EXPECT_TRUE(waitForRebuilds(rebuilt, [&] { return !tracker.volumeBaseDict().contains(mountPoint); }));
+}
+
+TEST(VolumeTracker, ALoopDeviceDetachedWithoutAnyMountLeavesTheDiskList)
+{
+    if (::geteuid() != 0)
+        GTEST_SKIP() << "attaching a loop device needs root";
+    QTemporaryDir dir;
+    ASSERT_TRUE(dir.isValid());
+    const QString image = dir.filePath(QStringLiteral("disk.img"));
+    ASSERT_TRUE(runTool(QStringLiteral("truncate"), {QStringLiteral("-s"), QStringLiteral("4M"), image}));
+
+    LoadSystemInformation loadInfo(makeSourceSet("/"));
+    ModuleDefaults general;
+    general.set(PrefKey::LaunchDisk, true);
+    VolumeTracker tracker(loadInfo, general);
+    tracker.startWatching();
+    tracker.collectDskVolDetail();
+    QSignalSpy rebuilt(&tracker, &VolumeTracker::descriptionsChanged);
+
+    QProcess attach;
+    attach.start(QStringLiteral("losetup"), {QStringLiteral("--find"), QStringLiteral("--show"), image});
+    if (!attach.waitForFinished(30000) || attach.exitCode() != 0)
+        GTEST_SKIP() << "no loop device to attach the image to";
+    const QString device = QString::fromUtf8(attach.readAllStandardOutput()).trimmed();
+    auto detach = qScopeGuard([&] { runTool(QStringLiteral("losetup"), {QStringLiteral("-d"), device}); });
+
+    // Neither comes with a change of the mount table: only the devices' own events tell.
+    ASSERT_TRUE(waitForRebuilds(rebuilt, [&] { return tracker.diskBaseDict().contains(device); }));
+    detach.dismiss();
+    ASSERT_TRUE(runTool(QStringLiteral("losetup"), {QStringLiteral("-d"), device}));
+    EXPECT_TRUE(waitForRebuilds(rebuilt, [&] { return !tracker.diskBaseDict().contains(device); }));
 }

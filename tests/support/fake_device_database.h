@@ -3,8 +3,11 @@
 
 #include "collect/device_database_source.h"
 
+#include <unistd.h>
+
 #include <map>
 #include <string>
+#include <utility>
 
 class FakeDeviceDatabase final : public DeviceDatabaseSource {
 public:
@@ -17,8 +20,18 @@ public:
     {
         return blockDevice(std::to_string(major) + ":" + std::to_string(minor));
     }
-    int eventDescriptor() override { return -1; }
-    std::vector<std::string> takeChangedDevices() override { return {}; }
+    // A pipe stands for the device manager's socket: a test queues events and writes a byte.
+    int eventDescriptor() override { return eventReadEnd; }
+    DeviceEvents takeDeviceEvents() override
+    {
+        char drained[64];
+        while (eventReadEnd >= 0 && ::read(eventReadEnd, drained, sizeof drained) > 0) {
+        }
+        return std::exchange(queued, {});
+    }
+
+    int eventReadEnd = -1;
+    DeviceEvents queued;
 
     std::map<std::string, DeviceProperties> devices;
 };

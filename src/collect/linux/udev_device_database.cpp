@@ -1,4 +1,4 @@
-// Reads udev's properties of block devices and listens for their "change" events.
+// Reads udev's properties of block devices and listens for their events.
 #include "collect/linux/udev_device_database.h"
 
 #include "collect/collect_log.h"
@@ -86,21 +86,22 @@ int UdevDeviceDatabase::eventDescriptor()
     return monitor_ != nullptr ? udev_monitor_get_fd(monitor_) : -1;
 }
 
-std::vector<std::string> UdevDeviceDatabase::takeChangedDevices()
+DeviceEvents UdevDeviceDatabase::takeDeviceEvents()
 {
-    std::vector<std::string> names;
+    DeviceEvents events;
     if (monitor_ == nullptr)
-        return names;
+        return events;
     // The monitor's socket does not block: an empty queue ends the loop.
     while (udev_device* raw = udev_monitor_receive_device(monitor_)) {
         const DevicePtr device(raw, &udev_device_unref);
+        events.any = true;
         const char* action = udev_device_get_action(raw);
         const char* name = udev_device_get_sysname(raw);
         if (action != nullptr && name != nullptr && std::string_view(action) == "change" &&
-            std::find(names.begin(), names.end(), name) == names.end())
-            names.emplace_back(name);
+            std::find(events.changed.begin(), events.changed.end(), name) == events.changed.end())
+            events.changed.emplace_back(name);
     }
-    return names;
+    return events;
 }
 
 std::optional<DeviceProperties> UdevDeviceDatabase::properties(udev_device* device)

@@ -19,7 +19,7 @@ public:
     std::optional<DeviceProperties> blockDevice(const std::string& name) override;
     std::optional<DeviceProperties> blockDevice(std::uint32_t major, std::uint32_t minor) override;
     int eventDescriptor() override;
-    std::vector<std::string> takeChangedDevices() override;
+    DeviceEvents takeDeviceEvents() override;
 
 private:
     static std::optional<DeviceProperties> properties(udev_device* device);

@@ -4,12 +4,17 @@
 #include "collect/collect_log.h"
 
 #include <libudev.h>
+#include <unistd.h>
 
 udev_monitor* openUdevMonitor(udev* context, const char* subsystem)
 {
     if (context == nullptr)
         return nullptr;
-    udev_monitor* monitor = udev_monitor_new_from_netlink(context, "udev");
+    // Without the device manager (a container, a minimal system) its events never come and
+    // libudev turns such a monitor off; the kernel's own announcements still say that a device
+    // came, went or changed, which is all the watchers need then.
+    const bool managerRuns = ::access("/run/udev/control", F_OK) == 0;
+    udev_monitor* monitor = udev_monitor_new_from_netlink(context, managerRuns ? "udev" : "kernel");
     if (monitor == nullptr)
         return nullptr;
     if (udev_monitor_filter_add_match_subsystem_devtype(monitor, subsystem, nullptr) < 0 ||
