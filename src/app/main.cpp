@@ -1,5 +1,6 @@
 // Entry point: parses the command line and runs the chosen command.
 #include "app/app_options.h"
+#include "app/argument_encoding.h"
 #include "app/commands.h"
 #include "app/open_file_limit.h"
 
@@ -10,6 +11,12 @@
 
 int main(int argc, char** argv)
 {
+    if (const auto bad = firstNonUtf8Argument(argc, argv)) {
+        // Qt keeps paths as UTF-8 text: such a name would silently become another one.
+        std::fprintf(stderr, "tarvel: argument %d is not valid UTF-8; give paths in UTF-8\nTry 'tarvel --help'.\n",
+                     *bad);
+        return 2;
+    }
     QStringList arguments;
     for (int i = 0; i < argc; ++i)
         arguments.append(QString::fromLocal8Bit(argv[i]));

@@ -1,5 +1,6 @@
 // Command-line parsing: commands, options, environment root and usage errors.
 #include "app/app_options.h"
+#include "app/argument_encoding.h"
 
 #include <QTemporaryDir>
 #include <gtest/gtest.h>
@@ -114,4 +115,15 @@ TEST(AppOptions, GlobalAddressTakesServicesInOrder)
     EXPECT_EQ(two.options->services, QStringList({"http://127.0.0.1:1/b", "https://127.0.0.1:2/a"}));
     EXPECT_EQ(two.options->settingsFile, QStringLiteral("/tmp/x.plist"));
     EXPECT_TRUE(parse({"--help"}).message.contains(QStringLiteral("global-address [--service URL]")));
+}
+
+TEST(AppOptions, APathThatIsNotUtf8IsNamedBeforeItCanBeMangled)
+{
+    const char* sound[] = {"tarvel", "--root", "/tmp/Ärger", "snapshot"};
+    EXPECT_EQ(firstNonUtf8Argument(4, sound), std::nullopt);
+    // Latin-1 "Ä", and a sequence cut short at the end of the argument.
+    const char* latin1[] = {"tarvel", "--settings", "/tmp/\xC4rger.plist"};
+    EXPECT_EQ(firstNonUtf8Argument(3, latin1), 2);
+    const char* cut[] = {"tarvel", "render", "--out", "/tmp/\xE3\x81"};
+    EXPECT_EQ(firstNonUtf8Argument(4, cut), 3);
 }
