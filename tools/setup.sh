@@ -10,6 +10,9 @@ PACKAGES=(
   libgtest-dev libgmock-dev
   fonts-dejavu-core
   xvfb x11-utils trayer dbus-daemon
+  # The metrics export's tests: promtool, a real Prometheus and the OpenMetrics parser. The
+  # package's own service (on :9090) may start or not; the tests run theirs on a free port.
+  prometheus python3-prometheus-client
 )
 
 install_missing() {
