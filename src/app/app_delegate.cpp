@@ -320,6 +320,7 @@ void AppDelegate::loadSysInfoTimer()
     input.info = infoDict_;
     input.volumeBase = volumeTracker_->sharedVolumeBaseDict();
     input.sensors = sensorDatDict_;
+    input.exportWanted = exportWanted_;
     // The body holds the executor itself, not the member: while the controller is destroyed the
     // member is already empty as the executor waits for this body to finish.
     CycleExecutor* executor = executor_.get();
@@ -338,6 +339,7 @@ void AppDelegate::loadSysInfoTimer()
 void AppDelegate::redrawStep(const CycleOutput& output)
 {
     infoDict_ = output.info;
+    exportExtras_ = output.exportExtras;
     applyVolumeRenames();
     // A module switched off meanwhile is left alone by the redraw itself.
     for (const ModuleDescriptor* module : moduleRegistry()) {

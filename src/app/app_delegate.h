@@ -4,6 +4,7 @@
 #include "app/sampling_schedule.h"
 #include "collect/info_dict.h"
 #include "collect/load_system_information.h"
+#include "export/export_extras.h"
 #include "modules/menu_module.h"
 #include "preferences/pref_notification.h"
 #include "preferences/preference_tab.h"
@@ -45,6 +46,10 @@ public:
     void setPreferencesAvailable(bool available) { preferencesAvailable_ = available; }
     // Commands that draw and leave never show the window "Display preferences at startup" asks for.
     void setStartupWindowAllowed(bool allowed) { startupWindowAllowed_ = allowed; }
+    // Whether each cycle also gathers the figures only the metrics export serves.
+    void setExportWanted(bool wanted) { exportWanted_ = wanted; }
+    // Those figures as of the last finished cycle; none while nobody wants them.
+    const std::optional<ExportExtras>& exportExtras() const { return exportExtras_; }
     // Device pixels per point of the modules' pictures; 0 follows the screen.
     void setPictureScale(qreal scale) { pictureScale_ = scale; }
 
@@ -206,6 +211,8 @@ private:
     bool startupWindowShown_ = false;
     bool preferencesAvailable_ = true;
     bool startupWindowAllowed_ = true;
+    bool exportWanted_ = false;
+    std::optional<ExportExtras> exportExtras_;
     std::function<void()> rebootAction_;
     PrefNotificationCenter* prefCenter_;
     // Last member: destroyed first, so a running cycle ends before the collector goes away.

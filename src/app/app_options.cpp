@@ -1,6 +1,7 @@
 // Command-line parsing with a usage message and exit status 2 for bad arguments.
 #include "app/app_options.h"
 
+#include "export/listen_address.h"
 #include "modules/module_registry.h"
 
 #include <QCommandLineParser>
@@ -33,6 +34,9 @@ QString usageText()
                           "                                  look up the machine's global IPv4 address and print it\n"
                           "                                  (status 1 when no service gives one); each --service\n"
                           "                                  replaces the echo services, asked in the given order\n"
+                          "  serve [--listen ADDR:PORT]      sample every second and serve the newest figures to\n"
+                          "                                  Prometheus at http://ADDR:PORT/metrics (default\n"
+                          "                                  127.0.0.1:9772)\n"
                           "\n"
                           "Options:\n"
                           "  --root DIR       read /proc and /sys below DIR instead of / (also TARVEL_ROOT)\n"
@@ -94,6 +98,7 @@ struct OptionSet {
     QCommandLineOption scale{QStringLiteral("scale"), QString(), QStringLiteral("S")};
     QCommandLineOption panels{QStringLiteral("panels")};
     QCommandLineOption service{QStringLiteral("service"), QString(), QStringLiteral("URL")};
+    QCommandLineOption listen{QStringLiteral("listen"), QString(), QStringLiteral("ADDR:PORT")};
     QCommandLineOption help{QStringList{QStringLiteral("h"), QStringLiteral("help")}};
     QCommandLineOption version{QStringList{QStringLiteral("v"), QStringLiteral("version")}};
 };
@@ -101,7 +106,7 @@ struct OptionSet {
 bool isCommand(const QString& word)
 {
     return word == QLatin1String("snapshot") || word == QLatin1String("render") ||
-           word == QLatin1String("global-address");
+           word == QLatin1String("global-address") || word == QLatin1String("serve");
 }
 
 // The command and the tab of --preferences from the positional arguments; an error text or none.
@@ -129,6 +134,8 @@ QString readPositional(const QCommandLineParser& parser, const OptionSet& o, App
             options.command = AppOptions::Command::Render;
         else if (positional.front() == QLatin1String("global-address"))
             options.command = AppOptions::Command::GlobalAddress;
+        else if (positional.front() == QLatin1String("serve"))
+            options.command = AppOptions::Command::Serve;
         else
             return QStringLiteral("unknown command '%1'").arg(positional.front());
     }
@@ -150,6 +157,13 @@ QString readCommandOptions(const QCommandLineParser& parser, const OptionSet& o,
         return QStringLiteral("--bar and --preferences are for running the monitor");
     if (parser.isSet(o.service) && options.command != AppOptions::Command::GlobalAddress)
         return QStringLiteral("--service belongs to the global-address command");
+    if (parser.isSet(o.listen) && options.command != AppOptions::Command::Serve)
+        return QStringLiteral("--listen belongs to the serve command");
+    if (parser.isSet(o.listen)) {
+        options.listen = parser.value(o.listen);
+        if (!parseListenAddress(options.listen))
+            return QStringLiteral("--listen takes ADDR:PORT, such as 127.0.0.1:9772");
+    }
     options.services = parser.values(o.service);
     if (options.services.contains(QString()))
         return QStringLiteral("--service takes an address");
@@ -202,7 +216,8 @@ OptionsResult parseAppOptions(const QStringList& arguments, const QString& envir
     parser.setSingleDashWordOptionMode(QCommandLineParser::ParseAsLongOptions);
     const OptionSet o;
     parser.addOptions(
-        {o.root, o.settings, o.json, o.cycles, o.bar, o.prefs, o.out, o.scale, o.panels, o.service, o.help, o.version});
+        {o.root, o.settings, o.json, o.cycles, o.bar, o.prefs, o.out, o.scale, o.panels, o.service, o.listen, o.help,
+         o.version});
     parser.addPositionalArgument(QStringLiteral("command"), QString());
 
     if (!parser.parse(arguments))

@@ -7,7 +7,7 @@
 #include <optional>
 
 struct AppOptions {
-    enum class Command { Run, Snapshot, Render, GlobalAddress };
+    enum class Command { Run, Snapshot, Render, GlobalAddress, Serve };
     Command command = Command::Run;
     QString root = QStringLiteral("/"); // --root, else TARVEL_ROOT, else "/"
     QString settingsFile;               // --settings; empty means the per-user file
@@ -19,6 +19,7 @@ struct AppOptions {
     double scale = 2.0;                 // render only
     bool panels = false;                // render: also the drop-downs and the preferences window
     QStringList services;               // global-address: echo services to ask, in this order
+    QString listen;                     // serve: ADDR:PORT; empty for the default
 };
 
 struct OptionsResult {

@@ -17,3 +17,4 @@ int runMonitor(const AppOptions& options, int argc, char** argv);
 int runSnapshot(const AppOptions& options, int argc, char** argv);
 int runRender(const AppOptions& options, int argc, char** argv);
 int runGlobalAddress(const AppOptions& options, int argc, char** argv);
+int runServe(const AppOptions& options, int argc, char** argv);

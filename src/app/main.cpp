@@ -34,6 +34,8 @@ int main(int argc, char** argv)
         return runRender(*parsed.options, argc, argv);
     case AppOptions::Command::GlobalAddress:
         return runGlobalAddress(*parsed.options, argc, argv);
+    case AppOptions::Command::Serve:
+        return runServe(*parsed.options, argc, argv);
     case AppOptions::Command::Run:
         break;
     }

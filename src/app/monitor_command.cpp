@@ -2,6 +2,9 @@
 #include "app/app_delegate.h"
 #include "net/general_functions_ddns.h"
 #include "app/commands.h"
+#include "app/metrics_export.h"
+#include "modules/general/top_tab_metrics_section.h"
+#include "modules/general/top_tab_view_controller.h"
 #include "app/front_ends/bar_window_status_bar.h"
 #include "app/front_ends/front_end_choice.h"
 #include "app/front_ends/quit_on_signal.h"
@@ -47,7 +50,18 @@ int runMonitor(const AppOptions& options, int argc, char** argv)
         GeneralFunctions::runDdnsCheck(delegate.userDefaults(), *delegate.notifier(), forced, {},
                                        [&delegate](const QString& outcome) { delegate.ddnsRunFinished(outcome); });
     });
+    // Off unless the General settings switch it on; a bad address or a taken port is told in the
+    // top tab, and the monitor runs on without it.
+    MetricsExport metrics(delegate);
+    const auto showStatus = [&delegate](const QString& status) {
+        if (auto* top = delegate.preferencePanel() ? qobject_cast<TopTabViewController*>(delegate.preferencePanel()->tab(0))
+                                                   : nullptr)
+            top->metricsSection()->showStatus(status);
+    };
+    QObject::connect(&metrics, &MetricsExport::statusChanged, &delegate, showStatus);
     delegate.applicationDidFinishLaunching();
+    metrics.followSettings();
+    showStatus(metrics.status());
     if (options.preferencesTab)
         delegate.openPreferenceTab(*options.preferencesTab);
     return QApplication::exec();

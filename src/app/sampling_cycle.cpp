@@ -13,8 +13,12 @@ CycleOutput runBody(LoadSystemInformation& loadInfo, CycleInput input)
     if (!loadInfo.checkInterfaceStatusChange())
         loadInfo.setNetworkBaseDict(loadInfo.retNetworkBase());
     const DueModules due = input.due;
+    const bool exportWanted = input.exportWanted;
     InfoDict info = loadCycleSysInfo(loadInfo, std::move(input));
-    return {due, std::move(info), loadInfo.terminationRequested()};
+    CycleOutput output{due, std::move(info), loadInfo.terminationRequested(), std::nullopt};
+    if (exportWanted)
+        output.exportExtras = collectExportExtras(loadInfo);
+    return output;
 }
 
 } // namespace SamplingCycle

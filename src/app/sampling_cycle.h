@@ -5,6 +5,7 @@
 #include "collect/info_dict.h"
 #include "collect/sensor_dat.h"
 #include "collect/storage_descriptions.h"
+#include "export/export_extras.h"
 
 #include <array>
 #include <memory>
@@ -23,6 +24,8 @@ struct CycleInput {
     std::shared_ptr<const VolumeBaseDict> volumeBase;
     // The sensor table, fixed at start-up. None samples no sensor.
     std::shared_ptr<const SensorDatDict> sensors;
+    // Someone serves the figures to scrapers: the export's own figures are gathered too.
+    bool exportWanted = false;
 };
 
 struct CycleOutput {
@@ -31,6 +34,7 @@ struct CycleOutput {
     // The collector found the statistics of an active interface unreadable: the application is
     // to quit once this output reaches the main thread.
     bool quitRequested = false;
+    std::optional<ExportExtras> exportExtras; // when the input wanted them
 };
 
 namespace SamplingCycle {

@@ -48,6 +48,12 @@ TEST(AppOptions, CommandsAndOptions)
     EXPECT_EQ(parse({"--preferences"}).options->preferencesTab, 0);
     EXPECT_FALSE(parse({}).options->preferencesTab);
 
+    const OptionsResult serve = parse({"serve", "--listen", "[::1]:0", "--root", root.path()});
+    ASSERT_TRUE(serve.options);
+    EXPECT_EQ(serve.options->command, AppOptions::Command::Serve);
+    EXPECT_EQ(serve.options->listen, QStringLiteral("[::1]:0"));
+    EXPECT_TRUE(parse({"serve"}).options->listen.isEmpty());
+
     const OptionsResult help = parse({"--help"});
     EXPECT_FALSE(help.options);
     EXPECT_EQ(help.exitCode, 0);
@@ -80,6 +86,12 @@ TEST(AppOptions, BadArgumentsSayWhatIsWrongAndGiveStatusTwo)
         {"global-address", "--service"},
         {"global-address", "--json"},
         {"global-address", "--bar"},
+        {"snapshot", "--listen", "127.0.0.1:9772"},
+        {"serve", "--listen", "127.0.0.1"},
+        {"serve", "--listen", "127.0.0.1:65536"},
+        {"serve", "--listen", "::1:9772"},
+        {"serve", "--listen", "example.org:9772"},
+        {"serve", "--json"},
     };
     for (const QStringList& args : bad) {
         const OptionsResult r = parse(args);

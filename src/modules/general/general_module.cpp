@@ -1,6 +1,8 @@
 // The General module: the application's own item, the top preferences tab and the settings
 // every module shares (switches, order, fonts).
+#include "export/listen_address.h"
 #include "modules/general/general_menu_module.h"
+#include "modules/general/metrics_keys.h"
 #include "modules/general/top_tab_view_controller.h"
 #include "modules/module_descriptor.h"
 #include "prefs/module_switch.h"
@@ -46,7 +48,9 @@ ModuleSchema generalSchema()
              {Vlms_ShowMyLabel, T::Bool, true},
              {Temp_ShowMyLabel, T::Bool, true},
              {Fan_ShowMyLabel, T::Bool, true},
-             {kRebootRegularlyDays, T::Integer, QVariant()}},
+             {kRebootRegularlyDays, T::Integer, QVariant()},
+             {MetricsServeEnabled, T::Bool, false},
+             {MetricsListenAddress, T::String, QString::fromLatin1(kDefaultListenAddress)}},
             colors({}),
             // The General item draws its pictures at half size, all but the first icon.
             {{"N01", PictureSize::Half},

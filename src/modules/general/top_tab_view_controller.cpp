@@ -1,8 +1,10 @@
 // The top tab: module switches and order, theme and colours, and the application's own options.
 #include "modules/general/top_tab_view_controller.h"
 
+#include "modules/general/metrics_keys.h"
 #include "modules/general/top_tab_color_section.h"
 #include "modules/general/top_tab_ddns_section.h"
+#include "modules/general/top_tab_metrics_section.h"
 #include "modules/general/top_tab_theme_section.h"
 #include "modules/menu_module.h"
 #include "modules/module_registry.h"
@@ -75,6 +77,7 @@ TopTabViewController::TopTabViewController(MenuModuleDelegate* delegate, Setting
     layout->addWidget(group(Tarvel::localized("Colors"), colors_, this));
     layout->addWidget(group(Tarvel::localized("General"), buildOptions(), this));
     layout->addWidget(group(Tarvel::localized("Dynamic DNS"), buildDdns(), this));
+    layout->addWidget(group(Tarvel::localized("Metrics"), buildMetrics(), this));
     layout->addStretch(1);
 
     connect(modules_, &ElementOrderList::entrySwitched, this, &TopTabViewController::moduleSwitched);
@@ -143,6 +146,19 @@ QWidget* TopTabViewController::buildDdns()
     return ddns_;
 }
 
+QWidget* TopTabViewController::buildMetrics()
+{
+    metrics_ = new TopTabMetricsSection();
+    connect(metrics_, &TopTabMetricsSection::switched, this, [this](bool on) { storeBool(MetricsServeEnabled, on); });
+    connect(metrics_, &TopTabMetricsSection::addressEdited, this, [this](const QString& address) {
+        if (loading() || address == store().stringForKey(MetricsListenAddress))
+            return;
+        store().setString(QLatin1String(MetricsListenAddress), address);
+        commit();
+    });
+    return metrics_;
+}
+
 void TopTabViewController::loadViews()
 {
     loadModuleEnabled();
@@ -155,6 +171,7 @@ void TopTabViewController::loadViews()
     atLogin_->setChecked(store().boolForKey(AutoLaunchAtLogin));
     colors_->showColors(allDefaults());
     ddns_->showList(store().stringForKey(DdnsPropertyString));
+    metrics_->showSettings(store().boolForKey(MetricsServeEnabled), store().stringForKey(MetricsListenAddress));
     rebuildFontMenus();
 }
 

@@ -10,6 +10,7 @@ class QLabel;
 class QSpinBox;
 class TopTabColorSection;
 class TopTabDdnsSection;
+class TopTabMetricsSection;
 class TopTabThemeSection;
 
 class TopTabViewController : public PreferenceTab {
@@ -28,6 +29,7 @@ public:
     TopTabThemeSection* themeSection() const { return theme_; }
     TopTabColorSection* colorSection() const { return colors_; }
     TopTabDdnsSection* ddnsSection() const { return ddns_; }
+    TopTabMetricsSection* metricsSection() const { return metrics_; }
 
 protected:
     void loadViews() override;
@@ -35,6 +37,7 @@ protected:
 private:
     QWidget* buildOptions();
     QWidget* buildDdns();
+    QWidget* buildMetrics();
     void moduleSwitched(qint64 code, bool on);
     void orderChanged(const QList<qint64>& order);
     void storeBool(const char* key, bool on);
@@ -49,6 +52,7 @@ private:
     TopTabThemeSection* theme_;
     TopTabColorSection* colors_;
     TopTabDdnsSection* ddns_ = nullptr;
+    TopTabMetricsSection* metrics_ = nullptr;
     QSpinBox* rebootDays_ = nullptr;
     QCheckBox* atStartup_ = nullptr;
     QCheckBox* denyUpdate_ = nullptr;
