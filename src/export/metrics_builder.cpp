@@ -40,14 +40,14 @@ void MetricsBuilder::addCpu(MetricFamilies& families, const ExportFigures& figur
     const CpuSample& newest = history.back();
     const bool fresh = history.identity() != lastCpu_.identity();
     lastCpu_ = history;
-    const double tick = figures.ticksPerSecond > 0 ? 1.0 / figures.ticksPerSecond : 0.01;
+    const double ticksPerSecond = figures.ticksPerSecond > 0 ? figures.ticksPerSecond : 100;
     MetricFamily& seconds =
         newFamily(families, "tarvel_cpu_seconds", MetricType::Counter, "seconds",
                   "Seconds each processor spent in each state since the export started.");
     for (std::size_t cpu = 0; cpu + 1 < newest.size(); ++cpu) {
         for (std::size_t mode = 0; mode < 4; ++mode) {
             const QByteArray key = "cpu/" + QByteArray::number(qulonglong(cpu)) + '/' + kCpuModes[mode];
-            const double sum = counters_.add(key, fresh ? static_cast<double>(newest[cpu][mode]) * tick : 0);
+            const double sum = counters_.add(key, fresh ? static_cast<double>(newest[cpu][mode]) / ticksPerSecond : 0);
             seconds.points.push_back(point(sum, {{"cpu", QString::number(cpu)}, {"mode", kCpuModes[mode]}}));
         }
     }
