@@ -30,7 +30,8 @@ ExportFigures largeMachine(std::int64_t step)
     for (int i = 0; i < 48; ++i)
         disks.devices[QStringLiteral("/dev/sd%1").arg(i)] = {std::uint64_t(4096 * step), 8192};
     for (int i = 0; i < 24; ++i)
-        volumes.volumes[QStringLiteral("/mnt/volume%1").arg(i)] = {1 << 30, 1 << 29, 1 << 29, QStringLiteral("Volume %1").arg(i)};
+        volumes.volumes[QStringLiteral("/mnt/volume%1").arg(i)] = {1 << 30, 1 << 29, 1 << 29,
+                                                                   QStringLiteral("Volume %1").arg(i)};
     f.info.setHistory(moduleIndex(ModuleId::Disk), History<DiskSample>::fromSamples({disks, disks}));
     f.info.setHistory(moduleIndex(ModuleId::Volume), History<VolumeSample>::fromSamples({volumes}));
     SensorSample temps;
@@ -65,14 +66,16 @@ int main()
         cycles.push_back(largeMachine(i));
     SharedMetricFamilies families;
     const double build = microsecondsPerCall(kRounds, [&](int i) { families = builder.update(cycles[i % 16]); });
-    std::size_t bytes = 0;
+    qsizetype bytes = 0;
+    qsizetype openBytes = 0;
     const double plain = microsecondsPerCall(kRounds, [&](int) { bytes = MetricText::plainText(*families).size(); });
-    const double open = microsecondsPerCall(kRounds, [&](int) { bytes += MetricText::openMetrics(*families).size() * 0; });
+    const double open =
+        microsecondsPerCall(kRounds, [&](int) { openBytes = MetricText::openMetrics(*families).size(); });
     std::size_t series = 0;
     for (const MetricFamily& family : *families)
         series += family.points.size();
-    std::printf("scrape of a large machine: %zu families, %zu series, %zu bytes of plain text\n", families->size(),
-                series, bytes);
+    std::printf("scrape of a large machine: %zu families, %zu series, %lld bytes of plain text, %lld of OpenMetrics\n",
+                families->size(), series, static_cast<long long>(bytes), static_cast<long long>(openBytes));
     std::printf("  builder after a cycle:  %8.1f us\n", build);
     std::printf("  plain text per scrape:  %8.1f us\n", plain);
     std::printf("  OpenMetrics per scrape: %8.1f us\n", open);

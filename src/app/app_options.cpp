@@ -215,9 +215,8 @@ OptionsResult parseAppOptions(const QStringList& arguments, const QString& envir
     QCommandLineParser parser;
     parser.setSingleDashWordOptionMode(QCommandLineParser::ParseAsLongOptions);
     const OptionSet o;
-    parser.addOptions(
-        {o.root, o.settings, o.json, o.cycles, o.bar, o.prefs, o.out, o.scale, o.panels, o.service, o.listen, o.help,
-         o.version});
+    parser.addOptions({o.root, o.settings, o.json, o.cycles, o.bar, o.prefs, o.out, o.scale, o.panels, o.service,
+                       o.listen, o.help, o.version});
     parser.addPositionalArgument(QStringLiteral("command"), QString());
 
     if (!parser.parse(arguments))

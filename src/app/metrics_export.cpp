@@ -32,9 +32,7 @@ bool MetricsExport::serve(const ListenAddress& address)
 {
     delegate_.setExportWanted(true);
     if (server_->listen(address)) {
-        setStatus(Tarvel::localized("Serving metrics at %1").arg(QStringLiteral("http://%1:%2/metrics")
-                                                              .arg(address.host.toString())
-                                                              .arg(server_->port())));
+        setStatus(Tarvel::localized("Serving metrics at %1").arg(metricsUrl(address.host, server_->port())));
         return true;
     }
     delegate_.setExportWanted(false);

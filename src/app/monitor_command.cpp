@@ -2,15 +2,15 @@
 #include "app/app_delegate.h"
 #include "net/general_functions_ddns.h"
 #include "app/commands.h"
-#include "app/metrics_export.h"
-#include "modules/general/top_tab_metrics_section.h"
-#include "modules/general/top_tab_view_controller.h"
 #include "app/front_ends/bar_window_status_bar.h"
 #include "app/front_ends/front_end_choice.h"
 #include "app/front_ends/quit_on_signal.h"
 #include "app/front_ends/terminal_status_bar.h"
 #include "app/front_ends/tray_status_bar.h"
+#include "app/metrics_export.h"
 #include "collect/source_set.h"
+#include "modules/general/top_tab_metrics_section.h"
+#include "modules/general/top_tab_view_controller.h"
 #include "prefs/plist_settings_store.h"
 #include "toolkit/localization.h"
 
@@ -54,8 +54,9 @@ int runMonitor(const AppOptions& options, int argc, char** argv)
     // top tab, and the monitor runs on without it.
     MetricsExport metrics(delegate);
     const auto showStatus = [&delegate](const QString& status) {
-        if (auto* top = delegate.preferencePanel() ? qobject_cast<TopTabViewController*>(delegate.preferencePanel()->tab(0))
-                                                   : nullptr)
+        if (auto* top = delegate.preferencePanel()
+                            ? qobject_cast<TopTabViewController*>(delegate.preferencePanel()->tab(0))
+                            : nullptr)
             top->metricsSection()->showStatus(status);
     };
     QObject::connect(&metrics, &MetricsExport::statusChanged, &delegate, showStatus);

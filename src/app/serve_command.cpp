@@ -32,9 +32,7 @@ int runServe(const AppOptions& options, int argc, char** argv)
         return 1;
     }
     // The address as bound, port 0 resolved, so that whoever started the server can find it.
-    QTextStream(stdout) << QStringLiteral("http://%1:%2/metrics\n")
-                               .arg(address->host.toString())
-                               .arg(metrics.server().port());
+    QTextStream(stdout) << metricsUrl(address->host, metrics.server().port()) << '\n';
     std::fflush(stdout);
     delegate.applicationDidFinishLaunching();
     return QCoreApplication::exec();

@@ -12,6 +12,6 @@ struct ExportFigures {
     // Modules switched off keep their last history; their figures are no longer current.
     std::array<bool, kModuleCount> switchedOn{};
     ExportExtras extras;
-    double pageSize = 4096;       // bytes per page of the memory figures
-    double ticksPerSecond = 100;  // the kernel's clock ticks, which the CPU figures count
+    double pageSize = 4096;      // bytes per page of the memory figures
+    double ticksPerSecond = 100; // the kernel's clock ticks, which the CPU figures count
 };

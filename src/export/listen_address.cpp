@@ -26,3 +26,11 @@ std::optional<ListenAddress> parseListenAddress(const QString& text)
         return std::nullopt;
     return address;
 }
+
+QString metricsUrl(const QHostAddress& host, quint16 port)
+{
+    const QString name = host.protocol() == QAbstractSocket::IPv6Protocol
+                             ? QLatin1Char('[') + host.toString() + QLatin1Char(']')
+                             : host.toString();
+    return QStringLiteral("http://%1:%2/metrics").arg(name).arg(port);
+}

@@ -17,3 +17,6 @@ struct ListenAddress {
 // text is not one of these or names no numeric address (host names other than localhost are not
 // looked up: nothing waits on a name server before the monitor starts).
 std::optional<ListenAddress> parseListenAddress(const QString& text);
+
+// "http://127.0.0.1:9772/metrics", an IPv6 host in brackets.
+QString metricsUrl(const QHostAddress& host, quint16 port);

@@ -5,8 +5,7 @@
 
 namespace MetricParts {
 
-MetricFamily& newFamily(MetricFamilies& families, const char* name, MetricType type, const char* unit,
-                        const char* help)
+MetricFamily& newFamily(MetricFamilies& families, const char* name, MetricType type, const char* unit, const char* help)
 {
     families.push_back({name, type, unit, help, {}});
     return families.back();
@@ -39,8 +38,8 @@ void addGauge(MetricFamilies& families, const char* name, const char* unit, cons
     newFamily(families, name, MetricType::Gauge, unit, help).points.push_back(point(value));
 }
 
-const char* const kMemoryKinds[] = {"wired", "active", "inactive", "free", nullptr, nullptr,
-                                    "speculative", "compressor", "application", "cached"};
+const char* const kMemoryKinds[] = {"wired", "active",      "inactive",   "free",        nullptr,
+                                    nullptr, "speculative", "compressor", "application", "cached"};
 
 // Bytes paged in or out since boot: shown only while the Memory menu is open, -1 otherwise.
 void addPaging(MetricFamilies& families, const MemorySample& sample, double pageSize, CounterKeeper& counters)
@@ -113,9 +112,11 @@ void addNetwork(MetricFamilies& families, const ExportFigures& figures, CounterK
             const char* help;
             std::uint64_t InterfaceCounters::*field;
         } kinds[] = {
-            {"tarvel_network_receive_bytes", "bytes", "Bytes received by the interface.", &InterfaceCounters::receivedBytes},
+            {"tarvel_network_receive_bytes", "bytes", "Bytes received by the interface.",
+             &InterfaceCounters::receivedBytes},
             {"tarvel_network_transmit_bytes", "bytes", "Bytes sent by the interface.", &InterfaceCounters::sentBytes},
-            {"tarvel_network_receive_packets", "", "Packets received by the interface.", &InterfaceCounters::receivedPackets},
+            {"tarvel_network_receive_packets", "", "Packets received by the interface.",
+             &InterfaceCounters::receivedPackets},
             {"tarvel_network_transmit_packets", "", "Packets sent by the interface.", &InterfaceCounters::sentPackets},
         };
         for (const auto& kind : kinds) {

@@ -87,8 +87,8 @@ void addVolume(MetricFamilies& families, const ExportFigures& figures)
         MetricFamily& family = newFamily(families, kind.name, MetricType::Gauge, "bytes", kind.help);
         for (const auto& [mountPoint, usage] : history.back().volumes) {
             if (usage.total > 0)
-                family.points.push_back(point(static_cast<double>(usage.*kind.field),
-                                              {{"mountpoint", mountPoint}, {"name", usage.name}}));
+                family.points.push_back(
+                    point(static_cast<double>(usage.*kind.field), {{"mountpoint", mountPoint}, {"name", usage.name}}));
         }
     }
 }

@@ -41,9 +41,8 @@ void MetricsBuilder::addCpu(MetricFamilies& families, const ExportFigures& figur
     const bool fresh = history.identity() != lastCpu_.identity();
     lastCpu_ = history;
     const double ticksPerSecond = figures.ticksPerSecond > 0 ? figures.ticksPerSecond : 100;
-    MetricFamily& seconds =
-        newFamily(families, "tarvel_cpu_seconds", MetricType::Counter, "seconds",
-                  "Seconds each processor spent in each state since the export started.");
+    MetricFamily& seconds = newFamily(families, "tarvel_cpu_seconds", MetricType::Counter, "seconds",
+                                      "Seconds each processor spent in each state since the export started.");
     for (std::size_t cpu = 0; cpu + 1 < newest.size(); ++cpu) {
         for (std::size_t mode = 0; mode < 4; ++mode) {
             const QByteArray key = "cpu/" + QByteArray::number(qulonglong(cpu)) + '/' + kCpuModes[mode];

@@ -118,9 +118,9 @@ void MetricsServer::answer(QTcpSocket* socket, int status, const QByteArray& con
                            const QByteArray& extraHeaders)
 {
     disconnect(socket, &QTcpSocket::readyRead, this, nullptr);
-    const QByteArray head = "HTTP/1.1 " + QByteArray::number(status) + ' ' + reasonPhrase(status) +
-                            "\r\nContent-Type: " + contentType + "\r\nContent-Length: " +
-                            QByteArray::number(body.size()) + "\r\nConnection: close\r\n" + extraHeaders + "\r\n";
+    const QByteArray head =
+        "HTTP/1.1 " + QByteArray::number(status) + ' ' + reasonPhrase(status) + "\r\nContent-Type: " + contentType +
+        "\r\nContent-Length: " + QByteArray::number(body.size()) + "\r\nConnection: close\r\n" + extraHeaders + "\r\n";
     socket->write(head + body);
     // Anything more the client sends is not read; the connection ends once the answer is out.
     socket->disconnectFromHost();

@@ -23,8 +23,7 @@ ExportFigures fullTestFigures()
     f.ticksPerSecond = 100;
     put<CpuSample>(f, ModuleId::Cpu, {{{50, 20, 0, 30}, {10, 10, 5, 75}, {30, 15, 3, 52}}});
     put<MemorySample>(f, ModuleId::Memory, {{100, 200, 300, 400, 10, 20, -1, 0, 150, 250}});
-    put<NetworkSample>(f, ModuleId::Network,
-                       {{1000, 2000, 2, {}}, {3000, 2600, 2, {{"eth0", 7, 9}}}});
+    put<NetworkSample>(f, ModuleId::Network, {{1000, 2000, 2, {}}, {3000, 2600, 2, {{"eth0", 7, 9}}}});
     DiskSample before{{{QStringLiteral("/dev/sda"), {1000, 2000}}}, 1};
     DiskSample after{{{QStringLiteral("/dev/sda"), {5096, 2000}}, {QStringLiteral("/dev/nvme0n1"), {1, 2}}}, 1};
     put<DiskSample>(f, ModuleId::Disk, {before, after});

@@ -39,12 +39,14 @@ TEST(MetricText, PromtoolAcceptsThePlainFormat)
 {
     ASSERT_STRNE(TARVEL_PROMTOOL, "") << "promtool is missing: tools/setup.sh installs Debian's prometheus";
     const QByteArray text = MetricText::plainText(fullFamilies());
-    const ToolRun run = runTool(QStringLiteral(TARVEL_PROMTOOL), {QStringLiteral("check"), QStringLiteral("metrics")}, text);
+    const ToolRun run =
+        runTool(QStringLiteral(TARVEL_PROMTOOL), {QStringLiteral("check"), QStringLiteral("metrics")}, text);
     EXPECT_EQ(run.exitCode, 0) << run.output.constData() << "\n---\n" << text.constData();
     // Counters carry _total in both their samples and their TYPE line in this format.
     EXPECT_TRUE(text.contains("# TYPE tarvel_cpu_seconds_total counter\n"));
     EXPECT_TRUE(text.contains("tarvel_cpu_seconds_total{cpu=\"0\",mode=\"user\"} 0.5\n"));
-    EXPECT_TRUE(text.contains("tarvel_volume_size_bytes{mountpoint=\"/media/My \\\"Disk\\\"\",name=\"Mein\\\\Laufwerk\"} 1000\n"));
+    EXPECT_TRUE(text.contains(
+        "tarvel_volume_size_bytes{mountpoint=\"/media/My \\\"Disk\\\"\",name=\"Mein\\\\Laufwerk\"} 1000\n"));
     EXPECT_FALSE(text.contains("# EOF"));
 }
 
@@ -52,8 +54,7 @@ TEST(MetricText, OpenMetricsParserAcceptsTheOpenMetricsFormat)
 {
     ASSERT_STRNE(TARVEL_DEBIAN_PYTHON, "") << "python3 is missing";
     const QByteArray text = MetricText::openMetrics(fullFamilies());
-    const ToolRun run =
-        runTool(QStringLiteral(TARVEL_DEBIAN_PYTHON), {QStringLiteral(TARVEL_OPENMETRICS_CHECK)}, text);
+    const ToolRun run = runTool(QStringLiteral(TARVEL_DEBIAN_PYTHON), {QStringLiteral(TARVEL_OPENMETRICS_CHECK)}, text);
     ASSERT_EQ(run.exitCode, 0) << run.output.constData() << "\n---\n" << text.constData();
     // The parser's view: family name without _total, the unit, the number of samples.
     EXPECT_TRUE(run.output.contains("tarvel_cpu_seconds counter seconds 8\n")) << run.output.constData();

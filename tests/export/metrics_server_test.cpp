@@ -31,10 +31,7 @@ protected:
     }
 
     // Sends the pieces one after the other and reads until the server closes the connection.
-    QByteArray exchange(const QList<QByteArray>& pieces)
-    {
-        return exchangeOn(*connectClient(), pieces);
-    }
+    QByteArray exchange(const QList<QByteArray>& pieces) { return exchangeOn(*connectClient(), pieces); }
 
     static QByteArray exchangeOn(QTcpSocket& socket, const QList<QByteArray>& pieces)
     {

@@ -161,7 +161,8 @@ protected:
         QProcess process;
         process.setProcessEnvironment(environment_);
         process.start(QStringLiteral(TARVEL_EXECUTABLE),
-                      tarvelArguments("snapshot.plist") + QStringList{QStringLiteral("snapshot"), QStringLiteral("--json"),
+                      tarvelArguments("snapshot.plist") + QStringList{QStringLiteral("snapshot"),
+                                                                      QStringLiteral("--json"),
                                                                       QStringLiteral("--cycles"), QStringLiteral("3")});
         // The event loop turns meanwhile, so the processors stay busy during the snapshot too.
         if (!QTest::qWaitFor([&] { return process.state() == QProcess::NotRunning; }, 60000))
@@ -205,7 +206,8 @@ TEST_F(PrometheusScrape, StoredFiguresAgreeWithTheSnapshot)
         },
         90000));
 
-    const QJsonArray rates = queryPrometheus(port, QStringLiteral("rate(tarvel_cpu_seconds_total{mode=\"user\"}[10s])"));
+    const QJsonArray rates =
+        queryPrometheus(port, QStringLiteral("rate(tarvel_cpu_seconds_total{mode=\"user\"}[10s])"));
     const QJsonArray freeMemory = queryPrometheus(port, QStringLiteral("tarvel_memory_bytes{kind=\"free\"}"));
     const QJsonObject report = snapshot();
 
@@ -215,7 +217,8 @@ TEST_F(PrometheusScrape, StoredFiguresAgreeWithTheSnapshot)
     ASSERT_EQ(rates.size(), 2);
     const double ticksPerSecond = static_cast<double>(sysconf(_SC_CLK_TCK));
     for (const QJsonValue& series : rates) {
-        const int processor = series.toObject().value(QLatin1String("metric")).toObject().value(QLatin1String("cpu")).toString().toInt();
+        const int processor =
+            series.toObject().value(QLatin1String("metric")).toObject().value(QLatin1String("cpu")).toString().toInt();
         const double snapshotRate = cpu.at(processor).toArray().at(0).toDouble() / ticksPerSecond;
         EXPECT_NEAR(sampleValue(series), 1.0, 0.3) << "cpu " << processor;
         EXPECT_NEAR(sampleValue(series), snapshotRate, 0.3) << "cpu " << processor;
