@@ -1,5 +1,7 @@
-// The memory, load, network, disk, volume and sensor parts of the exported figures.
+// The memory, load and network parts of the exported figures, and the helpers every part uses.
 #include "export/metric_builder_parts.h"
+
+#include <cstring>
 
 #include "collect/network_sample.h"
 
@@ -16,8 +18,9 @@ MetricPoint point(double value, std::initializer_list<std::pair<const char*, QSt
     MetricPoint p;
     p.value = value;
     p.labels.reserve(labels.size());
+    // Label names are literals that outlive every scrape: they are referred to, not copied.
     for (const auto& [name, text] : labels)
-        p.labels.emplace_back(QByteArray(name), text.toUtf8());
+        p.labels.emplace_back(QByteArray::fromRawData(name, static_cast<qsizetype>(std::strlen(name))), text.toUtf8());
     return p;
 }
 

@@ -12,6 +12,7 @@ namespace MetricParts {
 // Appends an empty family and returns it; fill it before appending the next.
 MetricFamily& newFamily(MetricFamilies& families, const char* name, MetricType type, const char* unit,
                         const char* help);
+// Label names must be string literals.
 MetricPoint point(double value, std::initializer_list<std::pair<const char*, QString>> labels = {});
 
 void addMemory(MetricFamilies& families, const ExportFigures& figures, CounterKeeper& counters);

@@ -8,22 +8,22 @@
 
 namespace {
 
-QByteArray formatValue(double value)
+void appendValue(QByteArray& out, double value)
 {
-    if (std::isnan(value))
-        return QByteArrayLiteral("NaN");
-    if (std::isinf(value))
-        return value > 0 ? QByteArrayLiteral("+Inf") : QByteArrayLiteral("-Inf");
-    char buffer[32];
-    // The shortest text that reads back as the same number; whole numbers stay whole.
-    const auto result = std::to_chars(buffer, buffer + sizeof buffer, value);
-    return QByteArray(buffer, static_cast<qsizetype>(result.ptr - buffer));
+    if (std::isnan(value)) {
+        out += "NaN";
+    } else if (std::isinf(value)) {
+        out += value > 0 ? "+Inf" : "-Inf";
+    } else {
+        char buffer[32];
+        // The shortest text that reads back as the same number; whole numbers stay whole.
+        const auto result = std::to_chars(buffer, buffer + sizeof buffer, value);
+        out.append(buffer, static_cast<qsizetype>(result.ptr - buffer));
+    }
 }
 
-QByteArray escaped(const QByteArray& text, bool quotes)
+void appendEscaped(QByteArray& out, const QByteArray& text, bool quotes)
 {
-    QByteArray out;
-    out.reserve(text.size());
     for (const char c : text) {
         if (c == '\\')
             out += "\\\\";
@@ -34,9 +34,9 @@ QByteArray escaped(const QByteArray& text, bool quotes)
         else
             out += c;
     }
-    return out;
 }
 
+// Appended piece by piece: a scrape writes a thousand of these, and temporaries would double it.
 void appendPoint(QByteArray& out, const QByteArray& name, const MetricPoint& point)
 {
     out += name;
@@ -45,11 +45,16 @@ void appendPoint(QByteArray& out, const QByteArray& name, const MetricPoint& poi
         for (std::size_t i = 0; i < point.labels.size(); ++i) {
             if (i > 0)
                 out += ',';
-            out += point.labels[i].first + "=\"" + escaped(point.labels[i].second, true) + '"';
+            out += point.labels[i].first;
+            out += "=\"";
+            appendEscaped(out, point.labels[i].second, true);
+            out += '"';
         }
         out += '}';
     }
-    out += ' ' + formatValue(point.value) + '\n';
+    out += ' ';
+    appendValue(out, point.value);
+    out += '\n';
 }
 
 QByteArray typeName(MetricType type)
@@ -108,10 +113,12 @@ bool wantsOpenMetrics(const QByteArray& accept)
 QByteArray plainText(const MetricFamilies& families)
 {
     QByteArray out;
-    out.reserve(static_cast<qsizetype>(families.size()) * 256);
+    out.reserve(static_cast<qsizetype>(families.size()) * 4096);
     for (const MetricFamily& family : families) {
         const QByteArray name = sampleName(family);
-        out += "# HELP " + name + ' ' + escaped(family.help, false) + '\n';
+        out += "# HELP " + name + ' ';
+        appendEscaped(out, family.help, false);
+        out += '\n';
         out += "# TYPE " + name + ' ' + typeName(family.type) + '\n';
         for (const MetricPoint& point : family.points)
             appendPoint(out, name, point);
@@ -122,12 +129,14 @@ QByteArray plainText(const MetricFamilies& families)
 QByteArray openMetrics(const MetricFamilies& families)
 {
     QByteArray out;
-    out.reserve(static_cast<qsizetype>(families.size()) * 256);
+    out.reserve(static_cast<qsizetype>(families.size()) * 4096);
     for (const MetricFamily& family : families) {
         out += "# TYPE " + family.name + ' ' + typeName(family.type) + '\n';
         if (!family.unit.isEmpty())
             out += "# UNIT " + family.name + ' ' + family.unit + '\n';
-        out += "# HELP " + family.name + ' ' + escaped(family.help, true) + '\n';
+        out += "# HELP " + family.name + ' ';
+        appendEscaped(out, family.help, true);
+        out += '\n';
         const QByteArray name = sampleName(family);
         for (const MetricPoint& point : family.points)
             appendPoint(out, name, point);
