@@ -1230,5 +1230,33 @@ new ver : %@</source>
         <source>-</source>
         <translation>-</translation>
     </message>
+    <message>
+        <source>Serving metrics at %1</source>
+        <translation>%1 でメトリクスを提供しています</translation>
+    </message>
+    <message>
+        <source>Port %1 is already in use; metrics are not served.</source>
+        <translation>ポート %1 は使用中のため、メトリクスを提供できません。</translation>
+    </message>
+    <message>
+        <source>Metrics cannot be served on this address: %1</source>
+        <translation>このアドレスではメトリクスを提供できません: %1</translation>
+    </message>
+    <message>
+        <source>"%1" is not an address and port such as 127.0.0.1:9772.</source>
+        <translation>「%1」は 127.0.0.1:9772 のようなアドレスとポートではありません。</translation>
+    </message>
+    <message>
+        <source>Serve metrics for Prometheus at /metrics</source>
+        <translation>Prometheus 向けに /metrics でメトリクスを提供する</translation>
+    </message>
+    <message>
+        <source>Listen on</source>
+        <translation>待ち受けアドレス</translation>
+    </message>
+    <message>
+        <source>Metrics</source>
+        <translation>メトリクス</translation>
+    </message>
 </context>
 </TS>
