@@ -5,7 +5,7 @@ set -euo pipefail
 
 PACKAGES=(
   g++ cmake make pkg-config
-  qt6-base-dev qt6-tools-dev qt6-tools-dev-tools qt6-l10n-tools libgl-dev
+  qt6-base-dev qt6-tools-dev qt6-tools-dev-tools qt6-l10n-tools libgl-dev libqt6sql6-sqlite
   libplist-dev libudev-dev libmount-dev libpci-dev libatasmart-dev libxcb1-dev
   libgtest-dev libgmock-dev
   fonts-dejavu-core

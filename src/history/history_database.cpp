@@ -1,0 +1,314 @@
+// Opening, checking, writing and reading the history file; a damaged file is set aside, never lost.
+#include "history/history_database.h"
+
+#include "history/history_log.h"
+#include "toolkit/guarded_file.h"
+
+#include <QFileInfo>
+#include <QSqlError>
+#include <QSqlQuery>
+#include <QVariant>
+
+#include <atomic>
+
+namespace {
+
+// "TVHL" in the file's header marks it as ours; a newer layout would raise the version.
+constexpr qint64 kApplicationId = 0x5456484C;
+constexpr qint64 kSchemaVersion = 1;
+
+const char* const kSchema[] = {
+    "CREATE TABLE series (id INTEGER PRIMARY KEY, module TEXT NOT NULL, name TEXT NOT NULL, "
+    "unit INTEGER NOT NULL, UNIQUE (module, name))",
+    "CREATE TABLE minutes (series INTEGER NOT NULL, bucket INTEGER NOT NULL, count INTEGER NOT NULL, "
+    "sum INTEGER NOT NULL, min INTEGER NOT NULL, max INTEGER NOT NULL, PRIMARY KEY (series, bucket)) WITHOUT ROWID",
+    "CREATE TABLE hours (series INTEGER NOT NULL, bucket INTEGER NOT NULL, count INTEGER NOT NULL, "
+    "sum INTEGER NOT NULL, min INTEGER NOT NULL, max INTEGER NOT NULL, PRIMARY KEY (series, bucket)) WITHOUT ROWID",
+};
+
+// A minute written twice (the program quit and came back within it) adds up rather than replaces.
+QString upsert(const char* table)
+{
+    return QStringLiteral("INSERT INTO %1 (series, bucket, count, sum, min, max) VALUES (?, ?, ?, ?, ?, ?) "
+                          "ON CONFLICT (series, bucket) DO UPDATE SET count = count + excluded.count, "
+                          "sum = sum + excluded.sum, min = min(min, excluded.min), max = max(max, excluded.max)")
+        .arg(QLatin1String(table));
+}
+
+QString seriesKey(const QString& module, const QString& series)
+{
+    return module + u'\n' + series;
+}
+
+std::optional<qint64> singleInteger(QSqlDatabase& db, const QString& sql)
+{
+    QSqlQuery query(db);
+    if (!query.exec(sql) || !query.next())
+        return std::nullopt;
+    return query.value(0).toLongLong();
+}
+
+} // namespace
+
+struct HistoryDatabase::Statements {
+    explicit Statements(const QSqlDatabase& db)
+        : insertSeries(db)
+        , minute(db)
+        , hour(db)
+        , pruneMinutes(db)
+        , pruneHours(db)
+    {}
+    bool prepare()
+    {
+        return insertSeries.prepare(QStringLiteral("INSERT INTO series (module, name, unit) VALUES (?, ?, ?)")) &&
+               minute.prepare(upsert("minutes")) && hour.prepare(upsert("hours")) &&
+               pruneMinutes.prepare(QStringLiteral("DELETE FROM minutes WHERE series = ? AND bucket < ?")) &&
+               pruneHours.prepare(QStringLiteral("DELETE FROM hours WHERE series = ? AND bucket < ?"));
+    }
+    QSqlQuery insertSeries, minute, hour, pruneMinutes, pruneHours;
+};
+
+HistoryDatabase::HistoryDatabase(QString path, bool durable)
+    : path_(std::move(path))
+    , durable_(durable)
+{
+    static std::atomic<int> serial{0};
+    connectionName_ = QStringLiteral("tarvel-history-%1").arg(++serial);
+}
+
+HistoryDatabase::~HistoryDatabase()
+{
+    close();
+}
+
+void HistoryDatabase::close()
+{
+    statements_.reset();
+    seriesIds_.clear();
+    prunedHour_.reset();
+    if (db_.isValid()) {
+        db_.close();
+        db_ = QSqlDatabase();
+        QSqlDatabase::removeDatabase(connectionName_);
+    }
+}
+
+bool HistoryDatabase::isOpen() const
+{
+    return statements_ != nullptr;
+}
+
+bool HistoryDatabase::open()
+{
+    setAside_.reset();
+    if (openOnce())
+        return true;
+    qCWarning(lcHistory) << "history database unusable:" << path_;
+    return setAsideAndReopen();
+}
+
+bool HistoryDatabase::setAsideAndReopen()
+{
+    close();
+    setAside_ = GuardedFile::setAside(path_);
+    if (!setAside_)
+        return false;
+    // The log's and index's files belong with the file they were written for.
+    for (const char* suffix : {"-wal", "-shm"}) {
+        if (QFileInfo::exists(path_ + QLatin1String(suffix)))
+            GuardedFile::setAside(path_ + QLatin1String(suffix));
+    }
+    qCWarning(lcHistory) << "history database set aside as" << *setAside_;
+    return openOnce();
+}
+
+bool HistoryDatabase::openOnce()
+{
+    close();
+    db_ = QSqlDatabase::addDatabase(QStringLiteral("QSQLITE"), connectionName_);
+    db_.setDatabaseName(path_);
+    if (!db_.open() || !prepareSchema()) {
+        close();
+        return false;
+    }
+    QSqlQuery pragma(db_);
+    pragma.exec(QStringLiteral("PRAGMA journal_mode = WAL"));
+    pragma.exec(durable_ ? QStringLiteral("PRAGMA synchronous = FULL") : QStringLiteral("PRAGMA synchronous = OFF"));
+    QSqlQuery series(db_);
+    if (!series.exec(QStringLiteral("SELECT id, module, name FROM series"))) {
+        close();
+        return false;
+    }
+    while (series.next())
+        seriesIds_.insert(seriesKey(series.value(1).toString(), series.value(2).toString()),
+                          series.value(0).toLongLong());
+    statements_ = std::make_unique<Statements>(db_);
+    if (!statements_->prepare()) {
+        close();
+        return false;
+    }
+    return true;
+}
+
+// An empty file becomes ours; one of ours must be of this layout and pass SQLite's own check.
+bool HistoryDatabase::prepareSchema()
+{
+    const std::optional<qint64> id = singleInteger(db_, QStringLiteral("PRAGMA application_id"));
+    const std::optional<qint64> tables = singleInteger(db_, QStringLiteral("SELECT count(*) FROM sqlite_master"));
+    if (!id || !tables)
+        return false;
+    if (*id == kApplicationId) {
+        QSqlQuery check(db_);
+        return singleInteger(db_, QStringLiteral("PRAGMA user_version")) == kSchemaVersion &&
+               check.exec(QStringLiteral("PRAGMA quick_check")) && check.next() &&
+               check.value(0).toString() == QLatin1String("ok");
+    }
+    if (*id != 0 || *tables != 0)
+        return false;
+    QSqlQuery query(db_);
+    if (!db_.transaction())
+        return false;
+    for (const char* statement : kSchema) {
+        if (!query.exec(QLatin1String(statement))) {
+            db_.rollback();
+            return false;
+        }
+    }
+    query.exec(QStringLiteral("PRAGMA application_id = %1").arg(kApplicationId));
+    query.exec(QStringLiteral("PRAGMA user_version = %1").arg(kSchemaVersion));
+    return db_.commit();
+}
+
+bool HistoryDatabase::writeMinute(const MinuteBatch& batch)
+{
+    if (!isOpen() && !open())
+        return false;
+    if (writeInTransaction(batch))
+        return true;
+    // A failed write on a file that still passes its check is this minute lost, nothing more.
+    qCWarning(lcHistory) << "history write failed:" << db_.lastError().text();
+    close();
+    if (openOnce())
+        return false;
+    return setAsideAndReopen() && writeInTransaction(batch);
+}
+
+bool HistoryDatabase::writeInTransaction(const MinuteBatch& batch)
+{
+    if (!db_.transaction())
+        return false;
+    const std::int64_t hour = batch.minute >= 0 ? batch.minute / 60 : -((-batch.minute + 59) / 60);
+    bool ok = true;
+    for (const MinuteEntry& entry : batch.entries) {
+        const std::optional<std::int64_t> id = seriesId(entry);
+        ok = id.has_value();
+        for (auto [query, bucket] : {std::pair{&statements_->minute, batch.minute}, std::pair{&statements_->hour, hour}}) {
+            if (!ok)
+                break;
+            for (const qint64 value : {*id, bucket, entry.count, entry.sum, entry.min, entry.max})
+                query->addBindValue(value);
+            ok = query->exec();
+        }
+        if (!ok)
+            break;
+    }
+    if (ok && prunedHour_ != hour)
+        ok = prune(batch.minute);
+    if (ok && db_.commit()) {
+        prunedHour_ = hour;
+        return true;
+    }
+    db_.rollback();
+    // Series made in the failed transaction are gone with it.
+    seriesIds_.clear();
+    QSqlQuery series(db_);
+    if (series.exec(QStringLiteral("SELECT id, module, name FROM series"))) {
+        while (series.next())
+            seriesIds_.insert(seriesKey(series.value(1).toString(), series.value(2).toString()),
+                              series.value(0).toLongLong());
+    }
+    return false;
+}
+
+std::optional<std::int64_t> HistoryDatabase::seriesId(const MinuteEntry& entry)
+{
+    const QString key = seriesKey(entry.module, entry.series);
+    if (const auto it = seriesIds_.constFind(key); it != seriesIds_.cend())
+        return it.value();
+    QSqlQuery& insert = statements_->insertSeries;
+    insert.addBindValue(entry.module);
+    insert.addBindValue(entry.series);
+    // Stored as the enumeration's number: its order is part of the file's layout.
+    insert.addBindValue(static_cast<int>(entry.unit));
+    if (!insert.exec())
+        return std::nullopt;
+    const std::int64_t id = insert.lastInsertId().toLongLong();
+    seriesIds_.insert(key, id);
+    return id;
+}
+
+// Once an hour, each series loses the minutes past a week and the hours past a year.
+bool HistoryDatabase::prune(std::int64_t minute)
+{
+    const std::int64_t oldestMinute = minute - kMinuteKeepSeconds / 60;
+    const std::int64_t oldestHour = (minute - kHourKeepSeconds / 60) / 60;
+    for (const std::int64_t id : std::as_const(seriesIds_)) {
+        for (auto [query, bucket] : {std::pair{&statements_->pruneMinutes, oldestMinute},
+                                     std::pair{&statements_->pruneHours, oldestHour}}) {
+            query->addBindValue(qint64{id});
+            query->addBindValue(qint64{bucket});
+            if (!query->exec())
+                return false;
+        }
+    }
+    return true;
+}
+
+QList<SeriesHistory> HistoryDatabase::read(const QString& module, Resolution resolution, std::int64_t firstBucket,
+                                           std::int64_t lastBucket)
+{
+    QList<SeriesHistory> result;
+    if (!isOpen())
+        return result;
+    QSqlQuery query(db_);
+    query.setForwardOnly(true);
+    query.prepare(QStringLiteral("SELECT s.id, s.name, s.unit, t.bucket, t.count, t.sum, t.min, t.max "
+                                 "FROM series s JOIN %1 t ON t.series = s.id "
+                                 "WHERE s.module = ? AND t.bucket BETWEEN ? AND ? ORDER BY s.id, t.bucket")
+                      .arg(resolution == Resolution::Minute ? QLatin1String("minutes") : QLatin1String("hours")));
+    query.addBindValue(module);
+    query.addBindValue(qint64{firstBucket});
+    query.addBindValue(qint64{lastBucket});
+    if (!query.exec())
+        return result;
+    std::int64_t currentId = -1;
+    while (query.next()) {
+        const std::int64_t id = query.value(0).toLongLong();
+        if (id != currentId || result.isEmpty()) {
+            currentId = id;
+            const int unit = query.value(2).toInt();
+            const auto figureUnit = unit >= 0 && unit <= static_cast<int>(FigureUnit::Rpm) ? static_cast<FigureUnit>(unit)
+                                                                                            : FigureUnit::Bytes;
+            result.append({module, query.value(1).toString(), figureUnit, {}});
+        }
+        const double scale = unitScale(result.back().unit);
+        const std::int64_t count = query.value(4).toLongLong();
+        if (count <= 0)
+            continue;
+        result.back().buckets.append({query.value(3).toLongLong(), count,
+                                      query.value(5).toDouble() / static_cast<double>(count) / scale,
+                                      query.value(6).toDouble() / scale, query.value(7).toDouble() / scale});
+    }
+    return result;
+}
+
+QStringList HistoryDatabase::modules()
+{
+    QStringList names;
+    QSqlQuery query(db_);
+    if (isOpen() && query.exec(QStringLiteral("SELECT module FROM series GROUP BY module ORDER BY min(id)"))) {
+        while (query.next())
+            names.append(query.value(0).toString());
+    }
+    return names;
+}
