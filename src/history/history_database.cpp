@@ -21,16 +21,16 @@ const char* const kSchema[] = {
     "CREATE TABLE series (id INTEGER PRIMARY KEY, module TEXT NOT NULL, name TEXT NOT NULL, "
     "unit INTEGER NOT NULL, UNIQUE (module, name))",
     "CREATE TABLE minutes (series INTEGER NOT NULL, bucket INTEGER NOT NULL, count INTEGER NOT NULL, "
-    "sum INTEGER NOT NULL, min INTEGER NOT NULL, max INTEGER NOT NULL, PRIMARY KEY (series, bucket)) WITHOUT ROWID",
+    "sum INTEGER NOT NULL, min INTEGER NOT NULL, max INTEGER NOT NULL, PRIMARY KEY (bucket, series)) WITHOUT ROWID",
     "CREATE TABLE hours (series INTEGER NOT NULL, bucket INTEGER NOT NULL, count INTEGER NOT NULL, "
-    "sum INTEGER NOT NULL, min INTEGER NOT NULL, max INTEGER NOT NULL, PRIMARY KEY (series, bucket)) WITHOUT ROWID",
+    "sum INTEGER NOT NULL, min INTEGER NOT NULL, max INTEGER NOT NULL, PRIMARY KEY (bucket, series)) WITHOUT ROWID",
 };
 
 // A minute written twice (the program quit and came back within it) adds up rather than replaces.
 QString upsert(const char* table)
 {
     return QStringLiteral("INSERT INTO %1 (series, bucket, count, sum, min, max) VALUES (?, ?, ?, ?, ?, ?) "
-                          "ON CONFLICT (series, bucket) DO UPDATE SET count = count + excluded.count, "
+                          "ON CONFLICT (bucket, series) DO UPDATE SET count = count + excluded.count, "
                           "sum = sum + excluded.sum, min = min(min, excluded.min), max = max(max, excluded.max)")
         .arg(QLatin1String(table));
 }
@@ -62,8 +62,8 @@ struct HistoryDatabase::Statements {
     {
         return insertSeries.prepare(QStringLiteral("INSERT INTO series (module, name, unit) VALUES (?, ?, ?)")) &&
                minute.prepare(upsert("minutes")) && hour.prepare(upsert("hours")) &&
-               pruneMinutes.prepare(QStringLiteral("DELETE FROM minutes WHERE series = ? AND bucket < ?")) &&
-               pruneHours.prepare(QStringLiteral("DELETE FROM hours WHERE series = ? AND bucket < ?"));
+               pruneMinutes.prepare(QStringLiteral("DELETE FROM minutes WHERE bucket < ?")) &&
+               pruneHours.prepare(QStringLiteral("DELETE FROM hours WHERE bucket < ?"));
     }
     QSqlQuery insertSeries, minute, hour, pruneMinutes, pruneHours;
 };
@@ -133,6 +133,8 @@ bool HistoryDatabase::openOnce()
     }
     QSqlQuery pragma(db_);
     pragma.exec(QStringLiteral("PRAGMA journal_mode = WAL"));
+    // The log is emptied at each checkpoint; without a limit its file keeps its largest size.
+    pragma.exec(QStringLiteral("PRAGMA journal_size_limit = 1048576"));
     pragma.exec(durable_ ? QStringLiteral("PRAGMA synchronous = FULL") : QStringLiteral("PRAGMA synchronous = OFF"));
     QSqlQuery series(db_);
     if (!series.exec(QStringLiteral("SELECT id, module, name FROM series"))) {
@@ -202,7 +204,8 @@ bool HistoryDatabase::writeInTransaction(const MinuteBatch& batch)
     for (const MinuteEntry& entry : batch.entries) {
         const std::optional<std::int64_t> id = seriesId(entry);
         ok = id.has_value();
-        for (auto [query, bucket] : {std::pair{&statements_->minute, batch.minute}, std::pair{&statements_->hour, hour}}) {
+        for (auto [query, bucket] :
+             {std::pair{&statements_->minute, batch.minute}, std::pair{&statements_->hour, hour}}) {
             if (!ok)
                 break;
             for (const qint64 value : {*id, bucket, entry.count, entry.sum, entry.min, entry.max})
@@ -247,19 +250,18 @@ std::optional<std::int64_t> HistoryDatabase::seriesId(const MinuteEntry& entry)
     return id;
 }
 
-// Once an hour, each series loses the minutes past a week and the hours past a year.
+// Once an hour the minutes past a week and the hours past a year go. Rows are keyed by bucket
+// first, so both are a range at the front of their table, and new rows always go at its end,
+// which keeps the pages full.
 bool HistoryDatabase::prune(std::int64_t minute)
 {
     const std::int64_t oldestMinute = minute - kMinuteKeepSeconds / 60;
     const std::int64_t oldestHour = (minute - kHourKeepSeconds / 60) / 60;
-    for (const std::int64_t id : std::as_const(seriesIds_)) {
-        for (auto [query, bucket] : {std::pair{&statements_->pruneMinutes, oldestMinute},
-                                     std::pair{&statements_->pruneHours, oldestHour}}) {
-            query->addBindValue(qint64{id});
-            query->addBindValue(qint64{bucket});
-            if (!query->exec())
-                return false;
-        }
+    for (auto [query, bucket] :
+         {std::pair{&statements_->pruneMinutes, oldestMinute}, std::pair{&statements_->pruneHours, oldestHour}}) {
+        query->addBindValue(qint64{bucket});
+        if (!query->exec())
+            return false;
     }
     return true;
 }
@@ -287,8 +289,9 @@ QList<SeriesHistory> HistoryDatabase::read(const QString& module, Resolution res
         if (id != currentId || result.isEmpty()) {
             currentId = id;
             const int unit = query.value(2).toInt();
-            const auto figureUnit = unit >= 0 && unit <= static_cast<int>(FigureUnit::Rpm) ? static_cast<FigureUnit>(unit)
-                                                                                            : FigureUnit::Bytes;
+            const auto figureUnit = unit >= 0 && unit <= static_cast<int>(FigureUnit::Rpm)
+                                        ? static_cast<FigureUnit>(unit)
+                                        : FigureUnit::Bytes;
             result.append({module, query.value(1).toString(), figureUnit, {}});
         }
         const double scale = unitScale(result.back().unit);

@@ -15,7 +15,7 @@
 // One connection, to be used on the thread that opened it only (Qt SQL's rule).
 //
 // series(id, module, name, unit); minutes and hours (series, bucket, count, sum, min, max)
-// keyed by series and bucket, in stored units. A minute is written once, in one transaction
+// keyed by bucket and series, in stored units. A minute is written once, in one transaction
 // that also folds it into its hour and, once an hour, drops what is past keeping.
 class HistoryDatabase {
 public:

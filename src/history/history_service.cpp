@@ -48,5 +48,6 @@ void HistoryService::read(const QString& module, Resolution resolution, std::int
 
 void HistoryService::sync()
 {
-    QMetaObject::invokeMethod(worker_, [] {}, Qt::BlockingQueuedConnection);
+    QMetaObject::invokeMethod(
+        worker_, [] {}, Qt::BlockingQueuedConnection);
 }

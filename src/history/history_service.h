@@ -29,6 +29,6 @@ public:
 
 private:
     QThread thread_;
-    QObject* worker_; // lives on thread_, deleted there
+    QObject* worker_;                       // lives on thread_, deleted there
     std::unique_ptr<HistoryWriter> writer_; // touched on thread_ only
 };

@@ -74,10 +74,11 @@ QString historyTextTable(const QList<SeriesHistory>& history, Resolution resolut
                      QStringLiteral("Mean"), QStringLiteral("Min"), QStringLiteral("Max")}};
     for (const SeriesHistory& series : history) {
         for (const Aggregate& aggregate : series.buckets)
-            rows.append({series.series,
-                         bucketStart(aggregate, resolution).toTimeZone(zone).toString(QStringLiteral("yyyy-MM-dd HH:mm")),
-                         QString::number(aggregate.count), readableValue(aggregate.mean, series.unit),
-                         readableValue(aggregate.min, series.unit), readableValue(aggregate.max, series.unit)});
+            rows.append(
+                {series.series,
+                 bucketStart(aggregate, resolution).toTimeZone(zone).toString(QStringLiteral("yyyy-MM-dd HH:mm")),
+                 QString::number(aggregate.count), readableValue(aggregate.mean, series.unit),
+                 readableValue(aggregate.min, series.unit), readableValue(aggregate.max, series.unit)});
     }
     std::array<qsizetype, 6> widths{};
     for (const Row& row : rows) {

@@ -10,7 +10,9 @@ constexpr std::int64_t kMinute = 28'340'640;
 
 QList<SeriesHistory> sample()
 {
-    return {{"disk", "/dev/sda read", FigureUnit::BytesPerSecond,
+    return {{"disk",
+             "/dev/sda read",
+             FigureUnit::BytesPerSecond,
              {{kMinute, 60, 1536.4, 0, 1048576}, {kMinute + 1, 58, 12.0, 0, 512}}},
             {"disk", "odd, \"name\"", FigureUnit::Percent, {{kMinute, 1, 12.345, 12.34, 12.35}}}};
 }
