@@ -1,13 +1,18 @@
 // The shared status-item life cycle: creation, menu opening and closing, per-tick redraws.
 #include "modules/menu_module.h"
 
+#include "history/history_reader.h"
+#include "modules/history_figures.h"
+#include "modules/menu_history_graph.h"
 #include "modules/module_registry.h"
 
 #include <QActionEvent>
 #include <QCoreApplication>
 #include <QGuiApplication>
+#include <QLabel>
 #include <QMenu>
 #include <QScreen>
+#include <QWidgetAction>
 
 #include <algorithm>
 
@@ -62,6 +67,8 @@ void MenuModule::menuWillOpen()
 void MenuModule::menuDidClose()
 {
     menuOpened_ = false;
+    if (historyGraph_ != nullptr)
+        historyGraph_->menuClosed();
     if (statusMenu)
         statusMenu->setMinimumWidth(0);
     refreshBar();
@@ -134,4 +141,36 @@ void MenuModule::menuAutoClose()
     // A front end that shows the menu its own way may not report the close.
     if (menuOpened())
         menuDidClose();
+}
+
+void MenuModule::addHistoryChoice()
+{
+    HistoryReader* reader = myDelegate != nullptr ? myDelegate->historyReader() : nullptr;
+    const QString key = historyModuleKey(id_);
+    if (reader == nullptr || key.isEmpty() || !statusMenu)
+        return;
+    if (historyGraph_ == nullptr) {
+        historyGraph_ = new MenuHistoryGraph(*reader, key, this);
+        connect(historyGraph_, &MenuHistoryGraph::changed, this, [this] {
+            if (menuOpened_)
+                redrawStatusItem();
+        });
+    }
+    auto* action = new QWidgetAction(statusMenu);
+    action->setDefaultWidget(historyGraph_->makeChoice());
+    statusMenu->addAction(action);
+}
+
+bool MenuModule::showHistoryGraph(QLabel* graph)
+{
+    if (historyGraph_ == nullptr || graph == nullptr)
+        return false;
+    // A past range is read only for a menu someone is looking at.
+    if (!menuOpened_)
+        return historyGraph_->range() != HistoryRange::Live;
+    const QImage image = historyGraph_->image(graph->size(), pictureScale(), graph->palette().color(QPalette::WindowText));
+    if (image.isNull())
+        return false;
+    graph->setPixmap(QPixmap::fromImage(image));
+    return true;
 }

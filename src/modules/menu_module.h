@@ -18,7 +18,10 @@
 #include <functional>
 #include <memory>
 
+class HistoryReader;
 class LoadSystemInformation;
+class MenuHistoryGraph;
+class QLabel;
 class Notifier;
 class SettingsStore;
 
@@ -51,6 +54,9 @@ public:
     // Carries out the dynamic DNS list now, whatever the address; done gets a line saying how
     // it ended, on the main thread.
     virtual void forcedExecutionDdns(std::function<void(const QString& outcome)> done) { Q_UNUSED(done) }
+    // The long-term history the graphs can show instead of the live samples; none where it is
+    // not kept (snapshots, renders, tests).
+    virtual HistoryReader* historyReader() { return nullptr; }
 };
 
 class MenuModule : public QObject {
@@ -131,6 +137,11 @@ protected:
     void showImage(const QImage& image);
     // The user's settings with the menu graph's fixed layout (mnDefaults) laid over them.
     ModuleDefaults withMenuLayout() const;
+    // Adds the graph's range choice (the live samples or a past hour, day or week) to the
+    // menu, just above the graph; nothing where no long-term history is kept.
+    void addHistoryChoice();
+    // Draws the chosen past range into the graph; false while the live samples are chosen.
+    bool showHistoryGraph(QLabel* graph);
 
     MenuModuleDelegate* myDelegate;
     ModuleDefaults myDefaults;
@@ -148,6 +159,7 @@ private:
 
     ModuleId id_;
     bool menuOpened_ = false;
+    MenuHistoryGraph* historyGraph_ = nullptr; // a child, made with the first choice row
     bool settingsRead_ = false;
     qreal pictureScale_ = 0; // 0: the screen's
     QImage shownImage_;

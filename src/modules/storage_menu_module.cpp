@@ -26,6 +26,7 @@ void StorageMenuModule::addBaseItems(const char* amonKey, const char* cnslKey, c
         connect(utility, &QAction::triggered, this, [] { DiskUtility::launch(); });
     }
     statusMenu->addSeparator();
+    addHistoryChoice();
     auto* graphAction = new QWidgetAction(statusMenu);
     menuGraph_ = new QLabel();
     menuGraph_->setFixedSize(static_cast<int>(kMenuGraphWidth), static_cast<int>(kMenuGraphHeight));
@@ -45,7 +46,7 @@ void StorageMenuModule::redrawStatusItem()
 {
     if (!menuOpened())
         return;
-    if (menuGraph_ != nullptr)
+    if (menuGraph_ != nullptr && !showHistoryGraph(menuGraph_))
         menuGraph_->setPixmap(QPixmap::fromImage(openMenuGraph()));
     replacePanelData();
 }

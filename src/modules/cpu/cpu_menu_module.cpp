@@ -47,6 +47,7 @@ void CPU_MenuModule::drawBaseStatusBar()
                                            myDefaults.boolValue(CPU_EnaMenu_Cnsl),
                                            myDefaults.boolValue(CPU_EnaMenu_Tmnl), [this] { openTab(); });
     statusMenu->addSeparator();
+    addHistoryChoice();
     auto* graphAction = new QWidgetAction(statusMenu);
     menuGraph_ = new QLabel();
     menuGraph_->setFixedSize(static_cast<int>(mnDefaults.intValue(Cpu_GraphWidth)), static_cast<int>(kMenuGraphHeight));
@@ -104,7 +105,7 @@ QImage CPU_MenuModule::menuGraph(const CpuPictureSettings& settings)
 
 void CPU_MenuModule::redrawStatusItem()
 {
-    if (menuGraph_ != nullptr)
+    if (menuGraph_ != nullptr && !showHistoryGraph(menuGraph_))
         menuGraph_->setPixmap(QPixmap::fromImage(menuGraph(settings_.openMenu)));
     // The process scan behind the panel runs only while someone looks at it.
     if (cpuMenuController != nullptr && menuOpened())

@@ -80,6 +80,7 @@ void Memory_MenuModule::drawBaseStatusBar()
                                            myDefaults.boolValue(Memory_EnaMenu_Cnsl),
                                            myDefaults.boolValue(Memory_EnaMenu_Tmnl), [this] { openTab(); });
     statusMenu->addSeparator();
+    addHistoryChoice();
     auto* graphAction = new QWidgetAction(statusMenu);
     menuGraph_ = new QLabel();
     menuGraph_->setFixedSize(static_cast<int>(mnDefaults.intValue(Memory_GraphWidth)),
@@ -131,7 +132,7 @@ QImage Memory_MenuModule::menuGraph(const MemoryPictureSettings& settings)
 
 void Memory_MenuModule::redrawStatusItem()
 {
-    if (menuGraph_ != nullptr && menuOpened())
+    if (menuGraph_ != nullptr && menuOpened() && !showHistoryGraph(menuGraph_))
         menuGraph_->setPixmap(QPixmap::fromImage(menuGraph(settings_.openMenu)));
     // The swap and process scans behind the panel run only while someone looks at it.
     if (memoryMenuController != nullptr && menuOpened()) {

@@ -111,6 +111,7 @@ void Network_MenuModule::drawBaseStatusBar()
         connect(lookUp, &QAction::triggered, this, &Network_MenuModule::checkGlobalIp);
     }
     statusMenu->addSeparator();
+    addHistoryChoice();
     auto* graphAction = new QWidgetAction(statusMenu);
     menuGraph_ = new QLabel();
     menuGraph_->setFixedSize(static_cast<int>(mnDefaults.intValue(Network_GraphWidth)),
@@ -161,7 +162,7 @@ void Network_MenuModule::redrawStatusItem()
 {
     if (!menuOpened())
         return;
-    if (menuGraph_ != nullptr)
+    if (menuGraph_ != nullptr && !showHistoryGraph(menuGraph_))
         menuGraph_->setPixmap(QPixmap::fromImage(menuGraph(settings_.openMenu)));
     if (networkCurrent != nullptr)
         networkCurrent->replaceData(settings_.bar, resumeArray);
