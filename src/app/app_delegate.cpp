@@ -326,6 +326,8 @@ void AppDelegate::loadSysInfoTimer()
     CycleExecutor* executor = executor_.get();
     executor->runInBackground([this, executor, input = std::move(input)]() mutable {
         CycleOutput output = SamplingCycle::runBody(*loadInfo_, std::move(input));
+        if (cycleObserver_)
+            cycleObserver_(*loadInfo_, output);
         executor->postToMain([this, output = std::move(output)] {
             // Read, not moved from: the pool thread may be the one that destroys this task, and
             // copies leave its members untouched (the histories' counts are atomic).

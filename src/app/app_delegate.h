@@ -25,6 +25,7 @@
 
 class AppearanceWatcher;
 class CycleExecutor;
+class HistoryReader;
 struct CycleOutput;
 class VolumeTracker;
 
@@ -52,6 +53,16 @@ public:
     const std::optional<ExportExtras>& exportExtras() const { return exportExtras_; }
     // Device pixels per point of the modules' pictures; 0 follows the screen.
     void setPictureScale(qreal scale) { pictureScale_ = scale; }
+
+    // Called on the cycle's thread after each collection (the long-term history takes its
+    // figures there). Set before launching.
+    void setCycleObserver(std::function<void(LoadSystemInformation&, const CycleOutput&)> observer)
+    {
+        cycleObserver_ = std::move(observer);
+    }
+    // What the menus read the long-term history through; none keeps the graphs live only.
+    void setHistoryReader(HistoryReader* reader) { historyReader_ = reader; }
+    HistoryReader* historyReader() override { return historyReader_; }
 
     // Replaces the restart itself, for tests of the restart schedule.
     void setRebootAction(std::function<void()> action) { rebootAction_ = std::move(action); }
@@ -214,6 +225,8 @@ private:
     bool exportWanted_ = false;
     std::optional<ExportExtras> exportExtras_;
     std::function<void()> rebootAction_;
+    std::function<void(LoadSystemInformation&, const CycleOutput&)> cycleObserver_;
+    HistoryReader* historyReader_ = nullptr;
     PrefNotificationCenter* prefCenter_;
     // Last member: destroyed first, so a running cycle ends before the collector goes away.
     std::unique_ptr<CycleExecutor> executor_;

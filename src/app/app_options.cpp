@@ -2,9 +2,11 @@
 #include "app/app_options.h"
 
 #include "export/listen_address.h"
+#include "modules/history_figures.h"
 #include "modules/module_registry.h"
 
 #include <QCommandLineParser>
+#include <QHash>
 #include <QFileInfo>
 
 namespace {
@@ -37,6 +39,12 @@ QString usageText()
                           "  serve [--listen ADDR:PORT]      sample every second and serve the newest figures to\n"
                           "                                  Prometheus at http://ADDR:PORT/metrics (default\n"
                           "                                  127.0.0.1:9772)\n"
+                          "  history MODULE [--since SPAN] [--csv]\n"
+                          "                                  print the kept minute or hour aggregates (mean, min,\n"
+                          "                                  max) of MODULE (cpu, memory, network, disk, volume,\n"
+                          "                                  temp, fan) over the last SPAN (Nm, Nh or Nd; default\n"
+                          "                                  24h): per minute up to 3h, per hour beyond; the file\n"
+                          "                                  is TARVEL_HISTORY_DB when set\n"
                           "\n"
                           "Options:\n"
                           "  --root DIR       read /proc and /sys below DIR instead of / (also TARVEL_ROOT)\n"
@@ -83,6 +91,30 @@ QString moduleNames()
     return names.join(QStringLiteral(", "));
 }
 
+// The keys of the modules the history keeps, in registry order.
+QStringList historyModuleKeys()
+{
+    QStringList keys;
+    for (const ModuleSchema* schema : allModuleSchemas()) {
+        if (const QString key = historyModuleKey(schema->id); !key.isEmpty())
+            keys.append(key);
+    }
+    return keys;
+}
+
+// "90m", "24h", "7d": a whole number of minutes, hours or days, at most a year and a day.
+std::optional<qint64> spanSeconds(const QString& text)
+{
+    static const QHash<QChar, qint64> units{{u'm', 60}, {u'h', 3600}, {u'd', 86400}};
+    if (text.size() < 2 || !units.contains(text.back()))
+        return std::nullopt;
+    bool ok = false;
+    const qint64 count = QStringView(text).chopped(1).toLongLong(&ok);
+    if (!ok || count < 1 || count * units.value(text.back()) > 366 * 86400)
+        return std::nullopt;
+    return count * units.value(text.back());
+}
+
 } // namespace
 
 namespace {
@@ -99,6 +131,8 @@ struct OptionSet {
     QCommandLineOption panels{QStringLiteral("panels")};
     QCommandLineOption service{QStringLiteral("service"), QString(), QStringLiteral("URL")};
     QCommandLineOption listen{QStringLiteral("listen"), QString(), QStringLiteral("ADDR:PORT")};
+    QCommandLineOption since{QStringLiteral("since"), QString(), QStringLiteral("SPAN")};
+    QCommandLineOption csv{QStringLiteral("csv")};
     QCommandLineOption help{QStringList{QStringLiteral("h"), QStringLiteral("help")}};
     QCommandLineOption version{QStringList{QStringLiteral("v"), QStringLiteral("version")}};
 };
@@ -106,7 +140,23 @@ struct OptionSet {
 bool isCommand(const QString& word)
 {
     return word == QLatin1String("snapshot") || word == QLatin1String("render") ||
-           word == QLatin1String("global-address") || word == QLatin1String("serve");
+           word == QLatin1String("global-address") || word == QLatin1String("serve") ||
+           word == QLatin1String("history");
+}
+
+// history MODULE: one of the modules the history keeps.
+QString readHistoryPositional(const QStringList& positional, AppOptions& options)
+{
+    options.command = AppOptions::Command::History;
+    const QStringList known = historyModuleKeys();
+    if (positional.size() < 2)
+        return QStringLiteral("history needs a module (%1)").arg(known.join(QStringLiteral(", ")));
+    if (positional.size() > 2)
+        return QStringLiteral("unexpected argument '%1'").arg(positional.at(2));
+    options.historyModule = positional.at(1).toLower();
+    if (!known.contains(options.historyModule))
+        return QStringLiteral("no history kept for '%1' (%2)").arg(positional.at(1), known.join(QStringLiteral(", ")));
+    return {};
 }
 
 // The command and the tab of --preferences from the positional arguments; an error text or none.
@@ -125,6 +175,8 @@ QString readPositional(const QCommandLineParser& parser, const OptionSet& o, App
             }
         }
     }
+    if (!positional.isEmpty() && positional.front() == QLatin1String("history"))
+        return readHistoryPositional(positional, options);
     if (positional.size() > 1)
         return QStringLiteral("unexpected argument '%1'").arg(positional.at(1));
     if (positional.size() == 1) {
@@ -163,6 +215,15 @@ QString readCommandOptions(const QCommandLineParser& parser, const OptionSet& o,
         options.listen = parser.value(o.listen);
         if (!parseListenAddress(options.listen))
             return QStringLiteral("--listen takes ADDR:PORT, such as 127.0.0.1:9772");
+    }
+    if (options.command != AppOptions::Command::History && (parser.isSet(o.since) || parser.isSet(o.csv)))
+        return QStringLiteral("--since and --csv belong to the history command");
+    options.csv = parser.isSet(o.csv);
+    if (parser.isSet(o.since)) {
+        const std::optional<qint64> seconds = spanSeconds(parser.value(o.since));
+        if (!seconds)
+            return QStringLiteral("--since takes a span such as 90m, 24h or 7d");
+        options.historySeconds = *seconds;
     }
     options.services = parser.values(o.service);
     if (options.services.contains(QString()))
@@ -216,7 +277,7 @@ OptionsResult parseAppOptions(const QStringList& arguments, const QString& envir
     parser.setSingleDashWordOptionMode(QCommandLineParser::ParseAsLongOptions);
     const OptionSet o;
     parser.addOptions({o.root, o.settings, o.json, o.cycles, o.bar, o.prefs, o.out, o.scale, o.panels, o.service,
-                       o.listen, o.help, o.version});
+                       o.listen, o.since, o.csv, o.help, o.version});
     parser.addPositionalArgument(QStringLiteral("command"), QString());
 
     if (!parser.parse(arguments))

@@ -7,7 +7,7 @@
 #include <optional>
 
 struct AppOptions {
-    enum class Command { Run, Snapshot, Render, GlobalAddress, Serve };
+    enum class Command { Run, Snapshot, Render, GlobalAddress, Serve, History };
     Command command = Command::Run;
     QString root = QStringLiteral("/"); // --root, else TARVEL_ROOT, else "/"
     QString settingsFile;               // --settings; empty means the per-user file
@@ -20,6 +20,9 @@ struct AppOptions {
     bool panels = false;                // render: also the drop-downs and the preferences window
     QStringList services;               // global-address: echo services to ask, in this order
     QString listen;                     // serve: ADDR:PORT; empty for the default
+    QString historyModule;              // history: the module's key in lower case ("cpu")
+    qint64 historySeconds = 24 * 3600;  // history: --since, in seconds
+    bool csv = false;                   // history: CSV instead of a text table
 };
 
 struct OptionsResult {

@@ -18,3 +18,4 @@ int runSnapshot(const AppOptions& options, int argc, char** argv);
 int runRender(const AppOptions& options, int argc, char** argv);
 int runGlobalAddress(const AppOptions& options, int argc, char** argv);
 int runServe(const AppOptions& options, int argc, char** argv);
+int runHistory(const AppOptions& options, int argc, char** argv);

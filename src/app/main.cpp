@@ -36,6 +36,8 @@ int main(int argc, char** argv)
         return runGlobalAddress(*parsed.options, argc, argv);
     case AppOptions::Command::Serve:
         return runServe(*parsed.options, argc, argv);
+    case AppOptions::Command::History:
+        return runHistory(*parsed.options, argc, argv);
     case AppOptions::Command::Run:
         break;
     }

@@ -11,10 +11,14 @@
 #include "collect/source_set.h"
 #include "modules/general/top_tab_metrics_section.h"
 #include "modules/general/top_tab_view_controller.h"
+#include "app/history_feed.h"
+#include "history/history_location.h"
+#include "history/history_service.h"
 #include "prefs/plist_settings_store.h"
 #include "toolkit/localization.h"
 
 #include <QApplication>
+#include <QDateTime>
 
 int runMonitor(const AppOptions& options, int argc, char** argv)
 {
@@ -42,6 +46,9 @@ int runMonitor(const AppOptions& options, int argc, char** argv)
         break;
     }
 
+    // Made before the controller, so it outlives the cycle that feeds it; it writes the minute
+    // under way when it goes.
+    HistoryService history(historyDatabasePath(), [] { return QDateTime::currentMSecsSinceEpoch(); });
     AppDelegate delegate(openSettingsStore(options), makeSourceSet(options.root.toStdString()));
     delegate.setStatusBar(bar.get());
     delegate.setPreferencesAvailable(frontEnd != FrontEndKind::Terminal);
@@ -60,6 +67,10 @@ int runMonitor(const AppOptions& options, int argc, char** argv)
             top->metricsSection()->showStatus(status);
     };
     QObject::connect(&metrics, &MetricsExport::statusChanged, &delegate, showStatus);
+    delegate.setHistoryReader(&history);
+    delegate.setCycleObserver([&history](LoadSystemInformation& loadInfo, const CycleOutput& output) {
+        history.record(sampledFigures(loadInfo, output));
+    });
     delegate.applicationDidFinishLaunching();
     metrics.followSettings();
     showStatus(metrics.status());

@@ -75,5 +75,7 @@ void TestApp::launchOn(StatusBar* bar, bool threaded)
         executor = manual.get();
         app->setCycleExecutor(std::move(manual));
     }
+    if (beforeLaunch)
+        beforeLaunch(*app);
     app->applicationDidFinishLaunching(false);
 }

@@ -77,6 +77,8 @@ struct TestApp {
     std::function<void(SourceSet&)> adjustSources;
     QTemporaryDir dir;
     std::shared_ptr<std::deque<std::vector<ProcessorTicks>>> script;
+    // Runs on the controller between its creation and its launch.
+    std::function<void(AppDelegate&)> beforeLaunch;
     // Handed to the scripted source at launch.
     std::function<void()> beforeCpuRead;
     ManualExecutor* executor = nullptr;
