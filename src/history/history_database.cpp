@@ -40,11 +40,21 @@ QString seriesKey(const QString& module, const QString& series)
     return module + u'\n' + series;
 }
 
-std::optional<qint64> singleInteger(QSqlDatabase& db, const QString& sql)
+// SQLite's own word that the file is not a database or is corrupt, as opposed to one it cannot
+// reach now (a full disk, a folder it may not write, another writer's lock).
+bool isDamage(const QSqlError& error)
+{
+    const int code = error.nativeErrorCode().toInt() & 0xff;
+    return code == 11 || code == 26; // SQLITE_CORRUPT, SQLITE_NOTADB
+}
+
+std::optional<qint64> singleInteger(QSqlDatabase& db, const QString& sql, QSqlError& error)
 {
     QSqlQuery query(db);
-    if (!query.exec(sql) || !query.next())
+    if (!query.exec(sql) || !query.next()) {
+        error = query.lastError();
         return std::nullopt;
+    }
     return query.value(0).toLongLong();
 }
 
@@ -101,9 +111,16 @@ bool HistoryDatabase::isOpen() const
 bool HistoryDatabase::open()
 {
     setAside_.reset();
-    if (openOnce())
+    switch (openOnce()) {
+    case OpenResult::Ready:
         return true;
-    qCWarning(lcHistory) << "history database unusable:" << path_;
+    case OpenResult::Unavailable:
+        qCWarning(lcHistory) << "history database cannot be opened now:" << path_;
+        return false;
+    case OpenResult::Damaged:
+        break;
+    }
+    qCWarning(lcHistory) << "history database damaged or not ours:" << path_;
     return setAsideAndReopen();
 }
 
@@ -119,66 +136,82 @@ bool HistoryDatabase::setAsideAndReopen()
             GuardedFile::setAside(path_ + QLatin1String(suffix));
     }
     qCWarning(lcHistory) << "history database set aside as" << *setAside_;
-    return openOnce();
+    return openOnce() == OpenResult::Ready;
 }
 
-bool HistoryDatabase::openOnce()
+HistoryDatabase::OpenResult HistoryDatabase::openOnce()
 {
     close();
     db_ = QSqlDatabase::addDatabase(QStringLiteral("QSQLITE"), connectionName_);
     db_.setDatabaseName(path_);
-    if (!db_.open() || !prepareSchema()) {
+    if (!db_.open()) {
         close();
-        return false;
+        return OpenResult::Unavailable;
+    }
+    if (const OpenResult schema = prepareSchema(); schema != OpenResult::Ready) {
+        close();
+        return schema;
     }
     QSqlQuery pragma(db_);
     pragma.exec(QStringLiteral("PRAGMA journal_mode = WAL"));
     // The log is emptied at each checkpoint; without a limit its file keeps its largest size.
     pragma.exec(QStringLiteral("PRAGMA journal_size_limit = 1048576"));
     pragma.exec(durable_ ? QStringLiteral("PRAGMA synchronous = FULL") : QStringLiteral("PRAGMA synchronous = OFF"));
-    QSqlQuery series(db_);
-    if (!series.exec(QStringLiteral("SELECT id, module, name FROM series"))) {
+    statements_ = std::make_unique<Statements>(db_);
+    if (!loadSeriesIds() || !statements_->prepare()) {
+        const OpenResult result = isDamage(db_.lastError()) ? OpenResult::Damaged : OpenResult::Unavailable;
         close();
-        return false;
+        return result;
     }
+    return OpenResult::Ready;
+}
+
+bool HistoryDatabase::loadSeriesIds()
+{
+    seriesIds_.clear();
+    QSqlQuery series(db_);
+    if (!series.exec(QStringLiteral("SELECT id, module, name FROM series")))
+        return false;
     while (series.next())
         seriesIds_.insert(seriesKey(series.value(1).toString(), series.value(2).toString()),
                           series.value(0).toLongLong());
-    statements_ = std::make_unique<Statements>(db_);
-    if (!statements_->prepare()) {
-        close();
-        return false;
-    }
     return true;
 }
 
 // An empty file becomes ours; one of ours must be of this layout and pass SQLite's own check.
-bool HistoryDatabase::prepareSchema()
+HistoryDatabase::OpenResult HistoryDatabase::prepareSchema()
 {
-    const std::optional<qint64> id = singleInteger(db_, QStringLiteral("PRAGMA application_id"));
-    const std::optional<qint64> tables = singleInteger(db_, QStringLiteral("SELECT count(*) FROM sqlite_master"));
+    QSqlError error;
+    const std::optional<qint64> id = singleInteger(db_, QStringLiteral("PRAGMA application_id"), error);
+    const std::optional<qint64> tables =
+        id ? singleInteger(db_, QStringLiteral("SELECT count(*) FROM sqlite_master"), error) : std::nullopt;
     if (!id || !tables)
-        return false;
+        return isDamage(error) ? OpenResult::Damaged : OpenResult::Unavailable;
     if (*id == kApplicationId) {
+        const std::optional<qint64> version = singleInteger(db_, QStringLiteral("PRAGMA user_version"), error);
+        if (!version)
+            return isDamage(error) ? OpenResult::Damaged : OpenResult::Unavailable;
         QSqlQuery check(db_);
-        return singleInteger(db_, QStringLiteral("PRAGMA user_version")) == kSchemaVersion &&
-               check.exec(QStringLiteral("PRAGMA quick_check")) && check.next() &&
-               check.value(0).toString() == QLatin1String("ok");
+        if (*version != kSchemaVersion)
+            return OpenResult::Damaged;
+        if (!check.exec(QStringLiteral("PRAGMA quick_check")) || !check.next())
+            return isDamage(check.lastError()) ? OpenResult::Damaged : OpenResult::Unavailable;
+        return check.value(0).toString() == QLatin1String("ok") ? OpenResult::Ready : OpenResult::Damaged;
     }
     if (*id != 0 || *tables != 0)
-        return false;
+        return OpenResult::Damaged;
     QSqlQuery query(db_);
     if (!db_.transaction())
-        return false;
+        return OpenResult::Unavailable;
     for (const char* statement : kSchema) {
         if (!query.exec(QLatin1String(statement))) {
             db_.rollback();
-            return false;
+            return OpenResult::Unavailable;
         }
     }
     query.exec(QStringLiteral("PRAGMA application_id = %1").arg(kApplicationId));
     query.exec(QStringLiteral("PRAGMA user_version = %1").arg(kSchemaVersion));
-    return db_.commit();
+    return db_.commit() ? OpenResult::Ready : OpenResult::Unavailable;
 }
 
 bool HistoryDatabase::writeMinute(const MinuteBatch& batch)
@@ -187,10 +220,10 @@ bool HistoryDatabase::writeMinute(const MinuteBatch& batch)
         return false;
     if (writeInTransaction(batch))
         return true;
-    // A failed write on a file that still passes its check is this minute lost, nothing more.
+    // A failed write on a file that still passes its check (a full disk) is this minute lost,
+    // nothing more; one that fails it is set aside and the minute goes to a new file.
     qCWarning(lcHistory) << "history write failed:" << db_.lastError().text();
-    close();
-    if (openOnce())
+    if (openOnce() != OpenResult::Damaged)
         return false;
     return setAsideAndReopen() && writeInTransaction(batch);
 }
@@ -223,13 +256,7 @@ bool HistoryDatabase::writeInTransaction(const MinuteBatch& batch)
     }
     db_.rollback();
     // Series made in the failed transaction are gone with it.
-    seriesIds_.clear();
-    QSqlQuery series(db_);
-    if (series.exec(QStringLiteral("SELECT id, module, name FROM series"))) {
-        while (series.next())
-            seriesIds_.insert(seriesKey(series.value(1).toString(), series.value(2).toString()),
-                              series.value(0).toLongLong());
-    }
+    loadSeriesIds();
     return false;
 }
 

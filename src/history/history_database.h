@@ -45,8 +45,14 @@ public:
 
 private:
     struct Statements;
-    bool openOnce();
-    bool prepareSchema();
+    enum class OpenResult {
+        Ready,
+        Damaged,     // not a database, corrupt, or not one of ours: to be set aside
+        Unavailable, // cannot be reached now (a full disk, no write access): left as it is
+    };
+    OpenResult openOnce();
+    OpenResult prepareSchema();
+    bool loadSeriesIds();
     void close();
     bool setAsideAndReopen();
     bool writeInTransaction(const MinuteBatch& batch);

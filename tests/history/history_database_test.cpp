@@ -153,6 +153,13 @@ TEST_F(HistoryFile, ADamagedOrForeignFileIsSetAsideAndANewOneStarted)
     HistoryWriter again(path(), clock());
     EXPECT_FALSE(again.database().setAsidePath().has_value());
     EXPECT_EQ(all(again, Resolution::Minute).size(), 1);
+    // A file that cannot be reached is neither ours to set aside nor a reason to stop.
+    HistoryWriter unreachable(dir.filePath(QStringLiteral("missing/history.sqlite")), clock());
+    EXPECT_FALSE(unreachable.database().isOpen());
+    unreachable.record({cpu(5)});
+    unreachable.finish();
+    EXPECT_FALSE(unreachable.database().setAsidePath().has_value());
+    EXPECT_EQ(unreachable.writes(), 0);
 }
 
 TEST_F(HistoryFile, AWriterKilledInTheMiddleOfAMinuteLosesThatMinuteOnly)
