@@ -92,12 +92,17 @@ void drawLegend(QPainter& painter, const QList<SeriesHistory>& series, const QRe
 
 QString historySeriesLabel(const QString& name)
 {
-    static const std::pair<const char*, const char*> ours[] = {
-        {"busy", "Busy"},           {"used", "Used"}, {"app", "App"},   {"cached", "Cached"},
-        {"swap used", "Swap used"}, {"up", "Up"},     {"down", "Down"}, {"average", "Average"}};
+    static const std::pair<const char*, const char*> ours[] = {{"busy", Tarvel::textKey("Busy")},
+                                                               {"used", Tarvel::textKey("Used")},
+                                                               {"app", Tarvel::textKey("App")},
+                                                               {"cached", Tarvel::textKey("Cached")},
+                                                               {"swap used", Tarvel::textKey("Swap used")},
+                                                               {"up", Tarvel::textKey("Up")},
+                                                               {"down", Tarvel::textKey("Down")},
+                                                               {"average", Tarvel::textKey("Average")}};
     for (const auto& [stored, shown] : ours) {
         if (name == QLatin1String(stored))
-            return localized(shown);
+            return Tarvel::localized(shown);
     }
     return name;
 }

@@ -35,13 +35,13 @@ HistoryRangeChoice::HistoryRangeChoice(HistoryRange chosen, QWidget* parent)
     layout->setContentsMargins(8, 2, 8, 2);
     layout->setSpacing(2);
     auto* group = new QButtonGroup(this);
-    const std::pair<HistoryRange, const char*> ranges[] = {{HistoryRange::Live, "Live"},
-                                                           {HistoryRange::Hour, "1 h"},
-                                                           {HistoryRange::Day, "24 h"},
-                                                           {HistoryRange::Week, "7 days"}};
+    const std::pair<HistoryRange, const char*> ranges[] = {{HistoryRange::Live, Tarvel::textKey("Live")},
+                                                           {HistoryRange::Hour, Tarvel::textKey("1 h")},
+                                                           {HistoryRange::Day, Tarvel::textKey("24 h")},
+                                                           {HistoryRange::Week, Tarvel::textKey("7 days")}};
     for (const auto& [range, text] : ranges) {
         auto* button = new QToolButton(this);
-        button->setText(localized(text));
+        button->setText(Tarvel::localized(text));
         button->setCheckable(true);
         button->setChecked(range == chosen);
         button->setAutoRaise(true);

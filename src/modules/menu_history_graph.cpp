@@ -61,7 +61,7 @@ QImage MenuHistoryGraph::image(QSize size, qreal scale, const QColor& text)
                             size,
                             scale,
                             text,
-                            readAge_.isValid() ? localized("No history for this range yet") : QString()};
+                            readAge_.isValid() ? Tarvel::localized("No history for this range yet") : QString()};
     return drawHistoryChart(series_, frame);
 }
 
