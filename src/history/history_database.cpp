@@ -26,6 +26,23 @@ const char* const kSchema[] = {
     "sum INTEGER NOT NULL, min INTEGER NOT NULL, max INTEGER NOT NULL, PRIMARY KEY (bucket, series)) WITHOUT ROWID",
 };
 
+// The complete hours whose minutes are not rolled up yet, each written once, in key order: rows
+// that are never rewritten keep their pages full. Hours are rolled up in order, so the newest
+// hour row marks how far the roll-up got, after a stop of any length too.
+const char* const kRollUp = "INSERT OR IGNORE INTO hours (bucket, series, count, sum, min, max) "
+                            "SELECT bucket / 60, series, sum(count), sum(sum), min(min), max(max) FROM minutes "
+                            "WHERE bucket >= (SELECT coalesce(max(bucket) + 1, 0) FROM hours) * 60 AND bucket < ? * 60 "
+                            "GROUP BY bucket / 60, series ORDER BY bucket / 60, series";
+
+// Hours as kept, and the hour under way summed from its minutes so far.
+const char* const kReadHours =
+    "WITH t AS (SELECT series, bucket, count, sum, min, max FROM hours WHERE bucket BETWEEN ? AND ? "
+    "UNION ALL SELECT series, bucket / 60, sum(count), sum(sum), min(min), max(max) FROM minutes "
+    "WHERE bucket >= (SELECT coalesce(max(bucket) + 1, 0) FROM hours) * 60 AND bucket BETWEEN ? * 60 AND ? * 60 + 59 "
+    "GROUP BY bucket / 60, series) "
+    "SELECT s.id, s.name, s.unit, t.bucket, t.count, t.sum, t.min, t.max FROM t JOIN series s ON s.id = t.series "
+    "WHERE s.module = ? ORDER BY s.id, t.bucket";
+
 // A minute written twice (the program quit and came back within it) adds up rather than replaces.
 QString upsert(const char* table)
 {
@@ -64,18 +81,18 @@ struct HistoryDatabase::Statements {
     explicit Statements(const QSqlDatabase& db)
         : insertSeries(db)
         , minute(db)
-        , hour(db)
+        , rollUp(db)
         , pruneMinutes(db)
         , pruneHours(db)
     {}
     bool prepare()
     {
         return insertSeries.prepare(QStringLiteral("INSERT INTO series (module, name, unit) VALUES (?, ?, ?)")) &&
-               minute.prepare(upsert("minutes")) && hour.prepare(upsert("hours")) &&
+               minute.prepare(upsert("minutes")) && rollUp.prepare(QLatin1String(kRollUp)) &&
                pruneMinutes.prepare(QStringLiteral("DELETE FROM minutes WHERE bucket < ?")) &&
                pruneHours.prepare(QStringLiteral("DELETE FROM hours WHERE bucket < ?"));
     }
-    QSqlQuery insertSeries, minute, hour, pruneMinutes, pruneHours;
+    QSqlQuery insertSeries, minute, rollUp, pruneMinutes, pruneHours;
 };
 
 HistoryDatabase::HistoryDatabase(QString path, bool durable)
@@ -237,19 +254,21 @@ bool HistoryDatabase::writeInTransaction(const MinuteBatch& batch)
     for (const MinuteEntry& entry : batch.entries) {
         const std::optional<std::int64_t> id = seriesId(entry);
         ok = id.has_value();
-        for (auto [query, bucket] :
-             {std::pair{&statements_->minute, batch.minute}, std::pair{&statements_->hour, hour}}) {
-            if (!ok)
-                break;
-            for (const qint64 value : {*id, bucket, entry.count, entry.sum, entry.min, entry.max})
-                query->addBindValue(value);
-            ok = query->exec();
-        }
+        if (!ok)
+            break;
+        QSqlQuery& query = statements_->minute;
+        for (const qint64 value : {*id, batch.minute, entry.count, entry.sum, entry.min, entry.max})
+            query.addBindValue(value);
+        ok = query.exec();
         if (!ok)
             break;
     }
-    if (ok && prunedHour_ != hour)
-        ok = prune(batch.minute);
+    // Once an hour: the hours before this one are complete, and rolled up before their minutes
+    // can be pruned.
+    if (ok && prunedHour_ != hour) {
+        statements_->rollUp.addBindValue(qint64{hour});
+        ok = statements_->rollUp.exec() && prune(batch.minute);
+    }
     if (ok && db_.commit()) {
         prunedHour_ = hour;
         return true;
@@ -301,13 +320,19 @@ QList<SeriesHistory> HistoryDatabase::read(const QString& module, Resolution res
         return result;
     QSqlQuery query(db_);
     query.setForwardOnly(true);
-    query.prepare(QStringLiteral("SELECT s.id, s.name, s.unit, t.bucket, t.count, t.sum, t.min, t.max "
-                                 "FROM series s JOIN %1 t ON t.series = s.id "
-                                 "WHERE s.module = ? AND t.bucket BETWEEN ? AND ? ORDER BY s.id, t.bucket")
-                      .arg(resolution == Resolution::Minute ? QLatin1String("minutes") : QLatin1String("hours")));
+    if (resolution == Resolution::Minute) {
+        query.prepare(QStringLiteral("SELECT s.id, s.name, s.unit, t.bucket, t.count, t.sum, t.min, t.max "
+                                     "FROM minutes t JOIN series s ON s.id = t.series "
+                                     "WHERE t.bucket BETWEEN ? AND ? AND s.module = ? ORDER BY s.id, t.bucket"));
+    } else {
+        query.prepare(QLatin1String(kReadHours));
+    }
+    // The hours' text asks for the span twice: as hours, then as their minutes.
+    for (int span = 0; span < (resolution == Resolution::Minute ? 1 : 2); ++span) {
+        query.addBindValue(qint64{firstBucket});
+        query.addBindValue(qint64{lastBucket});
+    }
     query.addBindValue(module);
-    query.addBindValue(qint64{firstBucket});
-    query.addBindValue(qint64{lastBucket});
     if (!query.exec())
         return result;
     std::int64_t currentId = -1;

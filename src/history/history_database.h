@@ -16,7 +16,7 @@
 //
 // series(id, module, name, unit); minutes and hours (series, bucket, count, sum, min, max)
 // keyed by bucket and series, in stored units. A minute is written once, in one transaction
-// that also folds it into its hour and, once an hour, drops what is past keeping.
+// that, once an hour, also rolls the complete hours up from their minutes and drops what is past keeping.
 class HistoryDatabase {
 public:
     // durable: every minute's transaction reaches the disk before the write returns. Benches

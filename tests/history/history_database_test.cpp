@@ -79,13 +79,19 @@ TEST_F(HistoryFile, MinutesRollUpIntoTheirHourWeightedByTheirSamples)
     now = kStart + kHour + 5'000;
     writer.record({cpu(99)});
     EXPECT_EQ(writer.writes(), 60);
-    EXPECT_EQ(all(writer, Resolution::Hour).front(), (Aggregate{kStart / kHour, 62, (59 * 10 + 150) / 62.0, 10, 60}));
-    // A minute written twice (a quit and a start within it) adds up in both tables.
+    // The hour under way is read from its minutes until a minute of the next one is written.
+    const Aggregate firstHour{kStart / kHour, 62, (59 * 10 + 150) / 62.0, 10, 60};
+    EXPECT_EQ(all(writer, Resolution::Hour), QList<Aggregate>{firstHour});
+    // A minute written twice (a quit and a start within it) adds up.
     writer.finish();
     writer.record({cpu(1)});
     writer.finish();
     EXPECT_EQ(all(writer, Resolution::Minute).back(), (Aggregate{(kStart + kHour) / kMinute, 2, 50, 1, 99}));
-    EXPECT_EQ(all(writer, Resolution::Hour).back(), (Aggregate{(kStart + kHour) / kHour, 2, 50, 1, 99}));
+    EXPECT_EQ(all(writer, Resolution::Hour), (QList<Aggregate>{firstHour, {(kStart + kHour) / kHour, 2, 50, 1, 99}}));
+    now = kStart + 3 * kHour;
+    writer.record({cpu(7)});
+    writer.finish();
+    EXPECT_EQ(all(writer, Resolution::Hour).size(), 3);
 }
 
 TEST_F(HistoryFile, MinutesGoAfterAWeekAndHoursAfterAYear)
@@ -103,11 +109,11 @@ TEST_F(HistoryFile, MinutesGoAfterAWeekAndHoursAfterAYear)
     recordAt(7 * kDay + 90 * kMinute, {cpu(40)});
     EXPECT_EQ(all(writer, Resolution::Minute).size(), 2) << "the first minute is more than a week old";
     EXPECT_EQ(all(writer, Resolution::Minute).front().mean, 20);
-    EXPECT_EQ(all(writer, Resolution::Hour).size(), 3);
+    EXPECT_EQ(all(writer, Resolution::Hour).size(), 3) << "two kept, one summed from its minutes";
     recordAt(365 * kDay + 90 * kMinute, {cpu(50)});
     recordAt(365 * kDay + 150 * kMinute, {});
     const QList<Aggregate> hours = all(writer, Resolution::Hour);
-    ASSERT_EQ(hours.size(), 4);
+    ASSERT_EQ(hours.size(), 4) << "three kept, one summed from its minutes";
     EXPECT_EQ(hours.front().mean, 20) << "the first hour is more than a year old";
     EXPECT_EQ(hours.back().mean, 50);
     // What the menus ask for: the last hour only, per minute.
@@ -184,7 +190,11 @@ TEST_F(HistoryFile, AWriterKilledInTheMiddleOfAMinuteLosesThatMinuteOnly)
     ASSERT_EQ(minutes.size(), 2);
     EXPECT_EQ(minutes[0], (Aggregate{kStart / kMinute, 60, 29.5, 0, 59}));
     EXPECT_EQ(minutes[1], (Aggregate{kStart / kMinute + 1, 60, 89.5, 60, 119}));
-    EXPECT_EQ(all(writer, Resolution::Hour).front().count, 120);
+    // The killed writer's hour is rolled up from its minutes once the next hour is written.
+    now = kStart + kHour;
+    writer.record({cpu(0)});
+    writer.finish();
+    EXPECT_EQ(all(writer, Resolution::Hour).front(), (Aggregate{kStart / kHour, 120, 59.5, 0, 119}));
 }
 
 } // namespace
