@@ -1258,5 +1258,45 @@ new ver : %@</source>
         <source>Metrics</source>
         <translation>メトリクス</translation>
     </message>
+    <message>
+        <source>Live</source>
+        <translation>ライブ</translation>
+    </message>
+    <message>
+        <source>1 h</source>
+        <translation>1時間</translation>
+    </message>
+    <message>
+        <source>24 h</source>
+        <translation>24時間</translation>
+    </message>
+    <message>
+        <source>7 days</source>
+        <translation>7日間</translation>
+    </message>
+    <message>
+        <source>No history for this range yet</source>
+        <translation>この期間の履歴はまだありません</translation>
+    </message>
+    <message>
+        <source>Busy</source>
+        <translation>使用中</translation>
+    </message>
+    <message>
+        <source>App</source>
+        <translation>アプリ</translation>
+    </message>
+    <message>
+        <source>Cached</source>
+        <translation>キャッシュ</translation>
+    </message>
+    <message>
+        <source>Swap used</source>
+        <translation>スワップ使用済み</translation>
+    </message>
+    <message>
+        <source>Down</source>
+        <translation>下り</translation>
+    </message>
 </context>
 </TS>
