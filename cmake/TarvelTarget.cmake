@@ -9,8 +9,15 @@ function(tarvel_target_defaults target)
 endfunction()
 
 if(TARVEL_ASAN)
-  add_compile_options(-fsanitize=address,undefined -fno-omit-frame-pointer)
-  add_link_options(-fsanitize=address,undefined)
+  # Undefined behaviour stops the test that met it instead of scrolling past in its output.
+  add_compile_options(-fsanitize=address,undefined -fno-sanitize-recover=undefined -fno-omit-frame-pointer)
+  add_link_options(-fsanitize=address,undefined -fno-sanitize-recover=undefined)
+endif()
+if(TARVEL_FUZZ)
+  # Every library gets the fuzzer's coverage counters; only the harnesses link its main.
+  add_compile_options(-fsanitize=fuzzer-no-link,address,undefined -fno-sanitize-recover=undefined
+                      -fno-omit-frame-pointer)
+  add_link_options(-fsanitize=address,undefined -fno-sanitize-recover=undefined)
 endif()
 if(TARVEL_TSAN)
   add_compile_options(-fsanitize=thread -fno-omit-frame-pointer)
@@ -48,6 +55,10 @@ function(tarvel_test name)
   if(TARVEL_TSAN)
     list(APPEND properties ENVIRONMENT_MODIFICATION
          "TSAN_OPTIONS=set:suppressions=${PROJECT_SOURCE_DIR}/tools/tsan.supp")
+  endif()
+  if(TARVEL_ASAN)
+    list(APPEND properties ENVIRONMENT_MODIFICATION
+         "LSAN_OPTIONS=set:suppressions=${PROJECT_SOURCE_DIR}/tools/lsan.supp")
   endif()
   if(ARG_LOCK)
     list(APPEND properties RESOURCE_LOCK ${ARG_LOCK})

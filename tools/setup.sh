@@ -13,6 +13,8 @@ PACKAGES=(
   # The metrics export's tests: promtool, a real Prometheus and the OpenMetrics parser. The
   # package's own service (on :9090) may start or not; the tests run theirs on a free port.
   prometheus python3-prometheus-client
+  # tools/fuzz.sh: clang and its libFuzzer runtime.
+  clang-14 libclang-rt-14-dev
 )
 
 install_missing() {

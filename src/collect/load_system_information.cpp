@@ -1,6 +1,8 @@
 // The CPU collectors: tick differences per processor and the figures of the CPU menu.
 #include "collect/load_system_information.h"
 
+#include "toolkit/counter_arithmetic.h"
+
 #include <algorithm>
 #include <array>
 #include <chrono>
@@ -12,11 +14,7 @@ namespace {
 // counts as no ticks at all rather than a negative or wrapped-around figure.
 std::int64_t tickDifference(std::uint64_t current, std::uint64_t previous)
 {
-    if (current <= previous)
-        return 0;
-    const std::uint64_t difference = current - previous;
-    constexpr auto highest = static_cast<std::uint64_t>(std::numeric_limits<std::int64_t>::max());
-    return static_cast<std::int64_t>(std::min(difference, highest));
+    return Counter::saturated(Counter::growth(current, previous));
 }
 } // namespace
 
@@ -74,7 +72,7 @@ CpuOptionFigures LoadSystemInformation::cpuOptionFigures() const
     if (const auto boot = cpu ? cpu->bootTime() : std::nullopt; boot && *boot != 0) {
         const auto now =
             std::chrono::duration_cast<std::chrono::seconds>(std::chrono::system_clock::now().time_since_epoch());
-        figures.secondsSinceBoot = static_cast<double>(now.count() - *boot);
+        figures.secondsSinceBoot = static_cast<double>(Counter::saturatedDifference(now.count(), *boot));
     }
     figures.awakeSeconds = cpu ? cpu->awakeSeconds() : std::nullopt;
     figures.counts = sources_.processes ? sources_.processes->counts() : std::nullopt;

@@ -56,7 +56,8 @@ std::optional<NetworkSample> LoadSystemInformation::loadNetworkData(double inter
     for (const auto& [name, entry] : base) {
         if (!entry.nic || entry.nic->linkstatus != QLatin1String("Active"))
             continue;
-        const auto row = std::find_if(rows->begin(), rows->end(), [&](const auto& r) { return r.name == name; });
+        const auto row =
+            std::find_if(rows->begin(), rows->end(), [&wanted = name](const auto& r) { return r.name == wanted; });
         if (row != rows->end()) {
             sample.packets.push_back(packetsOf(*row));
             continue;

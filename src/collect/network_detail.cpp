@@ -1,6 +1,8 @@
 // Maximum, average, current and last traffic from the network history.
 #include "collect/network_detail.h"
 
+#include "toolkit/counter_arithmetic.h"
+
 #include <algorithm>
 #include <cmath>
 #include <limits>
@@ -69,8 +71,8 @@ std::optional<NetworkDetail> getNetworkDetail(const History<NetworkSample>& hist
     detail.avgDw = perSecond(difference(newest.*down, oldest.*down));
     detail.nowUp = difference(newest.*up, previous.*up);
     detail.nowDw = difference(newest.*down, previous.*down);
-    detail.lstUp = newest.*up;
-    detail.lstDw = newest.*down;
+    detail.lstUp = Counter::saturated(Counter::asCounter(newest.*up));
+    detail.lstDw = Counter::saturated(Counter::asCounter(newest.*down));
     return detail;
 }
 

@@ -10,6 +10,7 @@
 #include "prefs/pref_keys.h"
 #include "prefs/settings_store.h"
 #include "prefs/theme_appearance.h"
+#include "toolkit/counter_arithmetic.h"
 #include "toolkit/localization.h"
 
 #include <QCheckBox>
@@ -73,7 +74,7 @@ QList<qint64> PictureSettingsTab::shownOrder(const QList<qint64>& stored, const 
 
 int PictureSettingsTab::sliderPosition(SliderKind kind, qint64 stored, int minimum, int maximum)
 {
-    const qint64 position = kind == SliderKind::GraphWidth ? (stored + 5) / 10 : stored;
+    const qint64 position = kind == SliderKind::GraphWidth ? Counter::saturatedSum(stored, 5) / 10 : stored;
     return static_cast<int>(std::clamp<qint64>(position, minimum, maximum));
 }
 
@@ -249,7 +250,7 @@ void PictureSettingsTab::loadControls()
     for (const auto& [key, box] : numbers_)
         box->setValue(static_cast<int>(d.intValue(QLatin1String(key))));
     for (const PopupControl& control : popups_) {
-        const qint64 index = d.intValue(QLatin1String(control.key)) - control.firstValue;
+        const qint64 index = Counter::saturatedDifference(d.intValue(QLatin1String(control.key)), control.firstValue);
         control.popup->setCurrentIndex(index >= 0 && index < control.popup->count() ? static_cast<int>(index) : 0);
     }
 }

@@ -96,10 +96,10 @@ QVariant toVariant(plist_t node, int depth)
         return value;
     }
     case PLIST_STRING: {
-        char* raw = nullptr;
-        plist_get_string_val(node, &raw);
-        const std::unique_ptr<char, CFree> text(raw);
-        return text ? QString::fromUtf8(text.get()) : QString();
+        // By pointer and length: libplist's copying getter aborts on a string holding a NUL.
+        uint64_t length = 0;
+        const char* text = plist_get_string_ptr(node, &length);
+        return text ? QString::fromUtf8(text, static_cast<qsizetype>(length)) : QString();
     }
     case PLIST_DATA: {
         uint64_t length = 0;

@@ -173,8 +173,9 @@ void addLabelPictures(QVariantMap& theme, const PictureInks& inks)
         {"L01", drawCpu},    {"L02", drawMemory}, {"L03", drawNetwork}, {"L04", drawDisk},
         {"L05", drawVolume}, {"L06", drawTemp},   {"L07", drawFan},     {"L08", drawVnc},
     };
+    // By value: clang 14 cannot capture a structured binding.
     for (const auto& [key, glyph] : labels)
-        theme.insert(QLatin1String(key), drawPicture(kLabelSize, [&](QPainter& p) { glyph(p, ink); }));
+        theme.insert(QLatin1String(key), drawPicture(kLabelSize, [&, draw = glyph](QPainter& p) { draw(p, ink); }));
     theme.insert(QStringLiteral("N01"), drawPicture(kItemSize, [&](QPainter& p) { drawGeneral(p, inks); }));
     theme.insert(QStringLiteral("N03"), drawPicture(kItemSize, [&](QPainter& p) { drawVncItem(p, ink); }));
 }

@@ -184,5 +184,5 @@ void addMenuPictures(QVariantMap& theme, const PictureInks& inks)
         {"O41", drawHost},          {"O42", drawAllHosts},
     };
     for (const auto& [key, picture] : pictures)
-        theme.insert(QLatin1String(key), drawPicture(kMenuSize, [&](QPainter& p) { picture(p, inks); }));
+        theme.insert(QLatin1String(key), drawPicture(kMenuSize, [&, draw = picture](QPainter& p) { draw(p, inks); }));
 }

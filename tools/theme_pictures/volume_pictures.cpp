@@ -133,9 +133,9 @@ void addVolumePictures(QVariantMap& theme, const PictureInks& inks)
         {"M04", drawNetworkVolume}, {"M05", drawOptical},  {"M06", drawDiskImage},
     };
     for (const auto& [key, picture] : kinds)
-        theme.insert(QLatin1String(key), drawPicture(kKindSize, [&](QPainter& p) {
+        theme.insert(QLatin1String(key), drawPicture(kKindSize, [&, draw = picture](QPainter& p) {
                          p.scale(kKindSize.width() / kKindGrid, kKindSize.height() / kKindGrid);
-                         picture(p, inks);
+                         draw(p, inks);
                      }));
     theme.insert(QStringLiteral("M11"), drawPicture(kMenuSize, [&](QPainter& p) { drawEject(p, inks); }));
     theme.insert(QStringLiteral("M12"), drawPicture(kMenuSize, [&](QPainter& p) { drawOpenFolder(p, inks); }));

@@ -108,7 +108,8 @@ std::optional<std::vector<GpuRecord>> LoadSystemInformation::getGpuNames(const s
     pci_access* access = pci_alloc();
     if (access == nullptr)
         return std::nullopt;
-    access->error = pciFailed;
+    // libpci declares the handler as never returning; clang will not take one that may.
+    access->error = reinterpret_cast<decltype(access->error)>(&pciFailed);
     access->warning = pciQuiet;
     access->debug = pciQuiet;
     std::vector<GpuRecord> result = scanDisplayDevices(access, bus / "devices");

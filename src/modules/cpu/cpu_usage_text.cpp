@@ -5,7 +5,9 @@
 
 QString cpuUsageText(const CpuRecord& r)
 {
-    const double sum = static_cast<double>(r[CpuUser] + r[CpuSystem] + r[CpuNice] + r[CpuIdle]);
+    // Summed as doubles: four tick counts from a hostile tree can overflow any integer sum.
+    const double sum = static_cast<double>(r[CpuUser]) + static_cast<double>(r[CpuSystem]) +
+                       static_cast<double>(r[CpuNice]) + static_cast<double>(r[CpuIdle]);
     const double user = sum > 0 ? static_cast<double>(r[CpuUser]) / sum : 0.0;
     const double system = sum > 0 ? static_cast<double>(r[CpuSystem]) / sum : 0.0;
     return QStringLiteral("user ") + TvlClasses::calcPercent(user) + QStringLiteral("  system ")

@@ -6,6 +6,7 @@
 #include "modules/module_descriptor.h"
 #include "prefs/pref_keys.h"
 #include "prefs/pref_measure.h"
+#include "toolkit/counter_arithmetic.h"
 #include "toolkit/label_lists.h"
 #include "toolkit/localization.h"
 
@@ -105,7 +106,8 @@ void addDiskSnapshotJson(const SnapshotContext& context, QJsonObject& root)
         return;
     QJsonObject object{{"int", history.back().interval}};
     for (const auto& [key, counters] : history.back().devices)
-        object.insert(key, QJsonArray{static_cast<qint64>(counters[0]), static_cast<qint64>(counters[1])});
+        object.insert(key,
+                      QJsonArray{qint64{Counter::saturated(counters[0])}, qint64{Counter::saturated(counters[1])}});
     root.insert(QLatin1String(context.key), object);
 }
 

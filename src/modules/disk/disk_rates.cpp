@@ -1,11 +1,13 @@
 // Rates between neighbouring Disk samples.
 #include "modules/disk/disk_rates.h"
 
+#include "toolkit/counter_arithmetic.h"
+
 namespace {
 
 double perSecond(std::uint64_t before, std::uint64_t now, double seconds)
 {
-    return now > before ? static_cast<double>(now - before) / seconds : 0.0;
+    return static_cast<double>(Counter::growth(now, before)) / seconds;
 }
 
 } // namespace

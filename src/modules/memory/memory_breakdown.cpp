@@ -2,6 +2,7 @@
 #include "modules/memory/memory_breakdown.h"
 
 #include "modules/memory/memory_theme_keys.h"
+#include "toolkit/counter_arithmetic.h"
 #include "toolkit/localization.h"
 #include "toolkit/value_format.h"
 
@@ -20,8 +21,8 @@ std::int64_t MemoryBreakdown::inUse() const
 {
     std::int64_t spare = shares[5].pages;
     if (!traditional)
-        spare += shares[4].pages; // cached files
-    return total - spare;
+        spare = Counter::saturatedSum(spare, shares[4].pages); // cached files
+    return Counter::saturatedDifference(total, spare);
 }
 
 double MemoryBreakdown::fraction(std::size_t share) const
@@ -58,11 +59,11 @@ MemoryBreakdown memoryBreakdown(const MemorySample& sample, std::int64_t totalPa
     }
     std::int64_t counted = 0;
     for (const MemoryShare& share : out.shares)
-        counted += share.pages;
+        counted = Counter::saturatedSum(counted, share.pages);
     const auto other = std::find_if(out.shares.begin(), out.shares.end(),
                                     [](const MemoryShare& s) { return s.part == MemoryPart::Other; });
-    other->pages = std::max<std::int64_t>(totalPages - counted, 0);
-    out.total = counted + other->pages;
+    other->pages = std::max<std::int64_t>(Counter::saturatedDifference(totalPages, counted), 0);
+    out.total = Counter::saturatedSum(counted, other->pages);
     return out;
 }
 
@@ -121,7 +122,7 @@ const char* memoryPartName(MemoryPart part)
 
 QString memoryBarText(const MemoryBreakdown& breakdown, std::size_t pageSize, int unit)
 {
-    const auto bytes = [pageSize](std::int64_t pages) { return pages * static_cast<std::int64_t>(pageSize); };
+    const auto bytes = [pageSize](std::int64_t pages) { return Counter::saturatedProduct(pages, static_cast<std::int64_t>(pageSize)); };
     return QStringLiteral("used ") + TvlClasses::calcMemorySize(bytes(breakdown.inUse()), unit) +
            QStringLiteral("  free ") + TvlClasses::calcMemorySize(bytes(breakdown.shares.back().pages), unit);
 }

@@ -6,6 +6,7 @@
 #include "modules/network/network_tab_view_controller.h"
 #include "prefs/pref_keys.h"
 #include "prefs/pref_measure.h"
+#include "toolkit/counter_arithmetic.h"
 #include "toolkit/label_lists.h"
 #include "toolkit/localization.h"
 
@@ -78,8 +79,8 @@ QString networkSnapshotText(const SnapshotContext& context)
     out += QStringLiteral("  ") + networkBarText(currentNetworkRates(history), networkRatesInBits(context.settings)) +
            QLatin1Char('\n');
     out += QStringLiteral("  sent %1 received %2 bytes, over %3 s\n")
-               .arg(newest.toUp)
-               .arg(newest.toDw)
+               .arg(Counter::asCounter(newest.toUp))
+               .arg(Counter::asCounter(newest.toDw))
                .arg(newest.interval);
     for (const InterfacePackets& p : newest.packets)
         out += QStringLiteral("  %1 %2 packets sent, %3 received\n")
@@ -100,10 +101,11 @@ void addNetworkSnapshotJson(const SnapshotContext& context, QJsonObject& root)
     for (const InterfacePackets& p : sample.packets)
         interfaces.insert(QString::fromStdString(p.name),
                           QJsonObject{{"up", static_cast<qint64>(p.up)}, {"dw", static_cast<qint64>(p.dw)}});
-    root.insert(QLatin1String(context.key), QJsonObject{{"to_up", static_cast<qint64>(sample.toUp)},
-                                                        {"to_dw", static_cast<qint64>(sample.toDw)},
-                                                        {"int", sample.interval},
-                                                        {"packets", interfaces}});
+    root.insert(QLatin1String(context.key),
+                QJsonObject{{"to_up", qint64{Counter::saturated(Counter::asCounter(sample.toUp))}},
+                            {"to_dw", qint64{Counter::saturated(Counter::asCounter(sample.toDw))}},
+                            {"int", sample.interval},
+                            {"packets", interfaces}});
 }
 
 } // namespace

@@ -2,6 +2,7 @@
 #include "modules/network/network_rates.h"
 
 #include "prefs/pref_keys.h"
+#include "toolkit/counter_arithmetic.h"
 #include "toolkit/value_format.h"
 
 #include <algorithm>
@@ -14,8 +15,10 @@ NetworkRates growth(const NetworkSample& before, const NetworkSample& now, doubl
 {
     if (seconds <= 0)
         return {};
-    return {static_cast<double>(std::max<std::int64_t>(now.toUp - before.toUp, 0)) / seconds,
-            static_cast<double>(std::max<std::int64_t>(now.toDw - before.toDw, 0)) / seconds};
+    const auto grown = [seconds](std::int64_t newer, std::int64_t older) {
+        return static_cast<double>(Counter::growth(Counter::asCounter(newer), Counter::asCounter(older))) / seconds;
+    };
+    return {grown(now.toUp, before.toUp), grown(now.toDw, before.toDw)};
 }
 
 } // namespace

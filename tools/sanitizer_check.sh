@@ -1,0 +1,16 @@
+#!/usr/bin/env bash
+# Builds the suite with AddressSanitizer and UndefinedBehaviorSanitizer in build/asan and runs it.
+set -euo pipefail
+here=$(cd "$(dirname "${BASH_SOURCE[0]}")/.." && pwd)
+start=$(date +%s)
+# Test discovery runs the binaries while building, so the options hold for the build as well.
+export ASAN_OPTIONS=detect_leaks=1:abort_on_error=0:strict_string_checks=1:detect_stack_use_after_return=1
+export LSAN_OPTIONS=suppressions=$here/tools/lsan.supp:print_suppressions=0
+export UBSAN_OPTIONS=halt_on_error=1:print_stacktrace=1
+"$here/tools/setup.sh" "$here/build/asan" -DCMAKE_BUILD_TYPE=Debug -DTARVEL_WERROR=ON -DTARVEL_ASAN=ON \
+  -DTARVEL_BUILD_BENCH=OFF "$@"
+cd "$here/build/asan"
+status=0
+QT_QPA_PLATFORM=offscreen ctest --output-on-failure -j"$(nproc)" || status=$?
+echo "sanitizer check: $(( $(date +%s) - start )) s"
+exit "$status"
