@@ -15,6 +15,8 @@ PACKAGES=(
   prometheus python3-prometheus-client
   # tools/fuzz.sh: clang and its libFuzzer runtime.
   clang-14 libclang-rt-14-dev
+  # The Debian package: icons drawn at build time, shared-library dependencies, its checks.
+  librsvg2-bin dpkg-dev desktop-file-utils appstream man-db file lintian
 )
 
 install_missing() {
