@@ -1,5 +1,6 @@
 // The General module: the application's own item, the top preferences tab and the settings
 // every module shares (switches, order, fonts).
+#include "alerts/alert_rule_store.h"
 #include "modules/general/general_menu_module.h"
 #include "modules/general/top_tab_view_controller.h"
 #include "modules/module_descriptor.h"
@@ -46,7 +47,8 @@ ModuleSchema generalSchema()
              {Vlms_ShowMyLabel, T::Bool, true},
              {Temp_ShowMyLabel, T::Bool, true},
              {Fan_ShowMyLabel, T::Bool, true},
-             {kRebootRegularlyDays, T::Integer, QVariant()}},
+             {kRebootRegularlyDays, T::Integer, QVariant()},
+             {AlertRules, T::Array, alertRulesToList(AlertRuleStore::offeredRules())}},
             colors({}),
             // The General item draws its pictures at half size, all but the first icon.
             {{"N01", PictureSize::Half},
