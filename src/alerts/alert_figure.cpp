@@ -1,6 +1,8 @@
 // The table of the figures an alert rule can watch.
 #include "alerts/alert_figure.h"
 
+#include "toolkit/localization.h"
+
 #include <QString>
 
 #include <algorithm>
@@ -8,16 +10,18 @@
 namespace {
 
 constexpr std::array<AlertFigureInfo, kAlertFigureCount> kFigures{{
-    {AlertFigure::CpuBusy, "CpuBusy", ModuleId::Cpu, "CPU busy", "%", 90, true},
-    {AlertFigure::MemoryUsed, "MemoryUsed", ModuleId::Memory, "Memory in use", "%", 90, true},
-    {AlertFigure::NetworkDown, "NetworkDown", ModuleId::Network, "Download rate", "KB/s", 1, false},
-    {AlertFigure::NetworkUp, "NetworkUp", ModuleId::Network, "Upload rate", "KB/s", 1024, true},
-    {AlertFigure::DiskRead, "DiskRead", ModuleId::Disk, "Disk read rate", "KB/s", 102400, true},
-    {AlertFigure::DiskWrite, "DiskWrite", ModuleId::Disk, "Disk write rate", "KB/s", 102400, true},
-    {AlertFigure::VolumeFullest, "VolumeFullest", ModuleId::Volume, "Fullest volume", "%", 95, true},
-    {AlertFigure::TempAverage, "TempAverage", ModuleId::Temp, "Average temperature", "\u00B0C", 85, true},
-    {AlertFigure::TempHighest, "TempHighest", ModuleId::Temp, "Highest temperature", "\u00B0C", 90, true},
-    {AlertFigure::FanFastest, "FanFastest", ModuleId::Fan, "Fastest fan", "rpm", 5000, true},
+    {AlertFigure::CpuBusy, "CpuBusy", ModuleId::Cpu, Tarvel::textKey("CPU busy"), "%", 90, true},
+    {AlertFigure::MemoryUsed, "MemoryUsed", ModuleId::Memory, Tarvel::textKey("Memory in use"), "%", 90, true},
+    {AlertFigure::NetworkDown, "NetworkDown", ModuleId::Network, Tarvel::textKey("Download rate"), "KB/s", 1, false},
+    {AlertFigure::NetworkUp, "NetworkUp", ModuleId::Network, Tarvel::textKey("Upload rate"), "KB/s", 1024, true},
+    {AlertFigure::DiskRead, "DiskRead", ModuleId::Disk, Tarvel::textKey("Disk read rate"), "KB/s", 102400, true},
+    {AlertFigure::DiskWrite, "DiskWrite", ModuleId::Disk, Tarvel::textKey("Disk write rate"), "KB/s", 102400, true},
+    {AlertFigure::VolumeFullest, "VolumeFullest", ModuleId::Volume, Tarvel::textKey("Fullest volume"), "%", 95, true},
+    {AlertFigure::TempAverage, "TempAverage", ModuleId::Temp, Tarvel::textKey("Average temperature"), "\u00B0C", 85,
+     true},
+    {AlertFigure::TempHighest, "TempHighest", ModuleId::Temp, Tarvel::textKey("Highest temperature"), "\u00B0C", 90,
+     true},
+    {AlertFigure::FanFastest, "FanFastest", ModuleId::Fan, Tarvel::textKey("Fastest fan"), "rpm", 5000, true},
 }};
 
 // The table is indexed by the enumeration: the two must not drift apart.
@@ -52,5 +56,6 @@ std::optional<AlertFigure> alertFigureById(QStringView id)
 
 bool moduleHasAlertFigures(ModuleId module)
 {
-    return std::any_of(kFigures.begin(), kFigures.end(), [module](const AlertFigureInfo& f) { return f.module == module; });
+    return std::any_of(kFigures.begin(), kFigures.end(),
+                       [module](const AlertFigureInfo& f) { return f.module == module; });
 }

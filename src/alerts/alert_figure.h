@@ -30,7 +30,7 @@ inline constexpr std::size_t kAlertFigureCount = 10;
 
 struct AlertFigureInfo {
     AlertFigure figure;
-    const char* id;   // as stored in a rule
+    const char* id; // as stored in a rule
     ModuleId module;
     const char* name; // localisation key: what the editor and the notification call it
     const char* unit; // not translated, as no unit is

@@ -43,7 +43,8 @@ std::optional<double> memoryUsed(const InfoDict& info, std::int64_t totalPages)
     const auto pages = [&sample](MemoryFigure which) { return std::max<std::int64_t>(sample[which], 0); };
     const std::int64_t free = pages(MemoryFree);
     const std::int64_t cached = pages(MemoryCached);
-    const std::int64_t counted = pages(MemoryApplication) + pages(MemoryWired) + pages(MemoryCompressor) + cached + free;
+    const std::int64_t counted =
+        pages(MemoryApplication) + pages(MemoryWired) + pages(MemoryCompressor) + cached + free;
     const std::int64_t total = std::max(totalPages, counted);
     if (total <= 0)
         return std::nullopt;
@@ -94,7 +95,8 @@ std::optional<double> volumeFullest(const InfoDict& info)
     std::optional<double> fullest;
     for (const auto& [path, usage] : history.back().volumes) {
         if (usage.total > 0)
-            fullest = std::max(fullest.value_or(0.0), 100.0 * static_cast<double>(usage.used) / static_cast<double>(usage.total));
+            fullest = std::max(fullest.value_or(0.0),
+                               100.0 * static_cast<double>(usage.used) / static_cast<double>(usage.total));
     }
     return fullest;
 }

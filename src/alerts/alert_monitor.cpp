@@ -89,10 +89,12 @@ UserNotification AlertMonitor::notification(const AlertRule& rule, double value)
     const QString threshold = valueText(rule.figure, rule.threshold);
     QString text;
     if (rule.holdSeconds > 0) {
-        text = localized(rule.above ? "Now %1, over %2 for %3." : "Now %1, under %2 for %3.")
-                   .arg(now, threshold, holdText(rule.holdSeconds));
+        text =
+            (rule.above ? Tarvel::localized("Now %1, over %2 for %3.") : Tarvel::localized("Now %1, under %2 for %3."))
+                .arg(now, threshold, holdText(rule.holdSeconds));
     } else {
-        text = localized(rule.above ? "Now %1, over %2." : "Now %1, under %2.").arg(now, threshold);
+        text = (rule.above ? Tarvel::localized("Now %1, over %2.") : Tarvel::localized("Now %1, under %2."))
+                   .arg(now, threshold);
     }
-    return {localized("Alert: %1").arg(localized(alertFigureInfo(rule.figure).name)), text, {}, {}};
+    return {Tarvel::localized("Alert: %1").arg(Tarvel::localized(alertFigureInfo(rule.figure).name)), text, {}, {}};
 }

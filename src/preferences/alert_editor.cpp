@@ -45,7 +45,7 @@ QDoubleSpinBox* numberBox(QWidget* parent, const char* name)
 } // namespace
 
 AlertEditor::AlertEditor(ModuleId module, SettingsStore& store, QWidget* parent)
-    : QGroupBox(localized("Alerts"), parent)
+    : QGroupBox(Tarvel::localized("Alerts"), parent)
     , module_(module)
     , store_(store)
     , grid_(new QGridLayout())
@@ -57,12 +57,13 @@ AlertEditor::AlertEditor(ModuleId module, SettingsStore& store, QWidget* parent)
     }
     auto* layout = new QVBoxLayout(this);
     layout->addLayout(grid_);
-    auto* add = new QPushButton(localized("Add Alert"), this);
+    auto* add = new QPushButton(Tarvel::localized("Add Alert"), this);
     add->setObjectName(QStringLiteral("AlertAdd"));
     connect(add, &QPushButton::clicked, this, &AlertEditor::addRule);
-    auto* note = new QLabel(localized("A notification is sent once when a figure stays past its threshold for "
-                                      "the time given, and again only after it has come back to where it clears."),
-                            this);
+    auto* note =
+        new QLabel(Tarvel::localized("A notification is sent once when a figure stays past its threshold for "
+                                     "the time given, and again only after it has come back to where it clears."),
+                   this);
     note->setWordWrap(true);
     note->setEnabled(false);
     auto* foot = new QHBoxLayout();
@@ -74,10 +75,13 @@ AlertEditor::AlertEditor(ModuleId module, SettingsStore& store, QWidget* parent)
 
 void AlertEditor::addHeader()
 {
-    const std::pair<Column, const char*> titles[] = {
-        {ColOn, "On"}, {ColFigure, "Figure"}, {ColThreshold, "Threshold"}, {ColHold, "For"}, {ColClearAt, "Clears at"}};
+    const std::pair<Column, const char*> titles[] = {{ColOn, Tarvel::textKey("On")},
+                                                     {ColFigure, Tarvel::textKey("Figure")},
+                                                     {ColThreshold, Tarvel::textKey("Threshold")},
+                                                     {ColHold, Tarvel::textKey("For")},
+                                                     {ColClearAt, Tarvel::textKey("Clears at")}};
     for (const auto& [column, title] : titles)
-        grid_->addWidget(new QLabel(localized(title), this), 0, column);
+        grid_->addWidget(new QLabel(Tarvel::localized(title), this), 0, column);
     grid_->setColumnStretch(ColFigure, 1);
 }
 
@@ -111,10 +115,10 @@ void AlertEditor::addRule()
 void AlertEditor::rebuildRows(const QList<AlertRule>& rules)
 {
     for (const Row& row : std::as_const(rows_)) {
-        for (QWidget* widget : {static_cast<QWidget*>(row.enabled), static_cast<QWidget*>(row.figure),
-                                static_cast<QWidget*>(row.above), static_cast<QWidget*>(row.threshold),
-                                static_cast<QWidget*>(row.unit), static_cast<QWidget*>(row.hold),
-                                static_cast<QWidget*>(row.clearAt), static_cast<QWidget*>(row.remove)}) {
+        for (QWidget* widget :
+             {static_cast<QWidget*>(row.enabled), static_cast<QWidget*>(row.figure), static_cast<QWidget*>(row.above),
+              static_cast<QWidget*>(row.threshold), static_cast<QWidget*>(row.unit), static_cast<QWidget*>(row.hold),
+              static_cast<QWidget*>(row.clearAt), static_cast<QWidget*>(row.remove)}) {
             // Out of the section at once, deleted later: the remove button being clicked may be
             // one of them.
             grid_->removeWidget(widget);
@@ -136,24 +140,28 @@ void AlertEditor::rebuildRows(const QList<AlertRule>& rules)
 
 AlertEditor::Row AlertEditor::makeRow(int line)
 {
-    Row row{new QCheckBox(this), new QComboBox(this), new QComboBox(this), numberBox(this, "AlertThreshold"),
-            new QLabel(this), new QSpinBox(this), numberBox(this, "AlertClearAt"),
-            new QPushButton(localized("Remove"), this)};
+    Row row{new QCheckBox(this),
+            new QComboBox(this),
+            new QComboBox(this),
+            numberBox(this, "AlertThreshold"),
+            new QLabel(this),
+            new QSpinBox(this),
+            numberBox(this, "AlertClearAt"),
+            new QPushButton(Tarvel::localized("Remove"), this)};
     row.enabled->setObjectName(QStringLiteral("AlertOn"));
     row.figure->setObjectName(QStringLiteral("AlertFigure"));
     for (const AlertFigure figure : std::as_const(figures_))
-        row.figure->addItem(localized(alertFigureInfo(figure).name));
+        row.figure->addItem(Tarvel::localized(alertFigureInfo(figure).name));
     row.above->setObjectName(QStringLiteral("AlertAbove"));
-    row.above->addItems({localized("over"), localized("under")});
+    row.above->addItems({Tarvel::localized("over"), Tarvel::localized("under")});
     row.hold->setObjectName(QStringLiteral("AlertHold"));
     row.hold->setRange(0, static_cast<int>(kAlertMaxHoldSeconds));
     row.hold->setSuffix(QStringLiteral(" s"));
     row.hold->setKeyboardTracking(false);
     row.remove->setObjectName(QStringLiteral("AlertRemove"));
-    const std::pair<Column, QWidget*> cells[] = {{ColOn, row.enabled},         {ColFigure, row.figure},
-                                                 {ColAbove, row.above},        {ColThreshold, row.threshold},
-                                                 {ColUnit, row.unit},          {ColHold, row.hold},
-                                                 {ColClearAt, row.clearAt},    {ColRemove, row.remove}};
+    const std::pair<Column, QWidget*> cells[] = {
+        {ColOn, row.enabled}, {ColFigure, row.figure}, {ColAbove, row.above},     {ColThreshold, row.threshold},
+        {ColUnit, row.unit},  {ColHold, row.hold},     {ColClearAt, row.clearAt}, {ColRemove, row.remove}};
     for (const auto& [column, widget] : cells)
         grid_->addWidget(widget, line, column);
     return row;
@@ -181,8 +189,8 @@ AlertRule AlertEditor::rowRule(const Row& row) const
     rule.above = row.above->currentIndex() == 0;
     rule.threshold = row.threshold->value();
     // A clearing point past the threshold would clear the rule while it is still breached.
-    rule.clearAt = rule.above ? std::min(row.clearAt->value(), rule.threshold)
-                              : std::max(row.clearAt->value(), rule.threshold);
+    rule.clearAt =
+        rule.above ? std::min(row.clearAt->value(), rule.threshold) : std::max(row.clearAt->value(), rule.threshold);
     rule.holdSeconds = row.hold->value();
     return rule;
 }

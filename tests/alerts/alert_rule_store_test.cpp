@@ -38,19 +38,24 @@ TEST(AlertRuleStore, DamagedEntriesAreDroppedOrSetRightAndTheListWrittenBackOnce
 {
     MemorySettingsStore store;
     const QString key = QLatin1String(PrefKey::AlertRules);
-    const QVariantMap good = entry({{Figure, "CpuBusy"}, {Above, true}, {Threshold, 90}, {ClearAt, 80},
-                                    {HoldSeconds, 60}, {Enabled, true}});
-    store.values.insert(key, QVariantList{
-        QStringLiteral("not a rule"),
-        entry({{Figure, "GpuBusy"}, {Threshold, 50}}),
-        entry({{Figure, "CpuBusy"}, {Threshold, QStringLiteral("lots")}}),
-        entry({{Figure, "CpuBusy"}, {Threshold, std::numeric_limits<double>::quiet_NaN()}}),
-        good,
-        // A clearing point past the threshold, a negative hold and no switch at all.
-        entry({{Figure, "VolumeFullest"}, {Above, true}, {Threshold, 95}, {ClearAt, 99}, {HoldSeconds, -5}}),
-        entry({{Figure, "NetworkDown"}, {Above, false}, {Threshold, QStringLiteral("1")}, {ClearAt, 2},
-               {HoldSeconds, 1e12}, {Enabled, true}}),
-    });
+    const QVariantMap good =
+        entry({{Figure, "CpuBusy"}, {Above, true}, {Threshold, 90}, {ClearAt, 80}, {HoldSeconds, 60}, {Enabled, true}});
+    store.values.insert(
+        key, QVariantList{
+                 QStringLiteral("not a rule"),
+                 entry({{Figure, "GpuBusy"}, {Threshold, 50}}),
+                 entry({{Figure, "CpuBusy"}, {Threshold, QStringLiteral("lots")}}),
+                 entry({{Figure, "CpuBusy"}, {Threshold, std::numeric_limits<double>::quiet_NaN()}}),
+                 good,
+                 // A clearing point past the threshold, a negative hold and no switch at all.
+                 entry({{Figure, "VolumeFullest"}, {Above, true}, {Threshold, 95}, {ClearAt, 99}, {HoldSeconds, -5}}),
+                 entry({{Figure, "NetworkDown"},
+                        {Above, false},
+                        {Threshold, QStringLiteral("1")},
+                        {ClearAt, 2},
+                        {HoldSeconds, 1e12},
+                        {Enabled, true}}),
+             });
 
     const QList<AlertRule> rules = AlertRuleStore::load(store);
     ASSERT_EQ(rules.size(), 3);
