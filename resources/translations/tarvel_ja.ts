@@ -1298,5 +1298,109 @@ new ver : %@</source>
         <source>Down</source>
         <translation>下り</translation>
     </message>
+    <message>
+        <source>Alerts</source>
+        <translation>アラート</translation>
+    </message>
+    <message>
+        <source>Add Alert</source>
+        <translation>アラートを追加</translation>
+    </message>
+    <message>
+        <source>A notification is sent once when a figure stays past its threshold for the time given, and again only after it has come back to where it clears.</source>
+        <translation>値がしきい値を指定の時間超え続けると通知を一度送ります。次の通知は、値が解除の値まで戻った後に限ります。</translation>
+    </message>
+    <message>
+        <source>On</source>
+        <translation>オン</translation>
+    </message>
+    <message>
+        <source>Figure</source>
+        <translation>項目</translation>
+    </message>
+    <message>
+        <source>Threshold</source>
+        <translation>しきい値</translation>
+    </message>
+    <message>
+        <source>For</source>
+        <translation>継続</translation>
+    </message>
+    <message>
+        <source>Clears at</source>
+        <translation>解除</translation>
+    </message>
+    <message>
+        <source>Remove</source>
+        <translation>削除</translation>
+    </message>
+    <message>
+        <source>over</source>
+        <translation>より上</translation>
+    </message>
+    <message>
+        <source>under</source>
+        <translation>より下</translation>
+    </message>
+    <message>
+        <source>CPU busy</source>
+        <translation>CPU 使用率</translation>
+    </message>
+    <message>
+        <source>Memory in use</source>
+        <translation>メモリ使用率</translation>
+    </message>
+    <message>
+        <source>Download rate</source>
+        <translation>受信速度</translation>
+    </message>
+    <message>
+        <source>Upload rate</source>
+        <translation>送信速度</translation>
+    </message>
+    <message>
+        <source>Disk read rate</source>
+        <translation>ディスク読み込み速度</translation>
+    </message>
+    <message>
+        <source>Disk write rate</source>
+        <translation>ディスク書き込み速度</translation>
+    </message>
+    <message>
+        <source>Fullest volume</source>
+        <translation>最も使用率の高いボリューム</translation>
+    </message>
+    <message>
+        <source>Average temperature</source>
+        <translation>平均温度</translation>
+    </message>
+    <message>
+        <source>Highest temperature</source>
+        <translation>最高温度</translation>
+    </message>
+    <message>
+        <source>Fastest fan</source>
+        <translation>最も速いファン</translation>
+    </message>
+    <message>
+        <source>Alert: %1</source>
+        <translation>アラート: %1</translation>
+    </message>
+    <message>
+        <source>Now %1, over %2.</source>
+        <translation>現在 %1、%2 を超えています。</translation>
+    </message>
+    <message>
+        <source>Now %1, under %2.</source>
+        <translation>現在 %1、%2 を下回っています。</translation>
+    </message>
+    <message>
+        <source>Now %1, over %2 for %3.</source>
+        <translation>現在 %1、%3 の間 %2 を超えています。</translation>
+    </message>
+    <message>
+        <source>Now %1, under %2 for %3.</source>
+        <translation>現在 %1、%3 の間 %2 を下回っています。</translation>
+    </message>
 </context>
 </TS>

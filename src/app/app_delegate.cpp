@@ -124,6 +124,7 @@ void AppDelegate::applicationDidFinishLaunching(bool startTimer)
         if (schema->id != ModuleId::General)
             reloadModuleDefaults(schema->id);
     }
+    reloadAlertRules();
 
     // The preferences window is built when it is first opened: most of the time it is closed,
     // and its widgets and the font list would only take memory.
@@ -343,6 +344,7 @@ void AppDelegate::redrawStep(const CycleOutput& output)
     infoDict_ = output.info;
     exportExtras_ = output.exportExtras;
     applyVolumeRenames();
+    checkAlerts();
     // A module switched off meanwhile is left alone by the redraw itself.
     for (const ModuleDescriptor* module : moduleRegistry()) {
         if (output.sampled[moduleIndex(module->schema.id)])

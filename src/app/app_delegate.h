@@ -1,6 +1,7 @@
 // The application controller: owns the settings, the collector, the shared data and the cycle.
 #pragma once
 
+#include "alerts/alert_monitor.h"
 #include "app/sampling_schedule.h"
 #include "collect/info_dict.h"
 #include "collect/load_system_information.h"
@@ -141,6 +142,8 @@ public:
     // The cadence of every module; intervals follow the settings as they are loaded.
     const SamplingSchedule& schedule() const { return schedule_; }
     SamplingSchedule& schedule() { return schedule_; }
+    // The alert rules in use, read again from the store after every preference change.
+    AlertMonitor& alertMonitor() { return alerts_; }
     bool isDebugMode() const { return isDebugMode_; }
     bool cycleRunning() const { return loadSysInfoTimerFinishedBool; }
     quint32 globalIpCheckCount() const { return chkNowGlobalIpAddrCount; }
@@ -174,6 +177,9 @@ private:
     bool menuOpened(ModuleId id) const;
     bool switchedOn(ModuleId id) const;
     void redrawStep(const CycleOutput& output);
+    void reloadAlertRules();
+    // Evaluates the alert rules on the histories the cycle has just produced.
+    void checkAlerts();
     void drainPrefNotifications();
     void processFontOrColor(const QVariantMap& info, bool& skipRest);
     void processModuleNotif(ModuleId id, const QVariantMap& info, bool removeFirst, bool refreshItems);
@@ -206,6 +212,7 @@ private:
     SamplingSchedule schedule_;
     StatusBar* statusBar_ = nullptr;
     DesktopNotifier* notifier_ = nullptr; // a child, made when first needed
+    AlertMonitor alerts_{[this] { return notifier(); }};
     // Told how the forced dynamic DNS run asked for in the preferences ended.
     std::function<void(const QString& outcome)> ddnsOutcome_;
     qreal pictureScale_ = 0;

@@ -171,6 +171,8 @@ void AppDelegate::processNotifFromPref(const PrefNotification& notification)
             processModuleNotif(*id, info, removeFirst, refreshItems);
         }
     }
+    // Any tab may have edited the rules of its module.
+    reloadAlertRules();
     handOutTabDefaults(flag(info, NotifKey::ModuleThemeChanged));
 }
 

@@ -1,6 +1,8 @@
 // Storing and posting for every preferences tab.
 #include "preferences/preference_tab.h"
 
+#include "alerts/alert_figure.h"
+#include "preferences/alert_editor.h"
 #include "preferences/pref_notification.h"
 #include "prefs/settings_store.h"
 
@@ -19,6 +21,18 @@ void PreferenceTab::setMyDefaults(const AllModuleDefaults& all, const QVariantMa
     all_ = all;
     theme_ = theme;
     resetViews(0);
+    if (alerts_ != nullptr)
+        alerts_->load();
+}
+
+AlertEditor* PreferenceTab::alertsSection()
+{
+    if (alerts_ == nullptr && moduleHasAlertFigures(schema_.id)) {
+        alerts_ = new AlertEditor(schema_.id, store_, this);
+        connect(alerts_, &AlertEditor::rulesChanged, this, [this] { commit(); });
+        alerts_->load();
+    }
+    return alerts_;
 }
 
 void PreferenceTab::resetViews(int which)

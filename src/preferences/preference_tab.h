@@ -5,12 +5,14 @@
 #include "prefs/module_defaults.h"
 #include "prefs/pref_schema.h"
 
+#include <QPointer>
 #include <QVariantMap>
 #include <QWidget>
 
 #include <array>
 #include <memory>
 
+class AlertEditor;
 class InfoDict;
 class PrefNotificationCenter;
 class SettingsStore;
@@ -41,6 +43,9 @@ public:
         Q_UNUSED(disks)
         Q_UNUSED(volumes)
     }
+    // The module's alert rules, shown below the tab's own settings; made on the first call, null
+    // for a module without figures to watch. Its changes are saved and posted as the tab's own.
+    AlertEditor* alertsSection();
     virtual void rebuildThemeMenus() {}
     virtual void rebuildFontMenus() {}
     virtual void loadModuleEnabled() {}
@@ -74,5 +79,6 @@ private:
     SettingsStore& store_;
     PrefNotificationCenter& center_;
     AllModuleDefaults all_;
+    QPointer<AlertEditor> alerts_;
     int loading_ = 0;
 };

@@ -1,6 +1,7 @@
 // The preferences window's frame: title, tabs, the store-failure line and the version.
 #include "preferences/preferences_window.h"
 
+#include "preferences/alert_editor.h"
 #include "preferences/preference_tab.h"
 #include "preferences/wheel_guard.h"
 #include "toolkit/localization.h"
@@ -63,7 +64,15 @@ void PreferencesWindow::addTab(PreferenceTab* tab, const QString& label)
 {
     // Pages scroll inside the window, so that no page, nor the failure line, pushes the window
     // past the bottom of a small screen.
-    tabs_->addTab(scrolling(tab), label);
+    // The alert rules sit below the module's own settings, in the same scrolling page.
+    auto* page = new QWidget();
+    auto* layout = new QVBoxLayout(page);
+    layout->setContentsMargins(0, 0, 0, 0);
+    layout->addWidget(tab, 1);
+    if (AlertEditor* alerts = tab->alertsSection())
+        layout->addWidget(alerts);
+    pages_.append(tab);
+    tabs_->addTab(scrolling(page), label);
     connect(tab, &PreferenceTab::storeFailed, this, &PreferencesWindow::showStoreFailure);
     connect(tab, &PreferenceTab::storeSaved, this, &PreferencesWindow::clearStoreFailure);
 }
@@ -81,8 +90,7 @@ int PreferencesWindow::tabCount() const
 
 PreferenceTab* PreferencesWindow::tab(int index) const
 {
-    const auto* page = qobject_cast<QScrollArea*>(tabs_->widget(index));
-    return page != nullptr ? qobject_cast<PreferenceTab*>(page->widget()) : nullptr;
+    return index >= 0 && index < pages_.size() ? pages_[index].data() : nullptr;
 }
 
 int PreferencesWindow::currentTab() const

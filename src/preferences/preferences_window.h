@@ -1,6 +1,8 @@
 // The preferences window: one tab per module, and a line that tells when settings cannot be saved.
 #pragma once
 
+#include <QList>
+#include <QPointer>
 #include <QWidget>
 
 class PreferenceTab;
@@ -37,6 +39,7 @@ protected:
 
 private:
     QTabWidget* tabs_;
+    QList<QPointer<PreferenceTab>> pages_; // each page's tab, in tab order
     QLabel* failure_;
     bool placed_ = false;
 };

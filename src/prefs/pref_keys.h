@@ -41,6 +41,8 @@ inline constexpr char Disk_ShowMyLabel[] = "Disk_ShowMyLabel";
 inline constexpr char Vlms_ShowMyLabel[] = "Vlms_ShowMyLabel";
 inline constexpr char Temp_ShowMyLabel[] = "Temp_ShowMyLabel";
 inline constexpr char Fan_ShowMyLabel[] = "Fan_ShowMyLabel";
+// The alert rules of every module: an array of dictionaries with the AlertRuleKey entries.
+inline constexpr char AlertRules[] = "AlertRules";
 
 // General launch flags (derived, in memory)
 inline constexpr char LaunchCpus[] = "LaunchCpus";
@@ -234,6 +236,16 @@ inline constexpr char FanInnerPiledFontSizeDbl[] = "FanInnerPiledFontSizeDbl";
 inline constexpr char FanInnerPileUp[] = "FanInnerPileUp";
 
 } // namespace PrefKey
+
+// The entries of one dictionary of AlertRules.
+namespace AlertRuleKey {
+inline constexpr char Figure[] = "Figure"; // the watched figure's id ("CpuBusy")
+inline constexpr char Above[] = "Above";   // fires over the threshold, else under it
+inline constexpr char Threshold[] = "Threshold";
+inline constexpr char ClearAt[] = "ClearAt";
+inline constexpr char HoldSeconds[] = "HoldSeconds";
+inline constexpr char Enabled[] = "Enabled";
+} // namespace AlertRuleKey
 
 // User-information keys of the preference-change notifications.
 namespace NotifKey {

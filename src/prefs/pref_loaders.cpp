@@ -57,6 +57,9 @@ bool repairOrder(SettingsStore& store, const PrefField& field, QVariant& value)
     if (field.type != PrefType::Array || field.factory.typeId() != QMetaType::QVariantList)
         return false;
     const QVariantList known = field.factory.toList();
+    // Only lists of codes are orders; lists of dictionaries (the alert rules) repair themselves.
+    if (!known.isEmpty() && known.front().typeId() == QMetaType::QVariantMap)
+        return false;
     const QVariantList stored = value.toList();
     QVariantList kept;
     for (const QVariant& code : stored) {

@@ -1,5 +1,6 @@
 // The General module: the application's own item, the top preferences tab and the settings
 // every module shares (switches, order, fonts).
+#include "alerts/alert_rule_store.h"
 #include "export/listen_address.h"
 #include "modules/general/general_menu_module.h"
 #include "modules/general/metrics_keys.h"
@@ -50,7 +51,8 @@ ModuleSchema generalSchema()
              {Fan_ShowMyLabel, T::Bool, true},
              {kRebootRegularlyDays, T::Integer, QVariant()},
              {MetricsServeEnabled, T::Bool, false},
-             {MetricsListenAddress, T::String, QString::fromLatin1(kDefaultListenAddress)}},
+             {MetricsListenAddress, T::String, QString::fromLatin1(kDefaultListenAddress)},
+             {AlertRules, T::Array, alertRulesToList(AlertRuleStore::offeredRules())}},
             colors({}),
             // The General item draws its pictures at half size, all but the first icon.
             {{"N01", PictureSize::Half},
