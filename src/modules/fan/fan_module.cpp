@@ -74,6 +74,14 @@ QString fanSnapshotText(const SnapshotContext& context)
     return sensorSnapshotText(context, bar, fanPanelRows(context.sensors.fanData, newest));
 }
 
+QString fanBarLine(const SnapshotContext& context, const SettingsStore&)
+{
+    const SensorSample newest = newestSensorSample(context);
+    if (newest.empty())
+        return {};
+    return fanSpeedText(sensorValue(newest, {}), context.settings.stringValue(FanInnerTextFormat));
+}
+
 void addFanSnapshotJson(const SnapshotContext& context, QJsonObject& root)
 {
     addSensorSnapshotJson(context, kAverageFanKey, root);
@@ -89,6 +97,8 @@ const ModuleDescriptor& fanModule()
                                              &sampleFan,
                                              false,
                                              StorageUse::None,
-                                             &makePlainSnapshot<&fanSnapshotText, &addFanSnapshotJson>};
+                                             &makePlainSnapshot<&fanSnapshotText, &addFanSnapshotJson>,
+                                             nullptr,
+                                             &fanBarLine};
     return descriptor;
 }
