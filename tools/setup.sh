@@ -13,6 +13,8 @@ PACKAGES=(
   # The metrics export's tests: promtool, a real Prometheus and the OpenMetrics parser. The
   # package's own service (on :9090) may start or not; the tests run theirs on a free port.
   prometheus python3-prometheus-client
+  # The Wayland tests: a headless compositor and Qt's Wayland platform.
+  weston qt6-wayland
 )
 
 install_missing() {

@@ -7,6 +7,7 @@
 #include "app/front_ends/terminal_monitor.h"
 #include "app/front_ends/terminal_status_bar.h"
 #include "app/front_ends/tray_status_bar.h"
+#include "app/front_ends/window_probe.h"
 #include "app/metrics_export.h"
 #include "collect/source_set.h"
 #include "modules/general/top_tab_metrics_section.h"
@@ -61,6 +62,7 @@ int runMonitor(const AppOptions& options, int argc, char** argv)
     QApplication::setQuitOnLastWindowClosed(false);
     installTranslations(app);
     QuitOnSignal quitOnSignal;
+    WindowProbe::installIfAsked(app);
 
     std::unique_ptr<StatusBar> bar;
     if (chooseFrontEnd(options.bar, true, TrayStatusBar::isAvailable()) == FrontEndKind::Tray)
