@@ -44,20 +44,21 @@ TEST(TerminalMonitor, ShowsEachSwitchedOnModulesFigureInBarOrderWithoutAnyWidget
         std::function<void(SettingsStore&)> settings;
         QStringList lines;
     };
-    // Only the processor is read here, so Volume says it has no volume and the rest are silent.
+    // Only the processor is read here: Volume says it has no volume, Temp and Fan show their
+    // placeholder, and the modules that have no figure yet have no line.
     const QList<Case> cases{
         {"first run: the figures, the application's own line last",
          {},
-         {QStringLiteral("CPU      user 50% system 25%"), QStringLiteral("Volume   --"),
-          QStringLiteral("General  Tarvel")}},
+         {QStringLiteral("CPU      user 50% system 25%"), QStringLiteral("Volume   --"), QStringLiteral("Temp     ---"),
+          QStringLiteral("Fan      ---"), QStringLiteral("General  Tarvel")}},
         {"VNC first in the bar, the application's item off",
          [](SettingsStore& store) {
              store.setBool(Vnc_ShowMenu, true);
              store.setBool(DisplayMyMenuIcon, false);
              store.setArray(TopItemSortArray, QVariantList{8, 1, 2, 3, 4, 7, 5, 6});
          },
-         {QStringLiteral("VNC      VNC"), QStringLiteral("CPU      user 50% system 25%"),
-          QStringLiteral("Volume   --")}},
+         {QStringLiteral("VNC      VNC"), QStringLiteral("CPU      user 50% system 25%"), QStringLiteral("Volume   --"),
+          QStringLiteral("Temp     ---"), QStringLiteral("Fan      ---")}},
     };
     for (const Case& c : cases) {
         SCOPED_TRACE(c.name);

@@ -76,9 +76,8 @@ QString fanSnapshotText(const SnapshotContext& context)
 
 QString fanBarLine(const SnapshotContext& context, const SettingsStore&)
 {
+    // A machine without sensors shows the placeholder, as the item does.
     const SensorSample newest = newestSensorSample(context);
-    if (newest.empty())
-        return {};
     return fanSpeedText(sensorValue(newest, {}), context.settings.stringValue(FanInnerTextFormat));
 }
 

@@ -84,9 +84,8 @@ QString tempSnapshotText(const SnapshotContext& context)
 
 QString tempBarLine(const SnapshotContext& context, const SettingsStore&)
 {
+    // A machine without sensors shows the placeholder, as the item does.
     const SensorSample newest = newestSensorSample(context);
-    if (newest.empty())
-        return {};
     const ModuleDefaults& d = context.settings;
     const TempUnit unit{static_cast<int>(d.intValue(Temp_Unit_Mode)), d.stringValue(Temp_Unit_ModeStr)};
     return tempDegreesText(sensorValue(newest, tempShownSensor(d)), unit);
