@@ -1,6 +1,7 @@
 // Runs the monitor's bar window beside the least a bar window can cost (tarvel_bar_floor) on one
-// virtual screen, reads both once a second, and prints the processor time and memory of each,
-// the monitor's share over the floor, and how their memory grows.
+// virtual screen, and the monitor's text view (no display) beside them; reads all three once a
+// second, and prints the processor time and memory of each, the bar window's share over the
+// floor, and how their memory grows.
 #include "modules/module_registry.h"
 #include "prefs/module_id.h"
 #include "prefs/plist_settings_store.h"
@@ -16,6 +17,7 @@
 #include <QTemporaryDir>
 #include <QThread>
 
+#include <algorithm>
 #include <cstdio>
 #include <optional>
 #include <vector>
@@ -155,7 +157,7 @@ void printRow(const char* label, double processor, const std::vector<Reading>& r
                 static_cast<long long>(last.privateKiB - middle.privateKiB));
 }
 
-void printReport(const Run& floor, const Run& tarvel, int seconds, const QString& display)
+void printReport(const Run& floor, const Run& tarvel, const Run& text, int seconds, const QString& display)
 {
     const auto processor = [seconds](const Run& run) {
         return static_cast<double>(run.readings.back().runNs - run.readings.front().runNs) / 1e6 / seconds;
@@ -167,6 +169,7 @@ void printReport(const Run& floor, const Run& tarvel, int seconds, const QString
                 "priv run", "priv half");
     printRow(floor.label, processor(floor), floor.readings);
     printRow(tarvel.label, processor(tarvel), tarvel.readings);
+    printRow(text.label, processor(text), text.readings);
     std::printf("%-14s %9.2f %9.2f %9s %9s %9.2f\n", "tarvel/floor", ratio(processor(tarvel), processor(floor)),
                 ratio(static_cast<double>(tarvel.readings.back().residentKiB),
                       static_cast<double>(floor.readings.back().residentKiB)),
@@ -176,8 +179,8 @@ void printReport(const Run& floor, const Run& tarvel, int seconds, const QString
     std::printf("(growth in KiB: \"run\" from the first reading to the last, \"half\" over the second half)\n");
 }
 
-// Reads both programs every second for the given time; false when one of them ended.
-bool measure(Run& floor, Run& tarvel, int seconds)
+// Reads the programs every second for the given time; false when one of them ended.
+bool measure(const std::vector<Run*>& runs, int seconds)
 {
     QElapsedTimer clock;
     clock.start();
@@ -185,7 +188,7 @@ bool measure(Run& floor, Run& tarvel, int seconds)
         const qint64 wait = second * 1000LL - clock.elapsed();
         if (wait > 0)
             QThread::msleep(static_cast<unsigned long>(wait));
-        for (Run* run : {&floor, &tarvel}) {
+        for (Run* run : runs) {
             if (run->process.state() != QProcess::Running)
                 return false;
             run->readings.push_back(readProcess(run->process.processId()));
@@ -203,8 +206,9 @@ int main(int argc, char** argv)
     if (!options) {
         std::fprintf(stderr,
                      "usage: tarvel_process_budget TARVEL [--seconds N] [--display :N] [-- TARVEL ARGUMENTS...]\n"
-                     "Runs TARVEL --bar and tarvel_bar_floor on one Xvfb screen for N seconds (default 90)\n"
-                     "after %d s of warm-up, every module sampling every second.\n",
+                     "Runs TARVEL --bar and tarvel_bar_floor on one Xvfb screen, and TARVEL's text view\n"
+                     "(no display), for N seconds (default 90) after %d s of warm-up, every module\n"
+                     "sampling every second.\n",
                      kWarmUpSeconds);
         return 2;
     }
@@ -224,23 +228,38 @@ int main(int argc, char** argv)
     QDir().mkpath(home.filePath(QStringLiteral("run")));
     QFile::setPermissions(home.filePath(QStringLiteral("run")), QFile::ReadOwner | QFile::WriteOwner | QFile::ExeOwner);
     env.insert(QStringLiteral("XDG_RUNTIME_DIR"), home.filePath(QStringLiteral("run")));
+    // Each monitor has a settings file of its own: both write theirs at launch.
     const QString settings = home.filePath(QStringLiteral("s.plist"));
+    const QString textSettings = home.filePath(QStringLiteral("text.plist"));
     writeBudgetSettings(settings);
+    writeBudgetSettings(textSettings);
 
     Run floor("floor");
     Run tarvel("tarvel --bar");
-    for (Run* run : {&floor, &tarvel}) {
+    Run text("tarvel text");
+    const std::vector<Run*> runs{&floor, &tarvel, &text};
+    for (Run* run : runs) {
         run->process.setProcessEnvironment(env);
         run->process.setProcessChannelMode(QProcess::ForwardedErrorChannel);
     }
+    // Without a display the monitor shows its text view; into a file it appends its lines.
+    QProcessEnvironment noDisplay = env;
+    noDisplay.remove(QStringLiteral("DISPLAY"));
+    noDisplay.remove(QStringLiteral("WAYLAND_DISPLAY"));
+    noDisplay.remove(QStringLiteral("QT_QPA_PLATFORM"));
+    text.process.setProcessEnvironment(noDisplay);
+    text.process.setStandardOutputFile(QProcess::nullDevice());
     floor.process.start(QCoreApplication::applicationDirPath() + QStringLiteral("/tarvel_bar_floor"), {});
     tarvel.process.start(options->tarvel, QStringList{QStringLiteral("--bar"), QStringLiteral("--settings"), settings} +
                                               options->tarvelArguments);
-    const bool started = floor.process.waitForStarted() && tarvel.process.waitForStarted();
+    text.process.start(options->tarvel,
+                       QStringList{QStringLiteral("--settings"), textSettings} + options->tarvelArguments);
+    const bool started =
+        std::all_of(runs.cbegin(), runs.cend(), [](Run* run) { return run->process.waitForStarted(); });
     if (started)
         QThread::sleep(kWarmUpSeconds);
-    const bool ran = started && measure(floor, tarvel, options->seconds);
-    for (QProcess* process : {&tarvel.process, &floor.process, &xvfb}) {
+    const bool ran = started && measure(runs, options->seconds);
+    for (QProcess* process : {&text.process, &tarvel.process, &floor.process, &xvfb}) {
         process->terminate();
         process->waitForFinished();
     }
@@ -248,6 +267,6 @@ int main(int argc, char** argv)
         std::fprintf(stderr, "a measured program did not start or ended during the run\n");
         return 1;
     }
-    printReport(floor, tarvel, options->seconds, display);
+    printReport(floor, tarvel, text, options->seconds, display);
     return 0;
 }

@@ -17,6 +17,8 @@ PACKAGES=(
   clang-14 libclang-rt-14-dev
   # The Debian package: icons drawn at build time, shared-library dependencies, its checks.
   librsvg2-bin dpkg-dev desktop-file-utils appstream man-db file lintian
+  # The Wayland tests: a headless compositor and Qt's Wayland platform.
+  weston qt6-wayland
 )
 
 install_missing() {

@@ -44,6 +44,8 @@ public:
     // Where status items go; without one (snapshot) no module is created. Call before launching;
     // the bar must outlive this controller.
     void setStatusBar(StatusBar* bar);
+    // Where messages go when no status bar is set: the text view, whose lines are not modules.
+    void setMessageBar(StatusBar* bar) { messageBar_ = bar; }
     // Whether a preferences window can be shown (not where only text lines are).
     void setPreferencesAvailable(bool available) { preferencesAvailable_ = available; }
     // Commands that draw and leave never show the window "Display preferences at startup" asks for.
@@ -211,6 +213,7 @@ private:
     std::array<std::unique_ptr<MenuModule>, kModuleCount> modules_;
     SamplingSchedule schedule_;
     StatusBar* statusBar_ = nullptr;
+    StatusBar* messageBar_ = nullptr;
     DesktopNotifier* notifier_ = nullptr; // a child, made when first needed
     AlertMonitor alerts_{[this] { return notifier(); }};
     // Told how the forced dynamic DNS run asked for in the preferences ended.

@@ -10,8 +10,9 @@ void AppDelegate::reloadAlertRules()
 
 void AppDelegate::checkAlerts()
 {
-    // Alerts belong to a running monitor; a snapshot or a render run tells nobody anything.
-    if (statusBar_ == nullptr)
+    // Alerts belong to a running monitor (its items or its text lines); a snapshot or a render
+    // run tells nobody anything.
+    if (statusBar_ == nullptr && messageBar_ == nullptr)
         return;
     AlertFigureContext context;
     // The collector keeps the totals of its last memory sample; asked only when there is one,

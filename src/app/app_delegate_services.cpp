@@ -25,7 +25,7 @@ Notifier* AppDelegate::notifier()
     // Made when first needed: most runs never tell the user anything, and a bus costs a thread.
     if (notifier_ == nullptr) {
         notifier_ = new DesktopNotifier(new DBusNotifier(), this);
-        notifier_->setFallback(statusBar_);
+        notifier_->setFallback(statusBar_ != nullptr ? statusBar_ : messageBar_);
         connect(notifier_, &Notifier::actionInvoked, this, &AppDelegate::notificationActionInvoked);
     }
     return notifier_;

@@ -31,7 +31,9 @@ int reportEndedEarly(int loopStatus)
 
 int runSnapshot(const AppOptions& options, int argc, char** argv)
 {
-    // No window is shown: the offscreen platform gives fonts for text measuring without a display.
+    // No window is shown, yet the texts are measured: whether a figure keeps its unit depends on
+    // whether it fits the picture (a fan speed piled on its graph drops "rpm"), and the report
+    // gives the menu bar's strings. The offscreen platform gives the fonts without a display.
     qputenv("QT_QPA_PLATFORM", "offscreen");
     QGuiApplication app(argc, argv);
     QCoreApplication::setApplicationName(QStringLiteral("Tarvel"));

@@ -26,7 +26,7 @@ struct SampleRequest {
     // The seconds since the module's previous sample, which this one covers: the interval
     // setting, or fewer while its menu is open, or more after a slow cycle.
     qint64 seconds;
-    bool menuOpened;  // its menu is open: what only the menu shows is wanted too
+    bool menuOpened; // its menu is open: what only the menu shows is wanted too
     const VolumeBaseDict& volumes;
     const SensorDatDict& sensors; // the sensor table of start-up
 };
@@ -80,6 +80,9 @@ struct ModuleDescriptor {
     std::unique_ptr<ModuleSnapshot> (*createSnapshot)(LoadSystemInformation& loadInfo) = nullptr;
     // What the collector forgets when the module's status item goes; null for nothing.
     void (*released)(LoadSystemInformation& loadInfo) = nullptr;
+    // The figure its status item shows, as words, for the text view; empty before the first
+    // sample. Null for modules whose item shows no figure.
+    QString (*barText)(const SnapshotContext& context, const SettingsStore& store) = nullptr;
 };
 
 // Factories for the descriptors' entries.

@@ -1,11 +1,12 @@
 // Repair of the current theme against the reference theme of its appearance.
 #include "prefs/theme_repair.h"
 
-#include "prefs/pref_keys.h"
 #include "prefs/plist_io.h"
+#include "prefs/pref_keys.h"
 #include "prefs/theme_files.h"
 #include "prefs/theme_font.h"
 #include "prefs/theme_keys.h"
+#include "toolkit/menu_font.h"
 
 #include <cmath>
 
@@ -92,6 +93,12 @@ QVariantMap checkThemeValues(const QVariantMap& theme)
     const ThemeFont font{result.value(QLatin1String(PrefKey::_FontName)).toString(),
                          result.value(QLatin1String(PrefKey::_FontPostScriptName)).toString(),
                          result.value(QLatin1String(PrefKey::_FontStyle)).toString()};
+    // Without a font database nothing is drawn, so the theme's font stands as it is.
+    if (!fontsAvailable()) {
+        if (changed)
+            writeNowTheme(result);
+        return result;
+    }
     if (isInstalledThemeFont(font)) {
         writeNowTheme(result);
         return result;

@@ -1,7 +1,9 @@
 // Font lookup by PostScript or family name, with the fixed-pitch font as the fallback.
 #include "toolkit/menu_font.h"
 
+#include <QCoreApplication>
 #include <QFontDatabase>
+#include <QGuiApplication>
 #include <QHash>
 #include <QPair>
 #include <QStringList>
@@ -93,6 +95,13 @@ QFont menuFont(const QString& fontName, double fontSize)
     static QHash<QPair<QString, double>, QFont> known;
     const QPair<QString, double> key(fontName, fontSize);
     const std::lock_guard guard(lock);
+    // Settings that name a font are read where nothing is drawn too (the text view).
+    if (!fontsAvailable()) {
+        QFont font;
+        if (fontSize > 0)
+            font.setPointSizeF(fontSize);
+        return font;
+    }
     if (const auto it = known.constFind(key); it != known.cend())
         return it.value();
     if (known.size() >= kRememberedFonts)
@@ -100,6 +109,11 @@ QFont menuFont(const QString& fontName, double fontSize)
     const QFont font = lookUpMenuFont(fontName, fontSize);
     known.insert(key, font);
     return font;
+}
+
+bool fontsAvailable()
+{
+    return qobject_cast<QGuiApplication*>(QCoreApplication::instance()) != nullptr;
 }
 
 } // namespace TvlClasses

@@ -11,4 +11,8 @@ namespace TvlClasses {
 // family names work too. An unknown or empty name gives the system fixed-pitch font.
 QFont menuFont(const QString& fontName, double fontSize);
 
+// Whether fonts can be looked up at all: only a GUI application has a font database. The text
+// view and the snapshot run without one, as they only print words.
+bool fontsAvailable();
+
 } // namespace TvlClasses

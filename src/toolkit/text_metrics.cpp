@@ -13,6 +13,8 @@ QSizeF calcMenuLabelSize(const QString& text, double fontSize, const QString& fo
     // Menu-bar pictures are laid out in points. Measuring on a 72-dpi device makes one point
     // one unit whatever the screen reports, so widths agree with text painted at the same
     // point size on a 72-dpi image.
+    if (!fontsAvailable())
+        return {};
     constexpr int kDotsPerMeterAt72Dpi = 2835;
     QImage reference(1, 1, QImage::Format_ARGB32_Premultiplied);
     reference.setDotsPerMeterX(kDotsPerMeterAt72Dpi);

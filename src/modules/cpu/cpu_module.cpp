@@ -3,6 +3,7 @@
 #include "modules/cpu/cpu_menu_module.h"
 #include "modules/cpu/cpu_snapshot.h"
 #include "modules/cpu/cpu_tab_view_controller.h"
+#include "modules/cpu/cpu_usage_text.h"
 #include "modules/module_descriptor.h"
 #include "prefs/pref_keys.h"
 #include "prefs/pref_measure.h"
@@ -58,6 +59,15 @@ void sampleCpu(const SampleRequest& request, InfoDict& info)
         appendSample(request, info, std::move(sample));
 }
 
+// The whole machine's share, the last record of the newest sample.
+QString cpuBarLine(const SnapshotContext& context, const SettingsStore&)
+{
+    const History<CpuSample> history = context.info.history<CpuSample>(context.slot);
+    if (history.empty() || history.back().empty())
+        return {};
+    return cpuUsageText(history.back().back());
+}
+
 } // namespace
 
 const ModuleDescriptor& cpuModule()
@@ -68,6 +78,8 @@ const ModuleDescriptor& cpuModule()
                                              &sampleCpu,
                                              true, // the graph fills from the first cycle on
                                              StorageUse::None,
-                                             &makeSnapshot<CpuSnapshot>};
+                                             &makeSnapshot<CpuSnapshot>,
+                                             nullptr,
+                                             &cpuBarLine};
     return descriptor;
 }

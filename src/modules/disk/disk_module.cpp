@@ -99,6 +99,16 @@ QString diskSnapshotText(const SnapshotContext& context)
     return out;
 }
 
+QString diskBarLine(const SnapshotContext& context, const SettingsStore&)
+{
+    const History<DiskSample> history = context.info.history<DiskSample>(context.slot);
+    if (history.size() < 2)
+        return {};
+    const DiskPictureSettings settings = diskPictureSettings(context.settings);
+    const DiskBaseDict disks = shownDisks(settings, context.disks);
+    return diskBarText(diskBarSets(settings, disks), disks, history);
+}
+
 void addDiskSnapshotJson(const SnapshotContext& context, QJsonObject& root)
 {
     const History<DiskSample> history = context.info.history<DiskSample>(context.slot);
@@ -121,6 +131,8 @@ const ModuleDescriptor& diskModule()
                                              &sampleDisk,
                                              false,
                                              StorageUse::Disks,
-                                             &makePlainSnapshot<&diskSnapshotText, &addDiskSnapshotJson>};
+                                             &makePlainSnapshot<&diskSnapshotText, &addDiskSnapshotJson>,
+                                             nullptr,
+                                             &diskBarLine};
     return descriptor;
 }

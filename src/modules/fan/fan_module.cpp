@@ -74,6 +74,13 @@ QString fanSnapshotText(const SnapshotContext& context)
     return sensorSnapshotText(context, bar, fanPanelRows(context.sensors.fanData, newest));
 }
 
+QString fanBarLine(const SnapshotContext& context, const SettingsStore&)
+{
+    // A machine without sensors shows the placeholder, as the item does.
+    const SensorSample newest = newestSensorSample(context);
+    return fanSpeedText(sensorValue(newest, {}), context.settings.stringValue(FanInnerTextFormat));
+}
+
 void addFanSnapshotJson(const SnapshotContext& context, QJsonObject& root)
 {
     addSensorSnapshotJson(context, kAverageFanKey, root);
@@ -89,6 +96,8 @@ const ModuleDescriptor& fanModule()
                                              &sampleFan,
                                              false,
                                              StorageUse::None,
-                                             &makePlainSnapshot<&fanSnapshotText, &addFanSnapshotJson>};
+                                             &makePlainSnapshot<&fanSnapshotText, &addFanSnapshotJson>,
+                                             nullptr,
+                                             &fanBarLine};
     return descriptor;
 }

@@ -55,10 +55,14 @@ void General_MenuModule::refreshBar()
 
 QString General_MenuModule::itemText() const
 {
-    QString text = myDefaults.stringValue(PrefKey::PrefName);
     if (myDelegate == nullptr)
-        return text;
-    const SettingsStore& store = myDelegate->settingsStore();
+        return myDefaults.stringValue(PrefKey::PrefName);
+    return generalItemText(myDefaults, myDelegate->settingsStore());
+}
+
+QString generalItemText(const ModuleDefaults& general, const SettingsStore& store)
+{
+    QString text = general.stringValue(PrefKey::PrefName);
     // Written at every launch before any item exists, so it is this run's version.
     const QString version = store.stringForKey(PrefKey::AppVersion);
     if (!version.isEmpty())

@@ -3,6 +3,11 @@
 
 #include "modules/menu_module.h"
 
+class SettingsStore;
+
+// The item's words: the name with the running version and where the settings are kept.
+QString generalItemText(const ModuleDefaults& general, const SettingsStore& store);
+
 class General_MenuModule final : public MenuModule {
     Q_OBJECT
 public:

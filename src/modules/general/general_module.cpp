@@ -65,11 +65,23 @@ ModuleSchema generalSchema()
             &deriveGeneral};
 }
 
+QString generalBarText(const SnapshotContext& context, const SettingsStore& store)
+{
+    return generalItemText(context.settings, store);
+}
+
 } // namespace
 
 const ModuleDescriptor& generalModule()
 {
-    static const ModuleDescriptor descriptor{generalSchema(), &makeMenuModule<General_MenuModule>,
-                                             &makePreferenceTab<TopTabViewController>};
+    static const ModuleDescriptor descriptor{generalSchema(),
+                                             &makeMenuModule<General_MenuModule>,
+                                             &makePreferenceTab<TopTabViewController>,
+                                             nullptr,
+                                             false,
+                                             StorageUse::None,
+                                             nullptr,
+                                             nullptr,
+                                             &generalBarText};
     return descriptor;
 }

@@ -83,6 +83,18 @@ QString memorySnapshotText(const SnapshotContext& context)
     return out;
 }
 
+QString memoryBarLine(const SnapshotContext& context, const SettingsStore&)
+{
+    const History<MemorySample> history = context.info.history<MemorySample>(context.slot);
+    if (history.empty())
+        return {};
+    const auto totals = context.loadInfo.memoryTotals();
+    const MemoryBreakdown parts = memoryBreakdown(history.back(), totals ? totals->totalPages : 0,
+                                                  context.settings.boolValue(PrefKey::Memory_TradMemoryInfo));
+    return memoryBarText(parts, context.loadInfo.memoryPageSize(),
+                         static_cast<int>(context.settings.intValue(PrefKey::Memory_Unit)));
+}
+
 void addMemorySnapshotJson(const SnapshotContext& context, QJsonObject& root)
 {
     const History<MemorySample> history = context.info.history<MemorySample>(context.slot);
@@ -104,6 +116,8 @@ const ModuleDescriptor& memoryModule()
                                              &sampleMemory,
                                              false,
                                              StorageUse::None,
-                                             &makePlainSnapshot<&memorySnapshotText, &addMemorySnapshotJson>};
+                                             &makePlainSnapshot<&memorySnapshotText, &addMemorySnapshotJson>,
+                                             nullptr,
+                                             &memoryBarLine};
     return descriptor;
 }

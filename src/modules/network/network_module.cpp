@@ -90,6 +90,14 @@ QString networkSnapshotText(const SnapshotContext& context)
     return out;
 }
 
+QString networkBarLine(const SnapshotContext& context, const SettingsStore&)
+{
+    const History<NetworkSample> history = context.info.history<NetworkSample>(context.slot);
+    if (history.empty())
+        return {};
+    return networkBarText(currentNetworkRates(history), networkRatesInBits(context.settings));
+}
+
 void addNetworkSnapshotJson(const SnapshotContext& context, QJsonObject& root)
 {
     const History<NetworkSample> history = context.info.history<NetworkSample>(context.slot);
@@ -119,6 +127,7 @@ const ModuleDescriptor& networkModule()
                                              false,
                                              StorageUse::None,
                                              &makePlainSnapshot<&networkSnapshotText, &addNetworkSnapshotJson>,
-                                             &forgetInterfaces};
+                                             &forgetInterfaces,
+                                             &networkBarLine};
     return descriptor;
 }

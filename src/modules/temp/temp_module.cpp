@@ -82,6 +82,15 @@ QString tempSnapshotText(const SnapshotContext& context)
     return sensorSnapshotText(context, bar, tempPanelRows(context.sensors.tempData, newest, unit, drives));
 }
 
+QString tempBarLine(const SnapshotContext& context, const SettingsStore&)
+{
+    // A machine without sensors shows the placeholder, as the item does.
+    const SensorSample newest = newestSensorSample(context);
+    const ModuleDefaults& d = context.settings;
+    const TempUnit unit{static_cast<int>(d.intValue(Temp_Unit_Mode)), d.stringValue(Temp_Unit_ModeStr)};
+    return tempDegreesText(sensorValue(newest, tempShownSensor(d)), unit);
+}
+
 void addTempSnapshotJson(const SnapshotContext& context, QJsonObject& root)
 {
     addSensorSnapshotJson(context, kAverageTempKey, root);
@@ -97,6 +106,8 @@ const ModuleDescriptor& tempModule()
                                              &sampleTemp,
                                              false,
                                              StorageUse::None,
-                                             &makePlainSnapshot<&tempSnapshotText, &addTempSnapshotJson>};
+                                             &makePlainSnapshot<&tempSnapshotText, &addTempSnapshotJson>,
+                                             nullptr,
+                                             &tempBarLine};
     return descriptor;
 }

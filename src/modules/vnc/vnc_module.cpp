@@ -47,6 +47,12 @@ QString vncSnapshotText(const SnapshotContext& context)
     return out;
 }
 
+// The item names itself: the hosts are in its menu.
+QString vncBarLine(const SnapshotContext& context, const SettingsStore&)
+{
+    return context.settings.stringValue(QLatin1String(PrefName));
+}
+
 void addVncSnapshotJson(const SnapshotContext& context, QJsonObject& root)
 {
     QJsonArray hosts;
@@ -65,6 +71,8 @@ const ModuleDescriptor& vncModule()
                                              nullptr,
                                              false,
                                              StorageUse::None,
-                                             &makePlainSnapshot<&vncSnapshotText, &addVncSnapshotJson>};
+                                             &makePlainSnapshot<&vncSnapshotText, &addVncSnapshotJson>,
+                                             nullptr,
+                                             &vncBarLine};
     return descriptor;
 }

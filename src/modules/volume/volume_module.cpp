@@ -94,6 +94,15 @@ QString volumeSnapshotText(const SnapshotContext& context)
     return out;
 }
 
+QString volumeBarLine(const SnapshotContext& context, const SettingsStore&)
+{
+    const History<VolumeSample> history = context.info.history<VolumeSample>(context.slot);
+    if (history.empty())
+        return {};
+    const VolumePictureSettings settings = volumePictureSettings(context.settings);
+    return volumeBarText(volumeBarSets(settings, context.volumes), context.volumes, history, settings.percentKind);
+}
+
 void addVolumeSnapshotJson(const SnapshotContext& context, QJsonObject& root)
 {
     const History<VolumeSample> history = context.info.history<VolumeSample>(context.slot);
@@ -120,6 +129,8 @@ const ModuleDescriptor& volumeModule()
                                              &sampleVolume,
                                              false,
                                              StorageUse::Volumes,
-                                             &makePlainSnapshot<&volumeSnapshotText, &addVolumeSnapshotJson>};
+                                             &makePlainSnapshot<&volumeSnapshotText, &addVolumeSnapshotJson>,
+                                             nullptr,
+                                             &volumeBarLine};
     return descriptor;
 }
