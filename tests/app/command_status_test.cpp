@@ -1,7 +1,8 @@
 // The sampling commands run as the built program: what they return when the monitor ends itself.
+#include "program_run.h"
+
 #include <QDir>
 #include <QFile>
-#include <QProcess>
 #include <QTemporaryDir>
 #include <gtest/gtest.h>
 
@@ -28,20 +29,6 @@ void writeTreeWithAnUnreadableActiveInterface(const QString& root)
     writeFile(root + "/sys/class/net/eth0/operstate", "up\n");
     writeFile(root + "/sys/class/net/eth0/type", "1\n");
     writeFile(root + "/sys/class/net/eth0/flags", "0x1003\n");
-}
-
-struct ProgramRun {
-    int exitCode = -1;
-    QByteArray out;
-    QByteArray err;
-};
-
-ProgramRun runTarvel(const QStringList& arguments)
-{
-    QProcess process;
-    process.start(QStringLiteral(TARVEL_EXECUTABLE), arguments);
-    EXPECT_TRUE(process.waitForFinished(60000));
-    return {process.exitCode(), process.readAllStandardOutput(), process.readAllStandardError()};
 }
 
 } // namespace

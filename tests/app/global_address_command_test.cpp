@@ -1,33 +1,15 @@
 // tarvel global-address run as the built program against a local server: output and status.
 #include "prefs/plist_settings_store.h"
 #include "prefs/pref_keys.h"
+#include "program_run.h"
 #include "support/local_http_server.h"
 
-#include <QProcess>
 #include <QTemporaryDir>
 #include <QTest>
 #include <gtest/gtest.h>
 
 namespace {
-
 using Response = LocalHttpServer::Response;
-
-struct ProgramRun {
-    int exitCode = -1;
-    QByteArray out;
-    QByteArray err;
-};
-
-// The event loop keeps turning while the program runs, so the server on this thread can answer.
-ProgramRun runTarvel(const QStringList& arguments)
-{
-    QProcess process;
-    process.start(QStringLiteral(TARVEL_EXECUTABLE), arguments);
-    EXPECT_TRUE(process.waitForStarted());
-    EXPECT_TRUE(QTest::qWaitFor([&] { return process.state() == QProcess::NotRunning; }, 30000)); // a safety net
-    return {process.exitCode(), process.readAllStandardOutput(), process.readAllStandardError()};
-}
-
 } // namespace
 
 TEST(GlobalAddressCommand, PrintsTheFirstAddressThatPasses)
