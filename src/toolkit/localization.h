@@ -18,6 +18,8 @@ constexpr const char* textKey(const char* key)
     return key;
 }
 } // namespace Tarvel
+// Still callable unqualified, but lupdate files such calls under the caller's class, so the
+// translation check names them.
 using Tarvel::localized;
 
 // Installs the translation for the system language, with English as the fallback (English
