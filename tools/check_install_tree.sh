@@ -7,14 +7,7 @@ root=${1:?usage: check_install_tree.sh ROOT [TARVEL]}
 root=${root%/}
 tarvel=${2:-$root/usr/bin/tarvel}
 share=$root/usr/share
-passed=0 failed=0
-pass() { passed=$((passed + 1)); echo "ok: $1"; }
-fail() { failed=$((failed + 1)); echo "FAIL: $1"; }
-check() { # description, command...
-  local what=$1; shift
-  local said
-  if said=$("$@" 2>&1); then pass "$what"; else fail "$what"; [ -n "$said" ] && echo "$said" | sed 's/^/    /'; fi
-}
+source "$(dirname "${BASH_SOURCE[0]}")/check_steps.sh"
 # Tools that print their complaints but exit 0 (man's warnings): any output is a failure.
 silent() { local said; said=$("$@" 2>&1 >/dev/null); [ -z "$said" ] || { echo "$said"; return 1; }; }
 
@@ -56,5 +49,4 @@ version=$("$tarvel" --version | awk '{print $2}')
 check "changelog's newest entry is version $version" \
   test "$(zcat "$doc/changelog.gz" | sed -n '1s/^tarvel (\([^)]*\)).*/\1/p')" = "$version"
 
-echo "checks: $passed passed, $failed failed"
-[ "$failed" -eq 0 ]
+checkSummary checks

@@ -4,14 +4,7 @@
 # removing it leaves nothing behind. Needs root (apt-get), as in CI.
 set -uo pipefail
 here=$(cd "$(dirname "${BASH_SOURCE[0]}")/.." && pwd)
-passed=0 failed=0
-pass() { passed=$((passed + 1)); echo "ok: $1"; }
-fail() { failed=$((failed + 1)); echo "FAIL: $1"; }
-check() { # description, command...
-  local what=$1; shift
-  local said
-  if said=$("$@" 2>&1); then pass "$what"; else fail "$what"; [ -n "$said" ] && echo "$said" | sed 's/^/    /'; fi
-}
+source "$here/tools/check_steps.sh"
 apt() { DEBIAN_FRONTEND=noninteractive apt-get -y -q -o DPkg::Lock::Timeout=600 "$@"; }
 
 # A tarvel left installed by an earlier run would hide what this package installs.
@@ -56,5 +49,4 @@ done <<<"$installed"
 check "nothing of it remains (${#left[@]} left)" test ${#left[@]} -eq 0
 [ ${#left[@]} -eq 0 ] || printf '    left: %s\n' "${left[@]}"
 
-echo "package: $passed passed, $failed failed"
-[ "$failed" -eq 0 ]
+checkSummary package
