@@ -1,5 +1,6 @@
 // The monitor's metrics export end to end: settings switch it, a taken port or a bad address is
 // reported without stopping anything, and a scrape sees what the cycle sampled.
+#include "support/socket_answer.h"
 #include "test_app.h"
 
 #include "app/metrics_export.h"
@@ -24,15 +25,7 @@ QByteArray scrape(quint16 port)
     QTcpSocket socket;
     socket.connectToHost(QHostAddress(QHostAddress::LocalHost), port);
     socket.write("GET /metrics HTTP/1.1\r\n\r\n");
-    QByteArray answer;
-    const bool closed = QTest::qWaitFor(
-        [&] {
-            answer += socket.readAll();
-            return socket.state() == QAbstractSocket::UnconnectedState;
-        },
-        5000);
-    EXPECT_TRUE(closed);
-    return answer + socket.readAll();
+    return readUntilClosed(socket);
 }
 
 // The value of the series named with its labels; NaN when the text has none.

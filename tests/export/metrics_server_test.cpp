@@ -3,6 +3,7 @@
 #include "export/metrics_builder.h"
 #include "export/metrics_server.h"
 #include "export_test_figures.h"
+#include "support/socket_answer.h"
 
 #include <QTcpSocket>
 #include <QTest>
@@ -40,15 +41,7 @@ protected:
             socket.flush();
             QTest::qWait(20);
         }
-        QByteArray answer;
-        const bool closed = QTest::qWaitFor(
-            [&] {
-                answer += socket.readAll();
-                return socket.state() == QAbstractSocket::UnconnectedState;
-            },
-            5000);
-        EXPECT_TRUE(closed) << "the server left the connection open";
-        return answer + socket.readAll();
+        return readUntilClosed(socket);
     }
 
     MetricsServer server_{{1024, 2, 60000}, nullptr};
