@@ -1,6 +1,7 @@
 // A private Wayland compositor for the end-to-end tests: weston's headless backend on a socket
 // of its own, in a runtime folder of its own.
 #include "headless_weston.h"
+#include "server_process.h"
 
 #include <QCoreApplication>
 #include <QDeadlineTimer>
@@ -41,10 +42,5 @@ HeadlessWeston::HeadlessWeston()
 
 HeadlessWeston::~HeadlessWeston()
 {
-    if (server_.state() == QProcess::NotRunning)
-        return;
-    server_.terminate();
-    if (!server_.waitForFinished(5000))
-        server_.kill();
-    server_.waitForFinished();
+    stopServer(server_);
 }

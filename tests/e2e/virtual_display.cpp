@@ -1,5 +1,6 @@
 // A virtual X display (Xvfb) for the end-to-end tests, on the first free display number.
 #include "virtual_display.h"
+#include "server_process.h"
 
 VirtualDisplay::VirtualDisplay(QSize size)
 {
@@ -19,10 +20,5 @@ VirtualDisplay::VirtualDisplay(QSize size)
 
 VirtualDisplay::~VirtualDisplay()
 {
-    if (server_.state() == QProcess::NotRunning)
-        return;
-    server_.terminate();
-    if (!server_.waitForFinished(5000))
-        server_.kill();
-    server_.waitForFinished();
+    stopServer(server_);
 }
