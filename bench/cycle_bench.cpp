@@ -1,9 +1,9 @@
 // Prints the cost of one full sampling cycle body, live and on the captured fixture tree.
 #include "allocation_counter.h"
+#include "every_module_due.h"
 
 #include "app/sampling_cycle.h"
 #include "collect/load_system_information.h"
-#include "modules/module_registry.h"
 
 #include <QCoreApplication>
 
@@ -12,16 +12,6 @@
 #include <filesystem>
 
 namespace {
-
-// Every module switched on and due every cycle: the heaviest regular cycle.
-CycleInput everyModuleDue()
-{
-    CycleInput input;
-    for (std::size_t i = 0; i < moduleRegistry().size(); ++i)
-        input.due[i] = moduleRegistry()[i]->sample != nullptr;
-    input.seconds.fill(1);
-    return input;
-}
 
 void measure(const char* label, const std::filesystem::path& root, int cycles)
 {

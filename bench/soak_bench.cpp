@@ -1,10 +1,10 @@
 // Runs a day of one-second sampling cycles back to back on a changing tree and prints the
 // process's memory and open descriptors at the start, along the way and at the end.
 #include "changing_tree.h"
+#include "every_module_due.h"
 
 #include "app/sampling_cycle.h"
 #include "collect/load_system_information.h"
-#include "modules/module_registry.h"
 
 #include <QCoreApplication>
 #include <QTemporaryDir>
@@ -49,16 +49,6 @@ void report(const char* label, std::uint64_t cycle, const Footprint& f)
     std::printf("%-6s cycle %6llu  resident %7ld kB  private %7ld kB  descriptors %4ld\n", label,
                 static_cast<unsigned long long>(cycle), f.residentKb, f.privateKb, f.descriptors);
     std::fflush(stdout);
-}
-
-CycleInput everyModuleDue()
-{
-    CycleInput input;
-    for (std::size_t i = 0; i < moduleRegistry().size(); ++i)
-        input.due[i] = moduleRegistry()[i]->sample != nullptr;
-    // The fake clock: every cycle covers one second, however long it took.
-    input.seconds.fill(1);
-    return input;
 }
 
 } // namespace
