@@ -29,6 +29,10 @@ BarItemWidget::BarItemWidget(const QString& moduleKey, QWidget* parent)
 
 void BarItemWidget::setImage(const QImage& image, bool templated)
 {
+    // Most pictures are drawn again every second but change far less often (a text, a level):
+    // an unchanged one costs neither a repaint nor a trip to the X server.
+    if (templated == templated_ && image == image_)
+        return;
     const QSize before = sizeHint();
     image_ = image;
     templated_ = templated;

@@ -32,8 +32,10 @@ TrayStatusItem::~TrayStatusItem()
 
 void TrayStatusItem::setImage(const QImage& image, bool /*templated*/)
 {
-    if (!icon_ || image.isNull())
+    // Setting an icon sends the whole picture to the tray host; an unchanged one is not sent.
+    if (!icon_ || image.isNull() || image == shownImage_)
         return;
+    shownImage_ = image;
     // Trays have no notion of a tinted template picture; its plain form reads well enough.
     icon_->setIcon(QIcon(QPixmap::fromImage(squareTrayImage(image))));
     // Shown only once there is a picture, so no empty slot flashes up at start.

@@ -3,6 +3,7 @@
 
 #include "modules/status_bar.h"
 
+#include <QImage>
 #include <QPointer>
 
 class QMenu;
@@ -21,4 +22,5 @@ public:
 private:
     QPointer<QSystemTrayIcon> icon_;
     QPointer<QMenu> menu_;
+    QImage shownImage_;
 };
