@@ -1,11 +1,12 @@
 // The least a bar window can cost: six 22-point pictures redrawn once a second into images and
-// shown in a frameless window kept above the others. The budget bench measures it beside the
-// monitor's own bar window.
+// shown in a frameless window kept above the others (or, with --tray, as six tray icons). The
+// budget bench measures it beside the monitor's own bar window or tray items.
 #include <QApplication>
 #include <QImage>
 #include <QPainter>
 #include <QPainterPath>
 #include <QScreen>
+#include <QSystemTrayIcon>
 #include <QTimer>
 #include <QWidget>
 
@@ -22,9 +23,15 @@ constexpr int kSpacing = 4;
 
 class FloorBar final : public QWidget {
 public:
-    FloorBar()
+    explicit FloorBar(bool inTray)
         : QWidget(nullptr, Qt::Tool | Qt::FramelessWindowHint | Qt::WindowStaysOnTopHint)
     {
+        if (inTray) {
+            for (auto& icon : trayIcons_) {
+                icon = new QSystemTrayIcon(this);
+                icon->show();
+            }
+        }
         setAutoFillBackground(true);
         // Along the bottom edge, so that on a screen shared with the monitor's bar (along the
         // top) both can be seen.
@@ -77,11 +84,18 @@ private:
             painter.drawText(QRectF(0, 0, kWidth, kHeight), Qt::AlignCenter,
                              QString::number(history.back() * 100, 'f', 1) + QLatin1Char('%'));
         }
-        update();
+        if (trayIcons_[0] == nullptr) {
+            update();
+            return;
+        }
+        for (int p = 0; p < kPictures; ++p)
+            trayIcons_[static_cast<std::size_t>(p)]->setIcon(
+                QIcon(QPixmap::fromImage(pictures_[static_cast<std::size_t>(p)])));
     }
 
     std::array<std::deque<double>, kPictures> histories_;
     std::array<QImage, kPictures> pictures_;
+    std::array<QSystemTrayIcon*, kPictures> trayIcons_{};
     int second_ = 0;
 };
 
@@ -90,7 +104,9 @@ private:
 int main(int argc, char** argv)
 {
     QApplication app(argc, argv);
-    FloorBar bar;
-    bar.show();
+    const bool inTray = QCoreApplication::arguments().contains(QStringLiteral("--tray"));
+    FloorBar bar(inTray);
+    if (!inTray)
+        bar.show();
     return QApplication::exec();
 }

@@ -1,7 +1,7 @@
-// Runs the monitor's bar window beside the least a bar window can cost (tarvel_bar_floor) on one
-// virtual screen, and the monitor's text view (no display) beside them; reads all three once a
-// second, and prints the processor time and memory of each, the bar window's share over the
-// floor, and how their memory grows.
+// Runs the monitor's bar window (or, with --tray, its tray items in trayer) beside the least the
+// same can cost (tarvel_bar_floor) on one virtual screen, and the monitor's text view (no display)
+// beside them; reads all three once a second, and prints the processor time and memory of each,
+// the monitor's share over the floor, and how their memory grows.
 #include "modules/module_registry.h"
 #include "prefs/module_id.h"
 #include "prefs/plist_settings_store.h"
@@ -30,6 +30,7 @@ struct Options {
     QString tarvel;
     int seconds = 90;
     QString display; // empty: the first free one from :90 on
+    bool tray = false;
     QStringList tarvelArguments;
 };
 
@@ -40,6 +41,8 @@ std::optional<Options> parseOptions(const QStringList& args)
         const QString& arg = args.at(i);
         if (arg == QLatin1String("--seconds") && i + 1 < args.size())
             options.seconds = std::max(4, args.at(++i).toInt());
+        else if (arg == QLatin1String("--tray"))
+            options.tray = true;
         else if (arg == QLatin1String("--display") && i + 1 < args.size())
             options.display = args.at(++i);
         else if (arg == QLatin1String("--")) {
@@ -205,8 +208,10 @@ int main(int argc, char** argv)
     const auto options = parseOptions(app.arguments());
     if (!options) {
         std::fprintf(stderr,
-                     "usage: tarvel_process_budget TARVEL [--seconds N] [--display :N] [-- TARVEL ARGUMENTS...]\n"
-                     "Runs TARVEL --bar and tarvel_bar_floor on one Xvfb screen, and TARVEL's text view\n"
+                     "usage: tarvel_process_budget TARVEL [--seconds N] [--display :N] [--tray]\n"
+                     "                             [-- TARVEL ARGUMENTS...]\n"
+                     "Runs TARVEL --bar and tarvel_bar_floor on one Xvfb screen (with --tray: TARVEL's tray\n"
+                     "items and the floor's tray icons in trayer), and TARVEL's text view\n"
                      "(no display), for N seconds (default 90) after %d s of warm-up, every module\n"
                      "sampling every second.\n",
                      kWarmUpSeconds);
@@ -234,8 +239,21 @@ int main(int argc, char** argv)
     writeBudgetSettings(settings);
     writeBudgetSettings(textSettings);
 
-    Run floor("floor");
-    Run tarvel("tarvel --bar");
+    // The tray: trayer holds it, over XEmbed (no session bus, so no StatusNotifierItem host).
+    QProcess trayer;
+    if (options->tray) {
+        env.remove(QStringLiteral("DBUS_SESSION_BUS_ADDRESS"));
+        trayer.setProcessEnvironment(env);
+        trayer.start(QStringLiteral("trayer"), {QStringLiteral("--edge"), QStringLiteral("bottom"),
+                                                QStringLiteral("--widthtype"), QStringLiteral("request")});
+        if (!trayer.waitForStarted()) {
+            std::fprintf(stderr, "trayer could not be started\n");
+            return 1;
+        }
+        QThread::sleep(2);
+    }
+    Run floor(options->tray ? "floor tray" : "floor");
+    Run tarvel(options->tray ? "tarvel tray" : "tarvel --bar");
     Run text("tarvel text");
     const std::vector<Run*> runs{&floor, &tarvel, &text};
     for (Run* run : runs) {
@@ -249,8 +267,11 @@ int main(int argc, char** argv)
     noDisplay.remove(QStringLiteral("QT_QPA_PLATFORM"));
     text.process.setProcessEnvironment(noDisplay);
     text.process.setStandardOutputFile(QProcess::nullDevice());
-    floor.process.start(QCoreApplication::applicationDirPath() + QStringLiteral("/tarvel_bar_floor"), {});
-    tarvel.process.start(options->tarvel, QStringList{QStringLiteral("--bar"), QStringLiteral("--settings"), settings} +
+    const QStringList mode{options->tray ? QStringLiteral("--tray") : QStringLiteral("--bar")};
+    floor.process.start(QCoreApplication::applicationDirPath() + QStringLiteral("/tarvel_bar_floor"),
+                        options->tray ? mode : QStringList{});
+    tarvel.process.start(options->tarvel, (options->tray ? QStringList{} : mode) +
+                                              QStringList{QStringLiteral("--settings"), settings} +
                                               options->tarvelArguments);
     text.process.start(options->tarvel,
                        QStringList{QStringLiteral("--settings"), textSettings} + options->tarvelArguments);
@@ -259,7 +280,7 @@ int main(int argc, char** argv)
     if (started)
         QThread::sleep(kWarmUpSeconds);
     const bool ran = started && measure(runs, options->seconds);
-    for (QProcess* process : {&text.process, &tarvel.process, &floor.process, &xvfb}) {
+    for (QProcess* process : {&text.process, &tarvel.process, &floor.process, &trayer, &xvfb}) {
         process->terminate();
         process->waitForFinished();
     }
