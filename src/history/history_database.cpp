@@ -161,6 +161,9 @@ HistoryDatabase::OpenResult HistoryDatabase::openOnce()
     close();
     db_ = QSqlDatabase::addDatabase(QStringLiteral("QSQLITE"), connectionName_);
     db_.setDatabaseName(path_);
+    // A second monitor on the same history (the text view beside the tray, `serve` beside the
+    // bar) writes its minute too: wait for its transaction rather than lose ours.
+    db_.setConnectOptions(QStringLiteral("QSQLITE_BUSY_TIMEOUT=2000"));
     if (!db_.open()) {
         close();
         return OpenResult::Unavailable;
@@ -239,7 +242,7 @@ bool HistoryDatabase::writeMinute(const MinuteBatch& batch)
         return true;
     // A failed write on a file that still passes its check (a full disk) is this minute lost,
     // nothing more; one that fails it is set aside and the minute goes to a new file.
-    qCWarning(lcHistory) << "history write failed:" << db_.lastError().text();
+    qCWarning(lcHistory) << "history write failed:" << failure_.text();
     if (openOnce() != OpenResult::Damaged)
         return false;
     return setAsideAndReopen() && writeInTransaction(batch);
@@ -247,8 +250,10 @@ bool HistoryDatabase::writeMinute(const MinuteBatch& batch)
 
 bool HistoryDatabase::writeInTransaction(const MinuteBatch& batch)
 {
-    if (!db_.transaction())
+    if (!db_.transaction()) {
+        failure_ = db_.lastError();
         return false;
+    }
     const std::int64_t hour = batch.minute >= 0 ? batch.minute / 60 : -((-batch.minute + 59) / 60);
     bool ok = true;
     for (const MinuteEntry& entry : batch.entries) {
@@ -260,19 +265,25 @@ bool HistoryDatabase::writeInTransaction(const MinuteBatch& batch)
         for (const qint64 value : {*id, batch.minute, entry.count, entry.sum, entry.min, entry.max})
             query.addBindValue(value);
         ok = query.exec();
-        if (!ok)
+        if (!ok) {
+            failure_ = query.lastError();
             break;
+        }
     }
     // Once an hour: the hours before this one are complete, and rolled up before their minutes
     // can be pruned.
     if (ok && prunedHour_ != hour) {
         statements_->rollUp.addBindValue(qint64{hour});
         ok = statements_->rollUp.exec() && prune(batch.minute);
+        if (!ok)
+            failure_ = statements_->rollUp.lastError();
     }
     if (ok && db_.commit()) {
         prunedHour_ = hour;
         return true;
     }
+    if (ok)
+        failure_ = db_.lastError();
     db_.rollback();
     // Series made in the failed transaction are gone with it.
     loadSeriesIds();

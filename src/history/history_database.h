@@ -6,6 +6,7 @@
 
 #include <QHash>
 #include <QSqlDatabase>
+#include <QSqlError>
 #include <QString>
 
 #include <cstdint>
@@ -66,5 +67,7 @@ private:
     std::unique_ptr<Statements> statements_;
     QHash<QString, std::int64_t> seriesIds_; // "module\nseries"
     std::optional<std::int64_t> prunedHour_;
+    // Why the last write failed, for the warning.
+    QSqlError failure_;
     std::optional<QString> setAside_;
 };

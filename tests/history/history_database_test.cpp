@@ -197,4 +197,41 @@ TEST_F(HistoryFile, AWriterKilledInTheMiddleOfAMinuteLosesThatMinuteOnly)
     EXPECT_EQ(all(writer, Resolution::Hour).front(), (Aggregate{kStart / kHour, 120, 59.5, 0, 119}));
 }
 
+
+TEST_F(HistoryFile, AWriterWaitsForAnotherMonitorsMinuteRatherThanLosingItsOwn)
+{
+    HistoryWriter writer(path(), clock());
+    writer.record({cpu(10)});
+    now += kMinute;
+    writer.record({cpu(20)});
+    ASSERT_EQ(writer.writes(), 1);
+    int ready[2];
+    ASSERT_EQ(pipe(ready), 0);
+    const pid_t child = fork();
+    ASSERT_NE(child, -1);
+    if (child == 0) {
+        // Another monitor's connection, in the middle of its own minute's transaction.
+        QSqlDatabase other = QSqlDatabase::addDatabase(QStringLiteral("QSQLITE"), QStringLiteral("other"));
+        other.setDatabaseName(path());
+        QSqlQuery query(other);
+        const bool held = other.open() && query.exec(QStringLiteral("BEGIN IMMEDIATE"));
+        const char said = held ? '1' : '0';
+        [[maybe_unused]] const auto written = write(ready[1], &said, 1);
+        usleep(300'000);
+        query.exec(QStringLiteral("COMMIT"));
+        _exit(0);
+    }
+    char said = 0;
+    ASSERT_EQ(read(ready[0], &said, 1), 1);
+    ASSERT_EQ(said, '1');
+    now += kMinute;
+    writer.record({cpu(30)});
+    EXPECT_EQ(writer.writes(), 2);
+    int status = 0;
+    waitpid(child, &status, 0);
+    close(ready[0]);
+    close(ready[1]);
+    EXPECT_EQ(all(writer, Resolution::Minute).size(), 2);
+}
+
 } // namespace
