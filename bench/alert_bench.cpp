@@ -38,6 +38,10 @@ InfoDict fullHistories()
     MemorySample memory;
     memory.fill(1000);
     fill(info, ModuleId::Memory, memory);
+    History<SwapUsage> swap;
+    for (std::size_t i = 0; i < History<SwapUsage>::kMaxSamples; ++i)
+        swap = swap.appended(SwapUsage{8LL << 30, 6LL << 30, 2LL << 30});
+    info.setHistory(kSwapHistorySlot, swap);
     fill(info, ModuleId::Network, NetworkSample{1 << 20, 1 << 24, 1, {}});
     DiskSample disks{{}, 1};
     for (int i = 0; i < 8; ++i)
@@ -56,12 +60,13 @@ InfoDict fullHistories()
     return info;
 }
 
-// One rule per figure, half of them past their thresholds and holding for a day.
+// Ten rules, one per figure (swap among them) but the fastest fan, half of them past their
+// thresholds and holding for a day.
 QList<AlertRule> tenRules()
 {
     QList<AlertRule> rules;
     bool breached = false;
-    for (const AlertFigureInfo& figure : alertFigures()) {
+    for (const AlertFigureInfo& figure : alertFigures().first(10)) {
         const double threshold = breached ? -1e9 : 1e9;
         rules.append({figure.figure, true, threshold, threshold, kAlertMaxHoldSeconds, true});
         breached = !breached;

@@ -12,6 +12,7 @@ namespace {
 constexpr std::array<AlertFigureInfo, kAlertFigureCount> kFigures{{
     {AlertFigure::CpuBusy, "CpuBusy", ModuleId::Cpu, Tarvel::textKey("CPU busy"), "%", 90, true},
     {AlertFigure::MemoryUsed, "MemoryUsed", ModuleId::Memory, Tarvel::textKey("Memory in use"), "%", 90, true},
+    {AlertFigure::SwapUsed, "SwapUsed", ModuleId::Memory, Tarvel::textKey("Swap in use"), "%", 50, true},
     {AlertFigure::NetworkDown, "NetworkDown", ModuleId::Network, Tarvel::textKey("Download rate"), "KB/s", 1, false},
     {AlertFigure::NetworkUp, "NetworkUp", ModuleId::Network, Tarvel::textKey("Upload rate"), "KB/s", 1024, true},
     {AlertFigure::DiskRead, "DiskRead", ModuleId::Disk, Tarvel::textKey("Disk read rate"), "KB/s", 102400, true},

@@ -16,6 +16,7 @@
 enum class AlertFigure {
     CpuBusy,
     MemoryUsed,
+    SwapUsed,
     NetworkDown,
     NetworkUp,
     DiskRead,
@@ -26,7 +27,7 @@ enum class AlertFigure {
     FanFastest,
 };
 
-inline constexpr std::size_t kAlertFigureCount = 10;
+inline constexpr std::size_t kAlertFigureCount = 11;
 
 struct AlertFigureInfo {
     AlertFigure figure;

@@ -51,6 +51,18 @@ std::optional<double> memoryUsed(const InfoDict& info, std::int64_t totalPages)
     return 100.0 * static_cast<double>(total - free - cached) / static_cast<double>(total);
 }
 
+// Of the swap space there is; none without swap (nothing to fill) or without a reading of this
+// cycle: the Memory step empties the swap history when its sample came without one.
+std::optional<double> swapUsed(const InfoDict& info)
+{
+    const History<SwapUsage> history = info.history<SwapUsage>(kSwapHistorySlot);
+    if (history.empty() || history.back().total <= 0)
+        return std::nullopt;
+    const SwapUsage& swap = history.back();
+    return 100.0 * static_cast<double>(std::clamp(swap.used, std::int64_t{0}, swap.total)) /
+           static_cast<double>(swap.total);
+}
+
 // Counters become a rate over the seconds the newest sample covers; a counter that went back
 // (an interface reset, a wrap) gives no rate rather than a huge one.
 std::optional<double> rate(std::int64_t before, std::int64_t after, double seconds)
@@ -127,6 +139,8 @@ std::optional<double> readAlertFigure(AlertFigure figure, const InfoDict& info, 
         return cpuBusy(info);
     case AlertFigure::MemoryUsed:
         return memoryUsed(info, context.memoryTotalPages);
+    case AlertFigure::SwapUsed:
+        return swapUsed(info);
     case AlertFigure::NetworkDown:
         return networkRate(info, true);
     case AlertFigure::NetworkUp:

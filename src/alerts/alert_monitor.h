@@ -23,6 +23,8 @@ public:
     const AlertEngine& engine() const { return engine_; }
     // Whether any switched-on rule watches a figure of the module.
     bool watches(ModuleId module) const;
+    // Whether any switched-on rule watches the figure (the cycle collects some only on asking).
+    bool watches(AlertFigure figure) const { return watched_[alertFigureIndex(figure)]; }
 
     // After a cycle: evaluates every switched-on rule and notifies of those that fire.
     void cycleFinished(const InfoDict& info, const AlertFigureContext& context);

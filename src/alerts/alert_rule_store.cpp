@@ -9,9 +9,11 @@ namespace AlertRuleStore {
 
 QList<AlertRule> offeredRules()
 {
+    // What is worth watching on any machine: temperatures and fans are left out, as not every
+    // machine reports them.
     return {AlertRule::offered(AlertFigure::CpuBusy, 90, 80, 60),
             AlertRule::offered(AlertFigure::VolumeFullest, 95, 90, 0),
-            AlertRule::offered(AlertFigure::TempAverage, 85, 80, 60)};
+            AlertRule::offered(AlertFigure::SwapUsed, 50, 40, 60)};
 }
 
 QList<AlertRule> load(SettingsStore& store)

@@ -322,6 +322,7 @@ void AppDelegate::loadSysInfoTimer()
     input.volumeBase = volumeTracker_->sharedVolumeBaseDict();
     input.sensors = sensorDatDict_;
     input.exportWanted = exportWanted_;
+    input.swapWanted = swapWanted();
     // The body holds the executor itself, not the member: while the controller is destroyed the
     // member is already empty as the executor waits for this body to finish.
     CycleExecutor* executor = executor_.get();

@@ -182,6 +182,10 @@ private:
     void reloadAlertRules();
     // Evaluates the alert rules on the histories the cycle has just produced.
     void checkAlerts();
+    // Whether the cycle is to collect swap usage beside the Memory sample.
+    bool swapWanted() const;
+    // Tells every status item whether one of its module's rules is firing.
+    void markAlertingModules();
     void drainPrefNotifications();
     void processFontOrColor(const QVariantMap& info, bool& skipRest);
     void processModuleNotif(ModuleId id, const QVariantMap& info, bool removeFirst, bool refreshItems);

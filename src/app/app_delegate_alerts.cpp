@@ -2,10 +2,19 @@
 #include "app/app_delegate.h"
 
 #include "alerts/alert_rule_store.h"
+#include "modules/menu_module.h"
 
 void AppDelegate::reloadAlertRules()
 {
     alerts_.setRules(AlertRuleStore::load(*userDefaults_));
+    // An edited rule starts quiet: a mark it had set goes with it.
+    markAlertingModules();
+}
+
+bool AppDelegate::swapWanted() const
+{
+    // The cycle observer is the long-term history's feed, which keeps the swap in use.
+    return cycleObserver_ != nullptr || alerts_.watches(AlertFigure::SwapUsed);
 }
 
 void AppDelegate::checkAlerts()
@@ -22,4 +31,14 @@ void AppDelegate::checkAlerts()
             context.memoryTotalPages = totals->totalPages;
     }
     alerts_.cycleFinished(infoDict_, context);
+    markAlertingModules();
+}
+
+void AppDelegate::markAlertingModules()
+{
+    // Each item draws again only when its own state changed.
+    for (const auto& module : modules_) {
+        if (module)
+            module->setAlerting(alerts_.engine().moduleAlerting(module->moduleId()));
+    }
 }

@@ -33,7 +33,8 @@ InfoDict loadCycleSysInfo(LoadSystemInformation& loadInfo, CycleInput cycle)
         const ModuleDescriptor& module = *moduleRegistry()[i];
         if (module.sample == nullptr || !cycle.due[i])
             continue;
-        module.sample({loadInfo, i, cycle.seconds[i], cycle.menuOpened[i], volumes, sensors}, cycle.info);
+        module.sample({loadInfo, i, cycle.seconds[i], cycle.menuOpened[i], volumes, sensors, cycle.swapWanted},
+                      cycle.info);
     }
     return std::move(cycle.info);
 }

@@ -26,6 +26,8 @@ struct CycleInput {
     std::shared_ptr<const SensorDatDict> sensors;
     // Someone serves the figures to scrapers: the export's own figures are gathered too.
     bool exportWanted = false;
+    // Swap usage goes with the Memory sample (see kSwapHistorySlot); an extra read, so only on asking.
+    bool swapWanted = false;
 };
 
 struct CycleOutput {

@@ -46,8 +46,9 @@ QList<Figure> memoryFigures(const InfoDict& info, LoadSystemInformation& loadInf
             figures.append(
                 {module, QLatin1String(name), FigureUnit::Bytes, static_cast<double>(sample[figure]) * page});
     }
-    if (const std::optional<SwapUsage> swap = loadInfo.loadSwapUsage())
-        figures.append({module, QStringLiteral("swap used"), FigureUnit::Bytes, static_cast<double>(swap->used)});
+    // Collected with the sample while the history is kept; none when it could not be read.
+    if (const History<SwapUsage> swap = info.history<SwapUsage>(kSwapHistorySlot); !swap.empty())
+        figures.append({module, QStringLiteral("swap used"), FigureUnit::Bytes, static_cast<double>(swap.back().used)});
     return figures;
 }
 

@@ -16,5 +16,6 @@ QString historyModuleKey(ModuleId id);
 // The figures of the module's newest sample: CPU busy %, memory used/app/cached and swap used,
 // network up/down and disk read/write per device in bytes per second, volume used % per mount
 // point, the temperature average and each sensor, the fans' average. Empty when the module has
-// no sample (or, for rates, only one). Runs on the cycle's thread: swap usage is read there.
+// no sample (or, for rates, only one). Swap usage is the one the cycle collected beside the
+// Memory sample (kSwapHistorySlot): the cycle must be asked for it while the history is kept.
 QList<Figure> headlineFigures(ModuleId id, const InfoDict& info, LoadSystemInformation& loadInfo);

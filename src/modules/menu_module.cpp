@@ -5,6 +5,7 @@
 #include "modules/history_figures.h"
 #include "modules/menu_history_graph.h"
 #include "modules/module_registry.h"
+#include "toolkit/alert_mark.h"
 
 #include <QActionEvent>
 #include <QCoreApplication>
@@ -117,11 +118,21 @@ qreal MenuModule::pictureScale() const
     return qGuiApp != nullptr ? qGuiApp->devicePixelRatio() : 1.0;
 }
 
+void MenuModule::setAlerting(bool alerting)
+{
+    if (alerting == alerting_)
+        return;
+    alerting_ = alerting;
+    // Before the first picture there is nothing to mark: that one is drawn with the mark.
+    if (!shownImage_.isNull())
+        refreshBar();
+}
+
 void MenuModule::showImage(const QImage& image)
 {
-    shownImage_ = image;
+    shownImage_ = alerting_ ? TvlClasses::tvlMarkedForAlert(image) : image;
     if (statusItem)
-        statusItem->setImage(image, menuOpened());
+        statusItem->setImage(shownImage_, menuOpened());
 }
 
 ModuleDefaults MenuModule::withMenuLayout() const

@@ -104,6 +104,10 @@ public:
     QMenu* menu() const { return statusMenu; }
     // The picture the status item shows now.
     const QImage& shownImage() const { return shownImage_; }
+    // Whether one of the module's alert rules is firing: its picture then carries a mark. Told
+    // every cycle; the picture is drawn again only when the answer changes.
+    void setAlerting(bool alerting);
+    bool alerting() const { return alerting_; }
     StatusItem* item() const { return statusItem.get(); }
 
     // The graph the open menu shows, drawn now; a null image for a module whose menu has none.
@@ -163,4 +167,5 @@ private:
     bool settingsRead_ = false;
     qreal pictureScale_ = 0; // 0: the screen's
     QImage shownImage_;
+    bool alerting_ = false;
 };

@@ -29,6 +29,8 @@ struct SampleRequest {
     bool menuOpened; // its menu is open: what only the menu shows is wanted too
     const VolumeBaseDict& volumes;
     const SensorDatDict& sensors; // the sensor table of start-up
+    // Swap usage is wanted beside the Memory sample (an alert rule on it, the long-term history).
+    bool swapWanted = false;
 };
 
 // What a module's part of the snapshot report reads, after the last cycle.

@@ -9,6 +9,11 @@
 
 namespace {
 
+template <class Sample> void append(InfoDict& info, std::size_t slot, Sample sample)
+{
+    info.setHistory(slot, info.history<Sample>(slot).appended(std::move(sample)));
+}
+
 template <class Sample> void append(InfoDict& info, ModuleId module, Sample sample)
 {
     const std::size_t slot = moduleIndex(module);
@@ -59,6 +64,14 @@ TEST(AlertFigures, SharesAndReadingsComeFromTheNewestSample)
     EXPECT_DOUBLE_EQ(*read(AlertFigure::MemoryUsed, info, 1200), 50.0);
     // Counters that add up to more than the total (they are read without a lock) are the total.
     EXPECT_DOUBLE_EQ(*read(AlertFigure::MemoryUsed, info, 500), 40.0);
+
+    // Swap: of the space there is; none without a reading beside the newest Memory sample, and
+    // none on a machine without swap rather than a share of nothing.
+    EXPECT_FALSE(read(AlertFigure::SwapUsed, info));
+    append(info, kSwapHistorySlot, SwapUsage{4096, 3072, 1024});
+    EXPECT_DOUBLE_EQ(*read(AlertFigure::SwapUsed, info), 25.0);
+    append(info, kSwapHistorySlot, SwapUsage{0, 0, 0});
+    EXPECT_FALSE(read(AlertFigure::SwapUsed, info));
 
     VolumeSample volumes;
     volumes.volumes[QStringLiteral("/")] = {1000, 500, 500, QStringLiteral("root")};

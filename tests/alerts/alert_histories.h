@@ -3,6 +3,7 @@
 
 #include "collect/cpu_sample.h"
 #include "collect/info_dict.h"
+#include "collect/memory_sample.h"
 #include "collect/network_sample.h"
 #include "collect/sensor_dat.h"
 #include "prefs/module_id.h"
@@ -13,6 +14,14 @@ inline void appendCpuBusy(InfoDict& info, int busy)
     const std::size_t slot = moduleIndex(ModuleId::Cpu);
     const CpuSample sample{{busy, 0, 0, 100 - busy}, {busy, 0, 0, 100 - busy}};
     info.setHistory(slot, info.history<CpuSample>(slot).appended(sample));
+}
+
+// Appends the swap usage the Memory step collects beside its sample: percent of 4 GiB in use.
+inline void appendSwapUsed(InfoDict& info, int percent)
+{
+    constexpr std::int64_t total = 4LL << 30;
+    const SwapUsage swap{total, total - total * percent / 100, total * percent / 100};
+    info.setHistory(kSwapHistorySlot, info.history<SwapUsage>(kSwapHistorySlot).appended(swap));
 }
 
 inline void appendTempAverage(InfoDict& info, qint64 degrees)

@@ -7,6 +7,8 @@
 #include <gtest/gtest.h>
 
 #include <functional>
+#include <ostream>
+#include <string>
 
 namespace {
 
@@ -39,31 +41,66 @@ struct AlertMonitorTest : ::testing::Test {
     std::map<int, qsizetype> countAt;
 };
 
-TEST_F(AlertMonitorTest, FiresOnceAfterExactlyItsHoldAndAgainOnlyAfterClearingAtTheLowerThreshold)
+// One row per kind of figure: a threshold, a value past it, one between the clearing point and
+// the threshold, and the clearing point itself.
+struct HoldCase {
+    const char* name;
+    AlertFigure figure;
+    std::function<void(InfoDict&, int)> append;
+    int threshold, clearAt, past, between;
+    const char* title;
+    const char* text;
+};
+
+void PrintTo(const HoldCase& c, std::ostream* out)
 {
-    monitor.setRules({rule(AlertFigure::CpuBusy, true, 90, 80, 60)});
-    play(0, 120, cpu(95));
+    *out << c.name;
+}
+
+struct AlertHoldTest : AlertMonitorTest, ::testing::WithParamInterface<HoldCase> {
+    std::function<void(InfoDict&)> at(int value) const
+    {
+        return [append = GetParam().append, value](InfoDict& i) { append(i, value); };
+    }
+};
+
+TEST_P(AlertHoldTest, FiresOnceAfterExactlyItsHoldAndAgainOnlyAfterClearingAtTheLowerThreshold)
+{
+    const HoldCase& c = GetParam();
+    monitor.setRules({rule(c.figure, true, c.threshold, c.clearAt, 60)});
+    play(0, 120, at(c.past));
     EXPECT_EQ(countAt[59], 0);
     EXPECT_EQ(countAt[60], 1);
     EXPECT_EQ(countAt[120], 1) << "a breach that goes on is told once";
     ASSERT_EQ(notifier.received().size(), 1);
-    EXPECT_EQ(notifier.received()[0].title, QStringLiteral("Alert: CPU busy"));
-    EXPECT_EQ(notifier.received()[0].text, QStringLiteral("Now 95 %, over 90 % for 1 min."));
+    EXPECT_EQ(notifier.received()[0].title, QString::fromUtf8(c.title));
+    EXPECT_EQ(notifier.received()[0].text, QString::fromUtf8(c.text));
+    EXPECT_TRUE(monitor.engine().moduleAlerting(alertFigureInfo(c.figure).module));
 
     // Between the clearing point and the threshold the rule neither clears nor fires again.
-    play(121, 121, cpu(85));
-    play(122, 190, cpu(95));
+    play(121, 121, at(c.between));
+    play(122, 190, at(c.past));
     EXPECT_EQ(countAt[190], 1);
 
-    // Cleared at 80; a new breach must hold its whole minute again, and a lapse restarts it.
-    play(191, 191, cpu(80));
-    play(192, 219, cpu(95));
-    play(220, 220, cpu(89));
-    play(221, 300, cpu(95));
+    // Cleared at the clearing point; a new breach must hold its whole minute again, and a lapse
+    // restarts it.
+    play(191, 191, at(c.clearAt));
+    EXPECT_FALSE(monitor.engine().moduleAlerting(alertFigureInfo(c.figure).module));
+    play(192, 219, at(c.past));
+    play(220, 220, at(c.threshold));
+    play(221, 300, at(c.past));
     EXPECT_EQ(countAt[280], 1);
     EXPECT_EQ(countAt[281], 2);
     EXPECT_EQ(countAt[300], 2);
 }
+
+INSTANTIATE_TEST_SUITE_P(
+    Figures, AlertHoldTest,
+    ::testing::Values(HoldCase{"CpuBusy", AlertFigure::CpuBusy, &appendCpuBusy, 90, 80, 95, 85, "Alert: CPU busy",
+                               "Now 95 %, over 90 % for 1 min."},
+                      HoldCase{"SwapUsed", AlertFigure::SwapUsed, &appendSwapUsed, 50, 40, 75, 45,
+                               "Alert: Swap in use", "Now 75 %, over 50 % for 1 min."}),
+    [](const ::testing::TestParamInfo<HoldCase>& row) { return std::string(row.param.name); });
 
 TEST_F(AlertMonitorTest, AnEditedRuleRestartsWhileUnchangedOnesKeepTheirStateAcrossASettingsChange)
 {

@@ -29,6 +29,8 @@ TEST(AlertRuleStore, WithoutAStoredListThreeRulesAreOfferedAllSwitchedOff)
         EXPECT_FALSE(rule.enabled);
         EXPECT_TRUE(rule.cleared(rule.clearAt)) << alertFigureInfo(rule.figure).id;
     }
+    // Only figures every machine has: a busy processor, a full volume, swap filling up.
+    EXPECT_EQ(rules[2], (AlertRule{AlertFigure::SwapUsed, true, 50, 40, 60, false}));
     // A list the user emptied stays empty.
     AlertRuleStore::save(store, {});
     EXPECT_TRUE(AlertRuleStore::load(store).isEmpty());

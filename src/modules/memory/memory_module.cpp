@@ -54,11 +54,22 @@ ModuleSchema memorySchema()
             &deriveMemory};
 }
 
-// The paging counts are the dearest read of the tick: only an open menu shows them.
+// The paging counts are the dearest read of the tick: only an open menu shows them. Swap usage
+// is another file to read, so it is taken only when asked for, and its history is emptied when
+// this sample comes without it: beside the newest Memory sample it is always of the same cycle.
 void sampleMemory(const SampleRequest& request, InfoDict& info)
 {
-    if (auto sample = request.loadInfo.loadMemoryData(request.menuOpened))
-        appendSample(request, info, *sample);
+    auto sample = request.loadInfo.loadMemoryData(request.menuOpened);
+    if (!sample)
+        return;
+    appendSample(request, info, *sample);
+    const std::optional<SwapUsage> swap =
+        request.swapWanted ? request.loadInfo.loadSwapUsage() : std::optional<SwapUsage>();
+    const History<SwapUsage> swaps = info.history<SwapUsage>(kSwapHistorySlot);
+    if (swap)
+        info.setHistory(kSwapHistorySlot, swaps.appended(*swap));
+    else if (info.exists(kSwapHistorySlot))
+        info.setHistory(kSwapHistorySlot, History<SwapUsage>());
 }
 
 const char* const kMemoryFigures[] = {"wired",    "active",      "inactive",   "free",        "pageins",
