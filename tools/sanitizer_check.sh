@@ -9,8 +9,11 @@ export LSAN_OPTIONS=suppressions=$here/tools/lsan.supp:print_suppressions=0
 export UBSAN_OPTIONS=halt_on_error=1:print_stacktrace=1
 "$here/tools/setup.sh" "$here/build/asan" -DCMAKE_BUILD_TYPE=Debug -DTARVEL_WERROR=ON -DTARVEL_ASAN=ON \
   -DTARVEL_BUILD_BENCH=OFF "$@"
+built=$(date +%s)
+echo "sanitizer build: $(( built - start )) s"
 cd "$here/build/asan"
 status=0
 QT_QPA_PLATFORM=offscreen ctest --output-on-failure -j"$(nproc)" || status=$?
+echo "sanitizer tests: $(( $(date +%s) - built )) s"
 echo "sanitizer check: $(( $(date +%s) - start )) s"
 exit "$status"
