@@ -29,7 +29,14 @@ MenuModule::~MenuModule()
 {
     // The item goes first, so no front end is left pointing at the menu.
     statusItem.reset();
-    delete statusMenu;
+    // The menu tells its watchers while it is already half destroyed (a QWidget no longer a
+    // QMenu): let go of it before, so that neither the filter nor a slot looks at it as one.
+    if (QMenu* menu = statusMenu.data()) {
+        statusMenu = nullptr;
+        menu->removeEventFilter(this);
+        disconnect(menu, nullptr, this, nullptr);
+        delete menu;
+    }
 }
 
 void MenuModule::initDrawStatusBar(StatusBar& bar)
