@@ -1402,5 +1402,9 @@ new ver : %@</source>
         <source>Now %1, under %2 for %3.</source>
         <translation>現在 %1、%3 の間 %2 を下回っています。</translation>
     </message>
+    <message>
+        <source>Swap in use</source>
+        <translation>スワップ使用率</translation>
+    </message>
 </context>
 </TS>
