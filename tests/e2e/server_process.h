@@ -1,14 +1,15 @@
-// Ends a display server the end-to-end tests started: politely first, then for good.
+// Ends a process the end-to-end tests started (a display server, the monitor): politely first,
+// then for good.
 #pragma once
 
 #include <QProcess>
 
-inline void stopServer(QProcess& server)
+inline void stopServer(QProcess& server, int graceMs = 5000)
 {
     if (server.state() == QProcess::NotRunning)
         return;
     server.terminate();
-    if (!server.waitForFinished(5000))
+    if (!server.waitForFinished(graceMs))
         server.kill();
     server.waitForFinished();
 }

@@ -1,6 +1,7 @@
 // The virtual X screen that the end-to-end tests run tarvel on, and what they look for on it.
 #pragma once
 
+#include "server_process.h"
 #include "virtual_display.h"
 
 #include <QDeadlineTimer>
@@ -196,15 +197,8 @@ protected:
         return {};
     }
 
-    static void stop(QProcess& process)
-    {
-        if (process.state() == QProcess::NotRunning)
-            return;
-        process.terminate();
-        if (!process.waitForFinished(10000))
-            process.kill();
-        process.waitForFinished();
-    }
+    // The monitor may be in a slow cycle under a loaded machine: give it time to end cleanly.
+    static void stop(QProcess& process) { stopServer(process, 10000); }
 
     QTemporaryDir dir_;
     std::unique_ptr<VirtualDisplay> display_;
