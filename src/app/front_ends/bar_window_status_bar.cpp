@@ -127,7 +127,10 @@ void BarWindowStatusBar::menuHidden()
 
 bool BarWindowStatusBar::eventFilter(QObject* watched, QEvent* event)
 {
-    if (watched != openMenu_.data())
+    // A menu being destroyed still passes its last events through here, as a plain widget by
+    // then: it is no longer the open menu, and must not be looked at as one.
+    const auto* menu = qobject_cast<const QMenu*>(watched);
+    if (menu == nullptr || menu != openMenu_)
         return QWidget::eventFilter(watched, event);
     switch (event->type()) {
     case QEvent::MouseButtonPress:
