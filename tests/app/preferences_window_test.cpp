@@ -22,6 +22,7 @@
 #include <QLabel>
 #include <QScreen>
 #include <QSpinBox>
+#include <QElapsedTimer>
 #include <QTest>
 #include <gtest/gtest.h>
 
@@ -75,8 +76,7 @@ TEST_F(PreferencesTest, WindowHasOneTabPerModuleTitledWithTheApplication)
     EXPECT_TRUE(window->windowTitle().endsWith(QStringLiteral(" Preferences")));
     // Closing the window frees it; opening builds it again, on the tab asked for.
     window->close();
-    QTest::qWait(10);
-    EXPECT_EQ(t.app->preferencePanel(), nullptr);
+    EXPECT_TRUE(QTest::qWaitFor([&] { return t.app->preferencePanel() == nullptr; }, 5000));
     t.app->openPreferenceTab(1);
     ASSERT_NE(t.app->preferencePanel(), nullptr);
     EXPECT_EQ(t.app->preferencePanel()->currentTab(), 1);
@@ -163,13 +163,21 @@ TEST_F(PreferencesTest, ABurstOfColourChangesIsWrittenOnceAndReloadedOnce)
     QObject::connect(t.app.get(), &AppDelegate::allModulesReloaded, [&] { ++reloads; });
     ColorWell* well = top().colorSection()->well(QStringLiteral("A01"));
     ASSERT_NE(well, nullptr);
+    QElapsedTimer burst;
+    burst.start();
     for (int i = 0; i < 10; ++i) {
         Q_EMIT well->colorChanged(QColor(10 * i, 0, 0, 200));
         QTest::qWait(50);
     }
+    const qint64 burstMs = burst.elapsed();
     QTest::qWait(1000 + 2 * kSettleMs);
-    EXPECT_EQ(writes, 1);
-    EXPECT_EQ(reloads, 1);
+    // A machine so loaded that the burst outlasted the one-second delay makes two bursts of it.
+    if (burstMs < 1000) {
+        EXPECT_EQ(writes, 1);
+        EXPECT_EQ(reloads, 1);
+    }
+    EXPECT_GE(writes, 1);
+    EXPECT_EQ(reloads, writes);
     const QColor stored = TvlClasses::retColorFromArray(themeFile().value(QStringLiteral("A01")));
     EXPECT_EQ(stored.red(), 90);
     EXPECT_EQ(stored.alpha(), 200);

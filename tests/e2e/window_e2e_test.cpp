@@ -90,10 +90,16 @@ TEST_F(VirtualScreenTest, TrayHostReceivesTheIcons)
     EXPECT_TRUE(grown) << "panel " << emptyPanel.width() << " wide before, " << panel.width() << " after";
     EXPECT_LT(windowGeometry(QStringLiteral("Tarvel")).width(), screenSize().width())
         << "a bar window was shown instead";
-    const QImage screen = grab();
+    // The slots come first; the icons draw into them when the monitor's pictures arrive.
+    QImage screen;
+    QRect icons;
+    waitUntil([&] {
+        screen = grab();
+        icons = screen.isNull() ? QRect() : boundsDifferingFrom(screen, panel, screen.pixel(panel.topLeft()));
+        return icons.width() >= panel.height() / 2;
+    });
     ASSERT_FALSE(screen.isNull());
     screen.copy(panel).save(QStringLiteral(E2E_OUTPUT_DIR "/tray.png"));
-    const QRect icons = boundsDifferingFrom(screen, panel, screen.pixel(panel.topLeft()));
     EXPECT_GE(icons.width(), panel.height() / 2) << "nothing drawn in the panel";
 }
 
