@@ -264,19 +264,15 @@ bool HistoryDatabase::writeInTransaction(const MinuteBatch& batch)
         QSqlQuery& query = statements_->minute;
         for (const qint64 value : {*id, batch.minute, entry.count, entry.sum, entry.min, entry.max})
             query.addBindValue(value);
-        ok = query.exec();
-        if (!ok) {
-            failure_ = query.lastError();
+        ok = execRecording(query);
+        if (!ok)
             break;
-        }
     }
     // Once an hour: the hours before this one are complete, and rolled up before their minutes
     // can be pruned.
     if (ok && prunedHour_ != hour) {
         statements_->rollUp.addBindValue(qint64{hour});
-        ok = statements_->rollUp.exec() && prune(batch.minute);
-        if (!ok)
-            failure_ = statements_->rollUp.lastError();
+        ok = execRecording(statements_->rollUp) && prune(batch.minute);
     }
     if (ok && db_.commit()) {
         prunedHour_ = hour;
@@ -290,6 +286,14 @@ bool HistoryDatabase::writeInTransaction(const MinuteBatch& batch)
     return false;
 }
 
+bool HistoryDatabase::execRecording(QSqlQuery& statement)
+{
+    if (statement.exec())
+        return true;
+    failure_ = statement.lastError();
+    return false;
+}
+
 std::optional<std::int64_t> HistoryDatabase::seriesId(const MinuteEntry& entry)
 {
     const QString key = seriesKey(entry.module, entry.series);
@@ -300,7 +304,7 @@ std::optional<std::int64_t> HistoryDatabase::seriesId(const MinuteEntry& entry)
     insert.addBindValue(entry.series);
     // Stored as the enumeration's number: its order is part of the file's layout.
     insert.addBindValue(static_cast<int>(entry.unit));
-    if (!insert.exec())
+    if (!execRecording(insert))
         return std::nullopt;
     const std::int64_t id = insert.lastInsertId().toLongLong();
     seriesIds_.insert(key, id);
@@ -317,7 +321,7 @@ bool HistoryDatabase::prune(std::int64_t minute)
     for (auto [query, bucket] :
          {std::pair{&statements_->pruneMinutes, oldestMinute}, std::pair{&statements_->pruneHours, oldestHour}}) {
         query->addBindValue(qint64{bucket});
-        if (!query->exec())
+        if (!execRecording(*query))
             return false;
     }
     return true;

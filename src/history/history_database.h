@@ -7,6 +7,7 @@
 #include <QHash>
 #include <QSqlDatabase>
 #include <QSqlError>
+#include <QSqlQuery>
 #include <QString>
 
 #include <cstdint>
@@ -57,6 +58,8 @@ private:
     void close();
     bool setAsideAndReopen();
     bool writeInTransaction(const MinuteBatch& batch);
+    // Runs a prepared statement of a minute's write; a failure is kept for the write's warning.
+    bool execRecording(QSqlQuery& statement);
     std::optional<std::int64_t> seriesId(const MinuteEntry& entry);
     bool prune(std::int64_t minute);
 
