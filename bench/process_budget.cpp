@@ -267,11 +267,11 @@ int main(int argc, char** argv)
     noDisplay.remove(QStringLiteral("QT_QPA_PLATFORM"));
     text.process.setProcessEnvironment(noDisplay);
     text.process.setStandardOutputFile(QProcess::nullDevice());
-    const QStringList mode{options->tray ? QStringLiteral("--tray") : QStringLiteral("--bar")};
-    floor.process.start(QCoreApplication::applicationDirPath() + QStringLiteral("/tarvel_bar_floor"),
-                        options->tray ? mode : QStringList{});
-    tarvel.process.start(options->tarvel, (options->tray ? QStringList{} : mode) +
-                                              QStringList{QStringLiteral("--settings"), settings} +
+    // The floor is told to use the tray; the monitor finds it by itself and is told only --bar.
+    const QStringList floorArguments = options->tray ? QStringList{QStringLiteral("--tray")} : QStringList{};
+    const QStringList tarvelMode = options->tray ? QStringList{} : QStringList{QStringLiteral("--bar")};
+    floor.process.start(QCoreApplication::applicationDirPath() + QStringLiteral("/tarvel_bar_floor"), floorArguments);
+    tarvel.process.start(options->tarvel, tarvelMode + QStringList{QStringLiteral("--settings"), settings} +
                                               options->tarvelArguments);
     text.process.start(options->tarvel,
                        QStringList{QStringLiteral("--settings"), textSettings} + options->tarvelArguments);
