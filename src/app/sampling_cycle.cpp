@@ -8,6 +8,7 @@ namespace SamplingCycle {
 
 CycleOutput runBody(LoadSystemInformation& loadInfo, CycleInput input)
 {
+    loadInfo.beginCycle();
     // Every cycle, sampled or not, so that the base is current when the Network menu opens. The
     // base lives in the collector: this thread replaces it, the main thread reads snapshots.
     if (!loadInfo.checkInterfaceStatusChange())

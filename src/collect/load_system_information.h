@@ -72,6 +72,12 @@ public:
     std::size_t memoryPageSize() const;
     // Swap space over every swap area; empty when the swap list cannot be read.
     std::optional<SwapUsage> loadSwapUsage();
+    // Forgets what this cycle has read so far; the cycle calls it as it starts, on its thread.
+    void beginCycle();
+    // This cycle's figures for the steps after the modules' (the export): what a module's step
+    // read in this cycle, else read now, so no file is read twice and none is from an old cycle.
+    std::optional<SwapUsage> cycleSwapUsage();
+    std::optional<MemoryTotals> cycleMemoryTotals();
     // The swap areas and the hibernation image; empty when the swap list cannot be read.
     std::optional<MemoryOptionDelayData> loadMemoryOptionDelayData();
 
@@ -167,6 +173,9 @@ private:
     std::mutex diskLock;
     std::optional<MemoryTotals> lastMemoryTotals;
     std::mutex memoryLock;
+    // This cycle's readings; only the cycle's thread touches them.
+    std::optional<SwapUsage> cycleSwap_;
+    std::optional<MemoryTotals> cycleTotals_;
     InterfaceStatusTable netIncDict;
     bool netIncKnown = false; // netIncDict holds a look at the interfaces
 

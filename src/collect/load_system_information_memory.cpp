@@ -22,8 +22,9 @@ std::optional<MemorySample> LoadSystemInformation::loadMemoryData(bool withPagin
         zswapEnabled = memory->zswapEnabled();
     auto sample = memorySampleFrom(*counters, pageSize, zswapEnabled);
     if (sample) {
+        cycleTotals_ = memoryTotalsFrom(*counters, pageSize);
         const std::lock_guard guard(memoryLock);
-        lastMemoryTotals = memoryTotalsFrom(*counters, pageSize);
+        lastMemoryTotals = cycleTotals_;
     }
     return sample;
 }
@@ -48,7 +49,30 @@ std::size_t LoadSystemInformation::memoryPageSize() const
 std::optional<SwapUsage> LoadSystemInformation::loadSwapUsage()
 {
     const auto areas = sources_.memory ? sources_.memory->swapAreas() : std::nullopt;
-    return areas ? std::optional(swapUsageFrom(*areas)) : std::nullopt;
+    cycleSwap_ = areas ? std::optional(swapUsageFrom(*areas)) : std::nullopt;
+    return cycleSwap_;
+}
+
+void LoadSystemInformation::beginCycle()
+{
+    cycleSwap_.reset();
+    cycleTotals_.reset();
+}
+
+std::optional<SwapUsage> LoadSystemInformation::cycleSwapUsage()
+{
+    return cycleSwap_ ? cycleSwap_ : loadSwapUsage();
+}
+
+std::optional<MemoryTotals> LoadSystemInformation::cycleMemoryTotals()
+{
+    if (cycleTotals_)
+        return cycleTotals_;
+    MemorySource* memory = sources_.memory.get();
+    const auto counters = memory ? memory->memoryCounters(false) : std::nullopt;
+    if (counters)
+        cycleTotals_ = memoryTotalsFrom(*counters, memory->pageSize());
+    return cycleTotals_;
 }
 
 std::optional<MemoryOptionDelayData> LoadSystemInformation::loadMemoryOptionDelayData()

@@ -11,7 +11,7 @@ ExportExtras collectExportExtras(LoadSystemInformation& loadInfo)
         extras.loads = sources.cpu->loadAverages();
     if (sources.network)
         extras.interfaces = sources.network->counters();
-    extras.swap = loadInfo.loadSwapUsage();
-    extras.memory = loadInfo.memoryTotals();
+    extras.swap = loadInfo.cycleSwapUsage();
+    extras.memory = loadInfo.cycleMemoryTotals();
     return extras;
 }
