@@ -87,7 +87,11 @@ struct HistoryDatabase::Statements {
     {}
     bool prepare()
     {
-        return insertSeries.prepare(QStringLiteral("INSERT INTO series (module, name, unit) VALUES (?, ?, ?)")) &&
+        // Another monitor on the same file may have added the series since this one listed them:
+        // then its row is the one to use.
+        return insertSeries.prepare(QStringLiteral("INSERT INTO series (module, name, unit) VALUES (?, ?, ?) "
+                                                   "ON CONFLICT (module, name) DO UPDATE SET module = module "
+                                                   "RETURNING id")) &&
                minute.prepare(upsert("minutes")) && rollUp.prepare(QLatin1String(kRollUp)) &&
                pruneMinutes.prepare(QStringLiteral("DELETE FROM minutes WHERE bucket < ?")) &&
                pruneHours.prepare(QStringLiteral("DELETE FROM hours WHERE bucket < ?"));
@@ -304,9 +308,10 @@ std::optional<std::int64_t> HistoryDatabase::seriesId(const MinuteEntry& entry)
     insert.addBindValue(entry.series);
     // Stored as the enumeration's number: its order is part of the file's layout.
     insert.addBindValue(static_cast<int>(entry.unit));
-    if (!execRecording(insert))
+    if (!execRecording(insert) || !insert.next())
         return std::nullopt;
-    const std::int64_t id = insert.lastInsertId().toLongLong();
+    const std::int64_t id = insert.value(0).toLongLong();
+    insert.finish();
     seriesIds_.insert(key, id);
     return id;
 }

@@ -198,6 +198,24 @@ TEST_F(HistoryFile, AWriterKilledInTheMiddleOfAMinuteLosesThatMinuteOnly)
 }
 
 
+TEST_F(HistoryFile, TwoMonitorsStartingTheSameSeriesShareItsRow)
+{
+    // Both list the series at opening, before either has any; each then adds the same one.
+    HistoryWriter first(path(), clock());
+    HistoryWriter second(path(), clock());
+    first.record({cpu(10)});
+    second.record({cpu(30)});
+    now += kMinute;
+    first.record({cpu(20)});
+    second.record({cpu(40)});
+    EXPECT_EQ(first.writes(), 1);
+    EXPECT_EQ(second.writes(), 1);
+    const QList<SeriesHistory> series = first.database().read("cpu", Resolution::Minute, -(1LL << 40), 1LL << 40);
+    ASSERT_EQ(series.size(), 1);
+    ASSERT_EQ(series.front().buckets.size(), 1);
+    EXPECT_EQ(series.front().buckets.front().count, 2) << "both monitors' samples of the minute";
+}
+
 TEST_F(HistoryFile, AWriterWaitsForAnotherMonitorsMinuteRatherThanLosingItsOwn)
 {
     HistoryWriter writer(path(), clock());
