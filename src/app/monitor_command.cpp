@@ -10,6 +10,7 @@
 #include "app/front_ends/window_probe.h"
 #include "app/history_feed.h"
 #include "app/metrics_export.h"
+#include "app/working_set.h"
 #include "collect/source_set.h"
 #include "history/history_location.h"
 #include "history/history_service.h"
@@ -62,6 +63,7 @@ int runTextView(const AppOptions& options, int argc, char** argv)
     MetricsExport metrics(delegate);
     delegate.applicationDidFinishLaunching();
     metrics.followSettings();
+    WorkingSet::trimFromTimeToTime(&app);
     return QCoreApplication::exec();
 }
 
@@ -107,5 +109,6 @@ int runMonitor(const AppOptions& options, int argc, char** argv)
     showStatus(metrics.status());
     if (options.preferencesTab)
         delegate.openPreferenceTab(*options.preferencesTab);
+    WorkingSet::trimFromTimeToTime(&app);
     return QApplication::exec();
 }

@@ -3,6 +3,7 @@
 #include "app/commands.h"
 #include "app/front_ends/quit_on_signal.h"
 #include "app/metrics_export.h"
+#include "app/working_set.h"
 #include "collect/source_set.h"
 #include "export/metrics_server.h"
 #include "prefs/plist_settings_store.h"
@@ -35,5 +36,6 @@ int runServe(const AppOptions& options, int argc, char** argv)
     QTextStream(stdout) << metricsUrl(address->host, metrics.server().port()) << '\n';
     std::fflush(stdout);
     delegate.applicationDidFinishLaunching();
+    WorkingSet::trimFromTimeToTime(&app);
     return QCoreApplication::exec();
 }
