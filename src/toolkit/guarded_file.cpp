@@ -5,6 +5,7 @@
 #include <QFile>
 #include <QFileInfo>
 
+#include <algorithm>
 #include <cerrno>
 #include <sys/stat.h>
 #include <unistd.h>
@@ -41,8 +42,20 @@ std::optional<QByteArray> readBounded(const QString& path, qint64 limit)
     QFile file(path);
     if (!file.open(QIODevice::ReadOnly))
         return std::nullopt;
-    // One byte past the limit tells a file at the limit from a longer one (it may grow meanwhile).
-    QByteArray bytes = file.read(limit + 1);
+    // Read in pieces up to one byte past the limit, which tells a file at the limit from a longer
+    // one (it may grow meanwhile). Asking Qt for limit + 1 bytes at once would allocate the whole
+    // limit, tens of megabytes, for every small settings file.
+    QByteArray bytes;
+    bytes.reserve(std::min(std::max<qint64>(file.size(), 0), limit) + 1);
+    char piece[16 * 1024];
+    while (bytes.size() <= limit) {
+        const qint64 read = file.read(piece, std::min<qint64>(sizeof piece, limit + 1 - bytes.size()));
+        if (read < 0)
+            return std::nullopt;
+        if (read == 0)
+            break;
+        bytes.append(piece, read);
+    }
     if (bytes.size() > limit)
         return std::nullopt;
     return bytes;
