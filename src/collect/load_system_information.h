@@ -171,6 +171,8 @@ private:
     // a partition. Looked up rather than re-read, so a tick costs one read of the statistics.
     std::map<std::string, std::optional<QString>, std::less<>> diskKeys;
     std::mutex diskLock;
+    // The totals read afresh, without the page-in counts.
+    std::optional<MemoryTotals> readMemoryTotals();
     std::optional<MemoryTotals> lastMemoryTotals;
     std::mutex memoryLock;
     // This cycle's readings; only the cycle's thread touches them.

@@ -36,6 +36,11 @@ std::optional<MemoryTotals> LoadSystemInformation::memoryTotals()
         if (lastMemoryTotals)
             return lastMemoryTotals;
     }
+    return readMemoryTotals();
+}
+
+std::optional<MemoryTotals> LoadSystemInformation::readMemoryTotals()
+{
     MemorySource* memory = sources_.memory.get();
     const auto counters = memory ? memory->memoryCounters(false) : std::nullopt;
     return counters ? memoryTotalsFrom(*counters, memory->pageSize()) : std::nullopt;
@@ -66,12 +71,8 @@ std::optional<SwapUsage> LoadSystemInformation::cycleSwapUsage()
 
 std::optional<MemoryTotals> LoadSystemInformation::cycleMemoryTotals()
 {
-    if (cycleTotals_)
-        return cycleTotals_;
-    MemorySource* memory = sources_.memory.get();
-    const auto counters = memory ? memory->memoryCounters(false) : std::nullopt;
-    if (counters)
-        cycleTotals_ = memoryTotalsFrom(*counters, memory->pageSize());
+    if (!cycleTotals_)
+        cycleTotals_ = readMemoryTotals();
     return cycleTotals_;
 }
 
