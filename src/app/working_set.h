@@ -28,9 +28,9 @@ struct Range {
 // writable segment is kept; an object with text relocations has none of them (its code was written).
 std::vector<Range> unchangingPages(const std::vector<Segment>& segments, bool textRelocations, std::size_t pageSize);
 
-// Drops the unchanging pages of every loaded object from this process and asks the kernel to
-// map them back one at a time as they are used, instead of in runs around each; returns the
-// bytes so advised (0 where the platform has no such means).
+// Drops the unchanging pages of every loaded object from this process; the kernel maps back,
+// from its file cache, those used again. Returns the bytes so advised (0 where the platform has
+// no such means).
 std::size_t trim();
 
 // Trims a while after start-up, then now and then (menus, the preferences and the hourly work

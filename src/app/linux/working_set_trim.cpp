@@ -49,7 +49,7 @@ int trimObject(dl_phdr_info* info, std::size_t, void* data)
     for (const Range& range : unchangingPages(segments, hasTextRelocations(*info), pageSize)) {
         auto* start = reinterpret_cast<void*>(range.start);
         const std::size_t length = range.end - range.start;
-        if (::madvise(start, length, MADV_RANDOM) == 0 && ::madvise(start, length, MADV_DONTNEED) == 0)
+        if (::madvise(start, length, MADV_DONTNEED) == 0)
             advised += length;
     }
     return 0;
