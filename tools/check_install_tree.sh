@@ -15,6 +15,9 @@ desktop=$share/applications/tarvel.desktop
 check "desktop entry valid" desktop-file-validate "$desktop"
 check "desktop entry starts the program on the PATH" grep -qx 'Exec=tarvel' "$desktop"
 check "program installed and executable" test -x "$root/usr/bin/tarvel"
+# tarvel looks for the desktop program relative to its own folder.
+check "desktop program installed where tarvel looks for it" test -x "$root/usr/libexec/tarvel/tarvel-desktop"
+check "tarvel itself needs no widget toolkit" test -z "$(readelf -d "$root/usr/bin/tarvel" | grep -F libQt6Widgets)"
 check "desktop entry in System;Monitor;" grep -qx 'Categories=System;Monitor;' "$desktop"
 
 icon=$(sed -n 's/^Icon=//p' "$desktop")

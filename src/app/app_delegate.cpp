@@ -11,7 +11,6 @@
 #include "app/volume_tracker.h"
 #include "modules/module_prefs.h"
 #include "modules/module_registry.h"
-#include "preferences/preferences_window.h"
 #include "prefs/pref_functions.h"
 #include "prefs/pref_keys.h"
 #include "prefs/theme_appearance.h"
@@ -48,12 +47,13 @@ AppDelegate::~AppDelegate()
 {
     // Wait for a running cycle before the collector and the dictionaries go away.
     executor_.reset();
-    delete preferencePanel_;
+    preferencesHost_.reset();
 }
 
-void AppDelegate::setStatusBar(StatusBar* bar)
+void AppDelegate::setStatusBar(StatusBar* bar, ModuleItemFactory createItem)
 {
     statusBar_ = bar;
+    createItem_ = createItem;
     if (notifier_ != nullptr)
         notifier_->setFallback(bar);
 }
@@ -130,7 +130,7 @@ void AppDelegate::applicationDidFinishLaunching(bool startTimer)
     // and its widgets and the font list would only take memory.
     checkDrawMenu();
     volumeTracker_->startWatching();
-    if (statusBar_ != nullptr && preferencesAvailable_ &&
+    if (statusBar_ != nullptr && preferencesHost_ != nullptr &&
         qobject_cast<QGuiApplication*>(QCoreApplication::instance()) != nullptr) {
         appearanceWatcher_ = new AppearanceWatcher(this);
         connect(appearanceWatcher_, &AppearanceWatcher::appearanceChanged, this, &AppDelegate::changeAppearanceMode);
@@ -191,7 +191,7 @@ void AppDelegate::reloadModuleDefaults(ModuleId id)
 
 bool AppDelegate::menuOpened(ModuleId id) const
 {
-    const MenuModule* module = menuModule(id);
+    const ModuleItem* module = moduleItem(id);
     return module != nullptr && module->menuOpened();
 }
 
@@ -203,9 +203,9 @@ bool AppDelegate::switchedOn(ModuleId id) const
 void AppDelegate::moduleAlloc(ModuleId id)
 {
     auto& slot = modules_[moduleIndex(id)];
-    if (slot || statusBar_ == nullptr)
+    if (slot || statusBar_ == nullptr || createItem_ == nullptr)
         return;
-    slot = createMenuModule(id, this);
+    slot = createItem_(id, this);
     if (!slot)
         return;
     slot->setMyDefaults(defaults(id));
@@ -218,7 +218,7 @@ void AppDelegate::moduleAlloc(ModuleId id)
 
 void AppDelegate::reDrawModule(ModuleId id, bool full)
 {
-    MenuModule* module = menuModule(id);
+    ModuleItem* module = moduleItem(id);
     if (!switchedOn(id))
         return;
     Q_EMIT moduleRedrawRequested(id, full);
@@ -273,7 +273,7 @@ void AppDelegate::checkDrawMenu()
     }
     // Shown once at start; later rebuilds only bring an open window to the front again.
     if (chkGeneBool(PrefKey::DisplayTopWindowAtStartup) && statusBar_ != nullptr && startupWindowAllowed_ &&
-        (!startupWindowShown_ || (preferencePanel_ != nullptr && preferencePanel_->isVisible()))) {
+        (!startupWindowShown_ || (preferencesHost_ != nullptr && preferencesHost_->isVisible()))) {
         startupWindowShown_ = true;
         QTimer::singleShot(kStartupWindowDelayMs, this,
                            [this] { openPreferenceTab(static_cast<int>(openedTabNum) - 1); });
@@ -352,10 +352,8 @@ void AppDelegate::redrawStep(const CycleOutput& output)
             reDrawModule(module->schema.id, false);
     }
     // Previews follow the live data only while someone can see them.
-    if (preferencePanel_ != nullptr && preferencePanel_->isVisible()) {
-        for (int i = 0; i < preferencePanel_->tabCount(); ++i)
-            preferencePanel_->tab(i)->setLiveHistory(infoDict_);
-    }
+    if (preferencesHost_ != nullptr)
+        preferencesHost_->setLiveHistory(infoDict_);
     loadSysInfoTimerFinishedBool = false;
     checkDdns(false);
     Q_EMIT cycleFinished();

@@ -2,16 +2,16 @@
 #pragma once
 
 #include "alerts/alert_monitor.h"
+#include "app/preferences_host.h"
 #include "app/sampling_schedule.h"
 #include "collect/info_dict.h"
 #include "collect/load_system_information.h"
 #include "export/export_extras.h"
-#include "modules/menu_module.h"
-#include "preferences/pref_notification.h"
-#include "preferences/preference_tab.h"
-#include "preferences/preferences_window.h"
+#include "modules/menu_module_delegate.h"
+#include "modules/module_item.h"
 #include "prefs/module_defaults.h"
 #include "prefs/module_id.h"
+#include "prefs/pref_notification.h"
 #include "prefs/settings_store.h"
 
 #include <QObject>
@@ -41,13 +41,14 @@ public:
     // Replaces the thread pool, for tests that drive the cycle by hand. Call before launching.
     void setCycleExecutor(std::unique_ptr<CycleExecutor> executor);
 
-    // Where status items go; without one (snapshot) no module is created. Call before launching;
-    // the bar must outlive this controller.
-    void setStatusBar(StatusBar* bar);
+    // Where status items go, and what makes them; without a bar (snapshot, text view) no item is
+    // created. Call before launching; the bar must outlive this controller.
+    void setStatusBar(StatusBar* bar, ModuleItemFactory createItem);
     // Where messages go when no status bar is set: the text view, whose lines are not modules.
     void setMessageBar(StatusBar* bar) { messageBar_ = bar; }
-    // Whether a preferences window can be shown (not where only text lines are).
-    void setPreferencesAvailable(bool available) { preferencesAvailable_ = available; }
+    // The preferences window, where one can be shown (not where only text lines are).
+    void setPreferencesHost(std::unique_ptr<PreferencesHost> host) { preferencesHost_ = std::move(host); }
+    PreferencesHost* preferencesHost() const { return preferencesHost_.get(); }
     // Commands that draw and leave never show the window "Display preferences at startup" asks for.
     void setStartupWindowAllowed(bool allowed) { startupWindowAllowed_ = allowed; }
     // Whether each cycle also gathers the figures only the metrics export serves.
@@ -87,7 +88,7 @@ public:
     // Builds the status items from the settings: General first, then the bar order reversed.
     void checkDrawMenu();
     void moduleLaunchCheck(bool disableFirst);
-    MenuModule* menuModule(ModuleId id) const { return modules_[moduleIndex(id)].get(); }
+    ModuleItem* moduleItem(ModuleId id) const { return modules_[moduleIndex(id)].get(); }
 
     LoadSystemInformation& collector() override { return *loadInfo_; }
     SettingsStore& settingsStore() override { return *userDefaults_; }
@@ -100,10 +101,8 @@ public:
     bool chkGeneBool(const QString& key) const { return generalDefaults().boolValue(key); }
     qint64 chkGeneInteger(const QString& key) const { return generalDefaults().intValue(key); }
 
-    // The preferences window: one tab per module of the registry, created once at launch when
-    // there is a status bar to configure.
-    void drawModuleTabViewControllers();
-    PreferencesWindow* preferencePanel() const { return preferencePanel_; }
+    // The preferences window showed another tab (0-based).
+    void preferenceTabSelected(int index);
     PrefNotificationCenter& prefNotificationCenter() { return *prefCenter_; }
     // Every module's working dictionary, in module table order.
     AllModuleDefaults retAllMyDefault() const { return moduleDefaults_; }
@@ -214,7 +213,8 @@ private:
     qint64 rebootDaysInt = 0;
     qint64 rebootDaysTimerInt = 0;
     std::array<ModuleDefaults, kModuleCount> moduleDefaults_;
-    std::array<std::unique_ptr<MenuModule>, kModuleCount> modules_;
+    std::array<std::unique_ptr<ModuleItem>, kModuleCount> modules_;
+    ModuleItemFactory createItem_ = nullptr;
     SamplingSchedule schedule_;
     StatusBar* statusBar_ = nullptr;
     StatusBar* messageBar_ = nullptr;
@@ -229,12 +229,11 @@ private:
     // Declared after the settings it reads, so it goes before them and before the collector.
     std::unique_ptr<VolumeTracker> volumeTracker_;
     QTimer* sysInfoTimer_ = nullptr;
-    QPointer<PreferencesWindow> preferencePanel_;
+    std::unique_ptr<PreferencesHost> preferencesHost_;
     AppearanceWatcher* appearanceWatcher_ = nullptr;
     std::deque<PrefNotification> pendingPrefs_;
     bool prefRetryScheduled_ = false;
     bool startupWindowShown_ = false;
-    bool preferencesAvailable_ = true;
     bool startupWindowAllowed_ = true;
     bool exportWanted_ = false;
     std::optional<ExportExtras> exportExtras_;

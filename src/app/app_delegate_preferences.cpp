@@ -1,10 +1,9 @@
-// The preferences window host and the handling of its change notifications.
+// Opening the preferences window and handling the changes its tabs announce.
 #include "app/app_delegate.h"
 
 #include "app/app_logging.h"
 #include "app/appearance_watcher.h"
 #include "modules/module_registry.h"
-#include "preferences/preferences_window.h"
 #include "prefs/plist_io.h"
 #include "prefs/pref_keys.h"
 #include "prefs/theme_appearance.h"
@@ -15,7 +14,6 @@
 #include "prefs/theme_repair.h"
 #include "toolkit/localization.h"
 
-#include <QApplication>
 #include <QTimer>
 
 namespace {
@@ -33,51 +31,18 @@ bool flag(const QVariantMap& info, const char* key)
 
 } // namespace
 
-void AppDelegate::drawModuleTabViewControllers()
-{
-    if (preferencePanel_ != nullptr || !preferencesAvailable_ ||
-        qobject_cast<QApplication*>(QCoreApplication::instance()) == nullptr)
-        return;
-    preferencePanel_ = new PreferencesWindow();
-    preferencePanel_->setAttribute(Qt::WA_DeleteOnClose, false);
-    const AllModuleDefaults all = retAllMyDefault();
-    for (const ModuleSchema* schema : allModuleSchemas()) {
-        PreferenceTab* tab = createPreferenceTab(schema->id, this, *userDefaults_, *prefCenter_);
-        tab->setMyDefaults(all, themeColorDict_);
-        const QString label = schema->id == ModuleId::General ? Tarvel::localized("Hello!") : Tarvel::localized(schema->prefName);
-        preferencePanel_->addTab(tab, label);
-    }
-    // The Disk and Volume previews draw one set per disk or volume, as the items do.
-    handOutStorageDescriptions();
-    connect(preferencePanel_, &PreferencesWindow::tabSelected, this, [this](int index) {
-        openedTabNum = index + 1;
-        PreferenceTab* top = preferencePanel_->tab(0);
-        if (index == 0 && top != nullptr) {
-            top->rebuildThemeMenus();
-            top->rebuildFontMenus();
-            top->loadModuleEnabled();
-        }
-        refreshAllMenuModules();
-    });
-    connect(preferencePanel_, &PreferencesWindow::closed, this, [this] {
-        refreshAllMenuModules();
-        // Built again when next opened, from the settings of that moment.
-        preferencePanel_->deleteLater();
-    });
-}
-
 void AppDelegate::openPreferenceTab(int tabIndex)
 {
     openedTabNum = tabIndex + 1;
-    if (statusBar_ == nullptr)
+    if (statusBar_ == nullptr || preferencesHost_ == nullptr)
         return;
-    drawModuleTabViewControllers();
-    if (preferencePanel_ == nullptr)
-        return;
-    preferencePanel_->openTab(tabIndex);
-    // Previews start from what was sampled so far, not from the next cycle.
-    for (int i = 0; i < preferencePanel_->tabCount(); ++i)
-        preferencePanel_->tab(i)->setLiveHistory(infoDict_);
+    preferencesHost_->openTab(tabIndex, infoDict_);
+}
+
+void AppDelegate::preferenceTabSelected(int index)
+{
+    openedTabNum = index + 1;
+    refreshAllMenuModules();
 }
 
 QList<QImage> AppDelegate::shownBarImages() const
@@ -85,10 +50,10 @@ QList<QImage> AppDelegate::shownBarImages() const
     QList<QImage> images;
     for (const QVariant& code : generalDefaults().listValue(PrefKey::TopItemSortArray)) {
         const auto id = moduleForSortCode(code.toLongLong());
-        if (id && menuModule(*id) != nullptr && !menuModule(*id)->shownImage().isNull())
-            images.append(menuModule(*id)->shownImage());
+        if (id && moduleItem(*id) != nullptr && !moduleItem(*id)->shownImage().isNull())
+            images.append(moduleItem(*id)->shownImage());
     }
-    if (const MenuModule* general = menuModule(ModuleId::General);
+    if (const ModuleItem* general = moduleItem(ModuleId::General);
         general != nullptr && !general->shownImage().isNull())
         images.append(general->shownImage());
     return images;
@@ -97,7 +62,7 @@ QList<QImage> AppDelegate::shownBarImages() const
 void AppDelegate::refreshAllMenuModules()
 {
     for (const ModuleSchema* schema : allModuleSchemas()) {
-        MenuModule* module = menuModule(schema->id);
+        ModuleItem* module = moduleItem(schema->id);
         if (schema->id != ModuleId::General && module != nullptr && switchedOn(schema->id))
             module->refreshBar();
     }
@@ -160,7 +125,7 @@ void AppDelegate::processNotifFromPref(const PrefNotification& notification)
                     if (m == ModuleId::General)
                         continue;
                     reloadModuleDefaults(m);
-                    if (MenuModule* module = menuModule(m))
+                    if (ModuleItem* module = moduleItem(m))
                         module->setMyDefaults(defaults(m));
                     reDrawModule(m, true);
                 }
@@ -211,36 +176,22 @@ void AppDelegate::processFontOrColor(const QVariantMap& info, bool& skipRest)
 void AppDelegate::processModuleNotif(ModuleId id, const QVariantMap& info, bool removeFirst, bool refreshItems)
 {
     if (flag(info, NotifKey::ChangeMenuCount)) {
-        if (MenuModule* module = menuModule(id))
+        if (ModuleItem* module = moduleItem(id))
             module->resetMenuNowCount();
     }
     reloadModuleDefaults(id);
     moduleLaunchCheck(removeFirst);
     reDrawModule(id, true);
     if (refreshItems) {
-        if (MenuModule* module = menuModule(id))
+        if (ModuleItem* module = moduleItem(id))
             module->setMenuItemRefresh(true);
     }
 }
 
 void AppDelegate::handOutTabDefaults(bool themeChanged)
 {
-    if (preferencePanel_ == nullptr)
-        return;
-    const AllModuleDefaults all = retAllMyDefault();
-    for (int i = 0; i < preferencePanel_->tabCount(); ++i) {
-        preferencePanel_->tab(i)->setMyDefaults(all, themeColorDict_);
-        preferencePanel_->tab(i)->update();
-    }
-    if (!themeChanged)
-        return;
-    // Module tabs first, the top tab last: its theme and font menus list the new state.
-    for (int i = preferencePanel_->tabCount() - 1; i >= 0; --i)
-        preferencePanel_->tab(i)->resetViews(-1);
-    if (PreferenceTab* top = preferencePanel_->tab(0)) {
-        top->rebuildThemeMenus();
-        top->rebuildFontMenus();
-    }
+    if (preferencesHost_ != nullptr)
+        preferencesHost_->handOutDefaults(retAllMyDefault(), themeColorDict_, themeChanged);
 }
 
 void AppDelegate::loadThemeColorDict()
@@ -256,8 +207,8 @@ void AppDelegate::writeNowThemeFile()
     if (!PlistIo::writeDictionaryAtomically(TvlClasses::retThemeFilePath(QLatin1String(TvlClasses::kNowThemeFileName)),
                                             themeColorDict_)) {
         qCWarning(lcApp, Tarvel::textKey("The current theme could not be written."));
-        if (preferencePanel_ != nullptr)
-            preferencePanel_->showStoreFailure();
+        if (preferencesHost_ != nullptr)
+            preferencesHost_->showStoreFailure();
     }
     Q_EMIT themeFileWritten();
 }
@@ -276,7 +227,8 @@ void AppDelegate::changeAppearanceMode(bool desktopIsDark)
         TvlClasses::retAppearanceSwitchTheme(themeColorDict_, desktopIsDark, TvlClasses::retThemeList());
     if (!alternative || !TvlClasses::selectThemeFile(*alternative))
         return;
-    qCInfo(lcApp, Tarvel::textKey("The desktop's appearance changed; switching to the theme %s."), qPrintable(*alternative));
+    qCInfo(lcApp, Tarvel::textKey("The desktop's appearance changed; switching to the theme %s."),
+           qPrintable(*alternative));
     notifFromPref(PrefNotification{
         QLatin1String(moduleSchema(ModuleId::General).notification),
         {{QLatin1String(NotifKey::ModuleDefaultReload), true}, {QLatin1String(NotifKey::ModuleThemeChanged), true}}});

@@ -6,7 +6,7 @@
 
 void AppDelegate::moduleStorageRefresh(ModuleId id, bool reset)
 {
-    MenuModule* module = menuModule(id);
+    ModuleItem* module = moduleItem(id);
     if (moduleDescriptor(id).storage == StorageUse::None || module == nullptr || !switchedOn(id))
         return;
     module->setStorageDescriptions(volumeTracker_->diskBaseDict(), volumeTracker_->sharedVolumeBaseDict());
@@ -39,15 +39,13 @@ void AppDelegate::handOutStorageDescriptions()
 {
     // The modules hold copies; a rebuild from the settings must reach them without closing
     // their menus, as the mount reaction does.
-    for (const std::unique_ptr<MenuModule>& module : modules_) {
+    for (const std::unique_ptr<ModuleItem>& module : modules_) {
         if (module)
             module->setStorageDescriptions(volumeTracker_->diskBaseDict(), volumeTracker_->sharedVolumeBaseDict());
     }
-    if (preferencePanel_ == nullptr)
-        return;
-    for (int i = 0; i < preferencePanel_->tabCount(); ++i)
-        preferencePanel_->tab(i)->setStorageDescriptions(volumeTracker_->diskBaseDict(),
-                                                         volumeTracker_->sharedVolumeBaseDict());
+    if (preferencesHost_ != nullptr)
+        preferencesHost_->setStorageDescriptions(volumeTracker_->diskBaseDict(),
+                                                 volumeTracker_->sharedVolumeBaseDict());
 }
 
 void AppDelegate::applyVolumeRenames()

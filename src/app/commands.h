@@ -13,7 +13,10 @@ std::unique_ptr<PlistSettingsStore> openSettingsStore(const AppOptions& options)
 // What a command that samples says and returns when the monitor ended before its last cycle.
 int reportEndedEarly(int loopStatus);
 
+// The desktop's monitor (tray or bar window); without a display, the text view.
 int runMonitor(const AppOptions& options, int argc, char** argv);
+// The monitor as lines of text, for a terminal without a display.
+int runTextView(const AppOptions& options, int argc, char** argv);
 int runSnapshot(const AppOptions& options, int argc, char** argv);
 int runRender(const AppOptions& options, int argc, char** argv);
 int runGlobalAddress(const AppOptions& options, int argc, char** argv);

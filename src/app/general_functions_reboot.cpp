@@ -2,6 +2,7 @@
 #include "app/general_functions_reboot.h"
 
 #include "app/app_logging.h"
+#include "toolkit/program_path.h"
 
 #include <QCoreApplication>
 #include <QProcess>
@@ -12,7 +13,7 @@ void rebootMe()
 {
     qCInfo(lcApp, "Tarvel 6 reboots...");
     const QStringList arguments = QCoreApplication::arguments().mid(1);
-    if (QProcess::startDetached(QCoreApplication::applicationFilePath(), arguments))
+    if (QProcess::startDetached(Tarvel::programPath(), arguments))
         QCoreApplication::quit();
 }
 

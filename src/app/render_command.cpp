@@ -2,9 +2,11 @@
 // request the open drop-downs and the preferences window.
 #include "app/app_delegate.h"
 #include "app/commands.h"
+#include "app/front_ends/desktop_parts.h"
 #include "app/front_ends/image_status_bar.h"
 #include "app/render_panels.h"
 #include "collect/source_set.h"
+#include "modules/menu_module.h"
 #include "modules/module_registry.h"
 #include "prefs/plist_settings_store.h"
 #include "toolkit/localization.h"
@@ -25,7 +27,7 @@ bool writePictures(AppDelegate& delegate, const ImageStatusBar& bar, const AppOp
 {
     bool written = bar.writeAll(options.outDir, &names);
     for (const ModuleSchema* schema : allModuleSchemas()) {
-        MenuModule* module = delegate.menuModule(schema->id);
+        MenuModule* module = menuModule(delegate, schema->id);
         const QImage graph = module != nullptr ? module->menuGraphImage() : QImage();
         const QString name = QLatin1String(schema->moduleKey) + QStringLiteral("-menu");
         if (graph.isNull())
@@ -64,7 +66,7 @@ int runRender(const AppOptions& options, int argc, char** argv)
 
     ImageStatusBar bar;
     AppDelegate delegate(openSettingsStore(options), makeSourceSet(options.root.toStdString()));
-    delegate.setStatusBar(&bar);
+    attachDesktop(delegate, &bar);
     delegate.setPictureScale(options.scale);
     delegate.setStartupWindowAllowed(false);
     int finished = 0;

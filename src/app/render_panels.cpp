@@ -2,6 +2,7 @@
 #include "app/render_panels.h"
 
 #include "app/app_delegate.h"
+#include "app/front_ends/desktop_parts.h"
 #include "app/front_ends/image_status_bar.h"
 #include "modules/menu_module.h"
 #include "modules/module_registry.h"
@@ -43,7 +44,7 @@ bool writeDropDowns(AppDelegate& delegate, const QString& dir, qreal scale, cons
     // sampled every cycle, and its background details arrive a moment after.
     std::vector<std::pair<QString, QMenu*>> menus;
     for (const ModuleSchema* schema : allModuleSchemas()) {
-        const MenuModule* module = delegate.menuModule(schema->id);
+        const MenuModule* module = menuModule(delegate, schema->id);
         if (module == nullptr || module->menu() == nullptr)
             continue;
         module->menu()->popup(QPoint(0, 0));
@@ -65,7 +66,7 @@ bool writePreferences(AppDelegate& delegate, const QString& dir, qreal scale, QS
     bool allWritten = true;
     for (const ModuleId id : {ModuleId::General, ModuleId::Cpu}) {
         delegate.openPreferenceTab(modulePreferenceTab(id));
-        PreferencesWindow* window = delegate.preferencePanel();
+        PreferencesWindow* window = preferencesWindow(delegate);
         if (window == nullptr)
             return false;
         // As it opens on a screen with room for it, whatever the size of the offscreen one.
@@ -75,7 +76,7 @@ bool writePreferences(AppDelegate& delegate, const QString& dir, qreal scale, QS
         if (!write(dir, name, drawn(*window, scale), written))
             allWritten = false;
     }
-    delegate.preferencePanel()->close();
+    preferencesWindow(delegate)->close();
     return allWritten;
 }
 

@@ -1,4 +1,4 @@
-// Everything the application knows of one module, given by the module's own folder.
+// What the application knows of one module without a desktop, given by the module's own folder.
 #pragma once
 
 #include "collect/info_dict.h"
@@ -10,13 +10,8 @@
 #include <QString>
 
 #include <memory>
-#include <type_traits>
 
 class LoadSystemInformation;
-class MenuModule;
-class MenuModuleDelegate;
-class PreferenceTab;
-class PrefNotificationCenter;
 class SettingsStore;
 
 // What one module's step of the sampling cycle gets; it runs on the cycle's thread.
@@ -67,11 +62,6 @@ enum class StorageUse {
 struct ModuleDescriptor {
     // The module's settings: keys, first-run values, theme entries, derived values.
     ModuleSchema schema;
-    // Its status item; null while the module has none on this system.
-    std::unique_ptr<MenuModule> (*createMenuModule)(MenuModuleDelegate* delegate) = nullptr;
-    // Its preferences tab; null for a short notice in its place.
-    PreferenceTab* (*createPreferenceTab)(MenuModuleDelegate* delegate, SettingsStore& store,
-                                          PrefNotificationCenter& center) = nullptr;
     // Its step in the sampling cycle: appends a sample to its history, or leaves it unchanged
     // when the collector has none. Null for modules that keep no history.
     void (*sample)(const SampleRequest& request, InfoDict& info) = nullptr;
@@ -88,20 +78,6 @@ struct ModuleDescriptor {
 };
 
 // Factories for the descriptors' entries.
-template <class Item> std::unique_ptr<MenuModule> makeMenuModule(MenuModuleDelegate* delegate)
-{
-    return std::make_unique<Item>(delegate);
-}
-
-template <class Tab>
-PreferenceTab* makePreferenceTab(MenuModuleDelegate* delegate, SettingsStore& store, PrefNotificationCenter& center)
-{
-    if constexpr (std::is_constructible_v<Tab, MenuModuleDelegate*, SettingsStore&, PrefNotificationCenter&>)
-        return new Tab(delegate, store, center);
-    else
-        return new Tab(store, center);
-}
-
 template <class Snapshot> std::unique_ptr<ModuleSnapshot> makeSnapshot(LoadSystemInformation& loadInfo)
 {
     return std::make_unique<Snapshot>(loadInfo);

@@ -1,8 +1,6 @@
 // The registry of modules, built from the one list, and the look-ups over it.
 #include "modules/module_registry.h"
 
-#include "preferences/unbuilt_module_tab.h"
-
 #include <QString>
 
 #define TARVEL_MODULE(name) const ModuleDescriptor& name();
@@ -81,26 +79,6 @@ std::optional<ModuleId> moduleForKey(const QString& key)
             return schema->id;
     }
     return std::nullopt;
-}
-
-std::unique_ptr<MenuModule> createMenuModule(ModuleId id, MenuModuleDelegate* delegate)
-{
-    const ModuleDescriptor& descriptor = moduleDescriptor(id);
-    return descriptor.createMenuModule != nullptr ? descriptor.createMenuModule(delegate) : nullptr;
-}
-
-bool moduleHasStatusItem(ModuleId id)
-{
-    return moduleDescriptor(id).createMenuModule != nullptr;
-}
-
-PreferenceTab* createPreferenceTab(ModuleId id, MenuModuleDelegate* delegate, SettingsStore& store,
-                                   PrefNotificationCenter& center)
-{
-    const ModuleDescriptor& descriptor = moduleDescriptor(id);
-    if (descriptor.createPreferenceTab != nullptr)
-        return descriptor.createPreferenceTab(delegate, store, center);
-    return new UnbuiltModuleTab(descriptor.schema, store, center);
 }
 
 int modulePreferenceTab(ModuleId id)

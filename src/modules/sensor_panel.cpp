@@ -63,18 +63,3 @@ void SensorPanel::layOut(const QList<SensorPanelRow>& rows)
         ++r;
     }
 }
-
-QString sensorPanelText(const QList<SensorPanelRow>& rows, const QString& indent)
-{
-    QString out;
-    for (const SensorPanelRow& row : rows) {
-        QString line = indent + row.name;
-        if (row.kind == SensorPanelRow::Kind::Reading) {
-            line += QStringLiteral("  ") + row.value;
-            if (!row.marks.isEmpty())
-                line += QStringLiteral("  (") + row.marks + QLatin1Char(')');
-        }
-        out += line + QLatin1Char('\n');
-    }
-    return out;
-}

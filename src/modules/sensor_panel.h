@@ -1,26 +1,13 @@
 // The drop-down panel of the Temp and Fan menus: a heading per chip, a row per sensor or fan.
 #pragma once
 
+#include "modules/sensor_panel_row.h"
+
 #include <QList>
-#include <QString>
 #include <QWidget>
 
 class QGridLayout;
 class QLabel;
-
-struct SensorPanelRow {
-    enum class Kind {
-        Heading, // a chip's or a section's name, across the panel
-        Reading, // a name, its figure and the marks the chip gives
-        Note,    // a sentence across the panel, such as that nothing was found
-    };
-    Kind kind = Kind::Reading;
-    QString name;
-    QString value;
-    QString marks;
-
-    bool operator==(const SensorPanelRow&) const = default;
-};
 
 class SensorPanel : public QWidget {
     Q_OBJECT
@@ -48,6 +35,3 @@ private:
     QList<Line> lines_;
     QList<SensorPanelRow> rows_;
 };
-
-// Texts of the rows, one line each, for the snapshot and the terminal view.
-QString sensorPanelText(const QList<SensorPanelRow>& rows, const QString& indent);

@@ -3,7 +3,7 @@
 
 #include "collect/sensor_dat.h"
 #include "modules/module_descriptor.h"
-#include "modules/sensor_panel.h"
+#include "modules/sensor_panel_row.h"
 
 #include <QJsonObject>
 #include <QString>
@@ -12,8 +12,7 @@
 SensorSample newestSensorSample(const SnapshotContext& context);
 
 // The module's key, the bar's figure and the menu's rows, which say so when nothing was found.
-QString sensorSnapshotText(const SnapshotContext& context, const QString& barText,
-                           const QList<SensorPanelRow>& rows);
+QString sensorSnapshotText(const SnapshotContext& context, const QString& barText, const QList<SensorPanelRow>& rows);
 
 // The newest sample under the module's key: each reading by its name, and the average under
 // averageKey. Nothing before the first sample.

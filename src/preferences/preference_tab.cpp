@@ -3,7 +3,7 @@
 
 #include "alerts/alert_figure.h"
 #include "preferences/alert_editor.h"
-#include "preferences/pref_notification.h"
+#include "prefs/pref_notification.h"
 #include "prefs/settings_store.h"
 
 PreferenceTab::PreferenceTab(const ModuleSchema& schema, SettingsStore& store, PrefNotificationCenter& center,

@@ -17,9 +17,6 @@ class InfoDict;
 class PrefNotificationCenter;
 class SettingsStore;
 
-// Every module's working dictionary, in module table order.
-using AllModuleDefaults = std::array<ModuleDefaults, kModuleCount>;
-
 class PreferenceTab : public QWidget {
     Q_OBJECT
 public:

@@ -1,6 +1,8 @@
 // A module's working dictionary: its settings, resolved theme entries and derived layout values.
 #pragma once
 
+#include "prefs/module_id.h"
+
 #include <QColor>
 #include <QImage>
 #include <QList>
@@ -10,6 +12,8 @@
 #include <QStringList>
 #include <QVariant>
 #include <QVariantHash>
+
+#include <array>
 
 // A theme picture with the size, in points, it is drawn at.
 struct ThemePicture {
@@ -46,3 +50,6 @@ public:
 private:
     QVariantHash values_;
 };
+
+// Every module's working dictionary, in module table order.
+using AllModuleDefaults = std::array<ModuleDefaults, kModuleCount>;

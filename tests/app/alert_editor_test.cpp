@@ -1,5 +1,7 @@
 // The Alerts section of a module tab, driven offscreen: rules added and edited there are stored
 // under their key, read back after a restart of the window, and taken up by the application.
+#include "app/front_ends/desktop_parts.h"
+#include "preferences/preference_tab.h"
 #include "recording_status_bar.h"
 #include "test_app.h"
 
@@ -29,7 +31,7 @@ template <class Widget> QList<Widget*> shown(AlertEditor* editor, const char* na
 AlertEditor* cpuAlerts(TestApp& t)
 {
     t.app->openPreferenceTab(kCpuTab);
-    return t.app->preferencePanel()->tab(kCpuTab)->alertsSection();
+    return preferencesWindow(*t.app)->tab(kCpuTab)->alertsSection();
 }
 
 TEST(AlertEditor, ARuleAddedAndEditedIsStoredReadBackAndWatched)
@@ -66,7 +68,7 @@ TEST(AlertEditor, ARuleAddedAndEditedIsStoredReadBackAndWatched)
     EXPECT_EQ(t.app->alertMonitor().engine().rules(), expected) << "the application watches the edited rule";
 
     // A window built again reads the rows back from the store.
-    t.app->preferencePanel()->close();
+    preferencesWindow(*t.app)->close();
     QTest::qWait(10);
     editor = cpuAlerts(t);
     ASSERT_EQ(editor->shownRules().size(), 2);

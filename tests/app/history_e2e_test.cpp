@@ -3,9 +3,11 @@
 #include "support/fixture_paths.h"
 #include "test_app.h"
 
+#include "app/front_ends/desktop_parts.h"
 #include "app/history_feed.h"
 #include "history/history_reader.h"
 #include "modules/history_range_choice.h"
+#include "modules/menu_module.h"
 #include "prefs/pref_keys.h"
 
 #include <QAbstractButton>
@@ -133,7 +135,7 @@ TEST(HistoryMenu, APastRangeIsReadOnlyWhileTheMenuIsOpenAndDrawnInTheGraphsPlace
         t.queueTicks({{100u + 10u * i, 0, 0, 100u + 10u * i}});
     t.launchWithBar(bar);
     t.executor->finishCycle();
-    MenuModule& cpu = *t.app->menuModule(ModuleId::Cpu);
+    MenuModule& cpu = *menuModule(*t.app, ModuleId::Cpu);
     const auto [choice, graph] = choiceAndGraph(*cpu.menu());
     ASSERT_NE(choice, nullptr);
     ASSERT_NE(graph, nullptr);

@@ -1,5 +1,6 @@
 // The drop-down panels as a user opens them: each as large as what it shows, the busiest
 // processes listed in full from the first opening, each share on its name's line.
+#include "app/front_ends/desktop_parts.h"
 #include "recording_status_bar.h"
 #include "test_app.h"
 
@@ -62,7 +63,7 @@ TEST(MenuPanels, EveryPanelIsShownWholeAndTheProcessesFromTheFirstOpening)
     const ModuleId withPanels[] = {ModuleId::Cpu,    ModuleId::Memory, ModuleId::Network, ModuleId::Disk,
                                    ModuleId::Volume, ModuleId::Temp,   ModuleId::Fan};
     for (const ModuleId id : withPanels) {
-        MenuModule* module = t.app->menuModule(id);
+        MenuModule* module = menuModule(*t.app, id);
         ASSERT_NE(module, nullptr) << moduleSchema(id).moduleKey;
         SCOPED_TRACE(moduleSchema(id).moduleKey);
         QMenu* menu = module->menu();
@@ -103,7 +104,7 @@ TEST(MenuPanels, EveryPanelIsShownWholeAndTheProcessesFromTheFirstOpening)
     // with its panel, which is not cut.
     const std::string longName(80, 'x');
     writeProcessTree(t.root, longName, 2);
-    auto* cpu = static_cast<CPU_MenuModule*>(t.app->menuModule(ModuleId::Cpu));
+    auto* cpu = static_cast<CPU_MenuModule*>(menuModule(*t.app, ModuleId::Cpu));
     cpu->menu()->popup(QPoint(0, 0));
     waitForDetails(cpu->controller());
     EXPECT_TRUE(cpu->controller()->processNames().startsWith(QString::fromStdString(longName)));

@@ -1,4 +1,5 @@
 // Building the status items from the settings: order, switches, odd order lists, menu cadence.
+#include "app/front_ends/desktop_parts.h"
 #include "recording_status_bar.h"
 #include "test_app.h"
 
@@ -77,7 +78,7 @@ TEST(ModuleRegistry, AnOpenMenuSamplesEveryCycleAndTemplatesThePicture)
     t.queueTicks({{0, 0, 0, 0}});
     t.launchWithBar(bar);
     t.executor->finishCycle();
-    MenuModule* cpu = t.app->menuModule(ModuleId::Cpu);
+    MenuModule* cpu = menuModule(*t.app, ModuleId::Cpu);
     ASSERT_NE(cpu, nullptr);
 
     cpu->menuWillOpen();

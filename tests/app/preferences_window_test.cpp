@@ -3,6 +3,7 @@
 #include "test_app.h"
 
 #include "app/appearance_watcher.h"
+#include "app/front_ends/desktop_parts.h"
 #include "modules/general/top_tab_color_section.h"
 #include "modules/general/top_tab_theme_section.h"
 #include "modules/general/top_tab_view_controller.h"
@@ -18,11 +19,11 @@
 #include <QCheckBox>
 #include <QComboBox>
 #include <QDir>
+#include <QElapsedTimer>
 #include <QFile>
 #include <QLabel>
 #include <QScreen>
 #include <QSpinBox>
-#include <QElapsedTimer>
 #include <QTest>
 #include <gtest/gtest.h>
 
@@ -45,7 +46,7 @@ struct PreferencesTest : ::testing::Test {
 
     TopTabViewController& top()
     {
-        auto* tab = qobject_cast<TopTabViewController*>(t.app->preferencePanel()->tab(0));
+        auto* tab = qobject_cast<TopTabViewController*>(preferencesWindow(*t.app)->tab(0));
         EXPECT_NE(tab, nullptr);
         return *tab;
     }
@@ -70,27 +71,27 @@ struct PreferencesTest : ::testing::Test {
 
 TEST_F(PreferencesTest, WindowHasOneTabPerModuleTitledWithTheApplication)
 {
-    PreferencesWindow* window = t.app->preferencePanel();
+    PreferencesWindow* window = preferencesWindow(*t.app);
     ASSERT_NE(window, nullptr);
     EXPECT_EQ(window->tabCount(), 9);
     EXPECT_TRUE(window->windowTitle().endsWith(QStringLiteral(" Preferences")));
     // Closing the window frees it; opening builds it again, on the tab asked for.
     window->close();
-    EXPECT_TRUE(QTest::qWaitFor([&] { return t.app->preferencePanel() == nullptr; }, 5000));
+    EXPECT_TRUE(QTest::qWaitFor([&] { return preferencesWindow(*t.app) == nullptr; }, 5000));
     t.app->openPreferenceTab(1);
-    ASSERT_NE(t.app->preferencePanel(), nullptr);
-    EXPECT_EQ(t.app->preferencePanel()->currentTab(), 1);
-    EXPECT_TRUE(t.app->preferencePanel()->isVisible());
+    ASSERT_NE(preferencesWindow(*t.app), nullptr);
+    EXPECT_EQ(preferencesWindow(*t.app)->currentTab(), 1);
+    EXPECT_TRUE(preferencesWindow(*t.app)->isVisible());
 
     // Escape and the desktop's close keys close it too.
     for (const QKeySequence& keys : {QKeySequence(Qt::Key_Escape), QKeySequence(QKeySequence::Close)}) {
         t.app->openPreferenceTab(1);
-        window = t.app->preferencePanel();
+        window = preferencesWindow(*t.app);
         window->activateWindow();
         ASSERT_TRUE(QTest::qWaitForWindowActive(window));
         QTest::keySequence(window, keys);
         QTest::qWait(10);
-        EXPECT_EQ(t.app->preferencePanel(), nullptr) << keys.toString().toStdString();
+        EXPECT_EQ(preferencesWindow(*t.app), nullptr) << keys.toString().toStdString();
     }
 }
 
@@ -212,7 +213,7 @@ TEST_F(PreferencesTest, AFontChangeIsWrittenAtOnceAndTheThemeDetailNamesTheNewFo
 
 TEST_F(PreferencesTest, WindowFitsASmallScreenWithTheFailureLineShowing)
 {
-    PreferencesWindow* window = t.app->preferencePanel();
+    PreferencesWindow* window = preferencesWindow(*t.app);
     window->showStoreFailure();
     QApplication::processEvents();
     // A 1280 x 720 screen, less a panel and the title bar: the pages scroll instead.
@@ -241,7 +242,7 @@ TEST_F(PreferencesTest, SettingsSurviveARestartAndAFailedSaveIsShown)
     // A folder where the file should be: no save can succeed, whoever runs the test.
     ASSERT_TRUE(QFile::remove(t.settingsPath()));
     ASSERT_TRUE(QDir().mkpath(t.settingsPath() + QStringLiteral("/blocked")));
-    PreferencesWindow* window = t.app->preferencePanel();
+    PreferencesWindow* window = preferencesWindow(*t.app);
     EXPECT_FALSE(window->storeFailureShown());
     rebootDays()->setValue(5);
     EXPECT_TRUE(window->storeFailureShown());

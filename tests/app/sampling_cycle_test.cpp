@@ -1,8 +1,10 @@
 // Cadence rules of the schedule, the collection steps of the cycle body, and resets that must
 // survive a running cycle.
+#include "app/front_ends/desktop_parts.h"
 #include "app/sampling_cycle.h"
 #include "collect/load_system_information.h"
 #include "modules/disk/disk_rates.h"
+#include "modules/menu_module.h"
 #include "modules/module_registry.h"
 #include "modules/network/network_rates.h"
 #include "prefs/pref_keys.h"
@@ -245,8 +247,8 @@ TEST(SamplingCycle, NetworkAndDiskRatesHoldWhetherTheirMenusAreOpenOrNot)
         t.executor->finishCycle();
         ticksPassed = slow ? 2 : 1;
     };
-    MenuModule* networkItem = t.app->menuModule(ModuleId::Network);
-    MenuModule* diskItem = t.app->menuModule(ModuleId::Disk);
+    MenuModule* networkItem = menuModule(*t.app, ModuleId::Network);
+    MenuModule* diskItem = menuModule(*t.app, ModuleId::Disk);
     ASSERT_TRUE(networkItem && diskItem);
     networkItem->menuWillOpen();
     diskItem->menuWillOpen();

@@ -3,6 +3,7 @@
 #include "support/fixture_paths.h"
 #include "test_app.h"
 
+#include "app/front_ends/desktop_parts.h"
 #include "app/snapshot_report.h"
 #include "modules/module_registry.h"
 #include "modules/sensor_menu_module.h"
@@ -38,7 +39,7 @@ QJsonObject reportJson(TestApp& t)
 
 SensorMenuModule& sensorModule(TestApp& t, ModuleId id)
 {
-    return *static_cast<SensorMenuModule*>(t.app->menuModule(id));
+    return *static_cast<SensorMenuModule*>(menuModule(*t.app, id));
 }
 
 } // namespace
@@ -84,7 +85,7 @@ TEST(SensorModules, TheBarFollowsTheChosenSensorAndTheMenuListsTheDrives)
         store.setString(QLatin1String(PrefKey::Temp_ShowTempOnMenu), QStringLiteral("Drivetemp Temp1"));
     });
     launchOver(t, bar, "sensors-drives");
-    ASSERT_NE(t.app->menuModule(ModuleId::Temp), nullptr);
+    ASSERT_NE(menuModule(*t.app, ModuleId::Temp), nullptr);
     SensorMenuModule& temp = sensorModule(t, ModuleId::Temp);
     EXPECT_EQ(temp.barText(), QStringLiteral("35°C"));
 

@@ -1,5 +1,6 @@
 // Tests the text view: its lines come from the sampled figures in the bar's order, without any
 // status-item module or widget; and the program run without a display loads no platform plugin.
+#include "app/front_ends/desktop_parts.h"
 #include "app/front_ends/terminal_monitor.h"
 #include "app/front_ends/terminal_status_bar.h"
 #include "prefs/pref_keys.h"
@@ -84,7 +85,7 @@ TEST(TerminalMonitor, ShowsEachSwitchedOnModulesFigureInBarOrderWithoutAnyWidget
             EXPECT_TRUE(lines[i].startsWith(c.lines[i])) << lines[i].toStdString();
         // Nothing of the desktop front ends was made: no menu, no picture window.
         EXPECT_TRUE(QApplication::topLevelWidgets().isEmpty());
-        EXPECT_EQ(t.app->menuModule(ModuleId::Cpu), nullptr);
+        EXPECT_EQ(menuModule(*t.app, ModuleId::Cpu), nullptr);
     }
 }
 

@@ -1,5 +1,6 @@
 // The controller harness shared by the application tests.
 #include "test_app.h"
+#include "app/front_ends/desktop_parts.h"
 
 #include "modules/module_registry.h"
 #include "prefs/pref_keys.h"
@@ -69,7 +70,7 @@ void TestApp::launchOn(StatusBar* bar, bool threaded)
     if (adjustSources)
         adjustSources(sources);
     app = std::make_unique<AppDelegate>(std::make_unique<PlistSettingsStore>(settingsPath()), std::move(sources));
-    app->setStatusBar(bar);
+    attachDesktop(*app, bar);
     if (!threaded) {
         auto manual = std::make_unique<ManualExecutor>();
         executor = manual.get();

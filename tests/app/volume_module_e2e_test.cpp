@@ -1,5 +1,6 @@
 // End to end: a file system mounted on a loop device shows in the Volume item within two
 // cycles, and leaves it after the unmount.
+#include "app/front_ends/desktop_parts.h"
 #include "app/volume_tracker.h"
 #include "modules/module_registry.h"
 #include "modules/volume/volume_menu_module.h"
@@ -42,11 +43,11 @@ TEST(VolumeModuleEndToEnd, LoopMountShowsWithinTwoCyclesAndGoesAfterTheUnmount)
     auto executor = std::make_unique<ManualExecutor>();
     ManualExecutor& cycles = *executor;
     AppDelegate app(std::make_unique<PlistSettingsStore>(t.settingsPath()), makeSourceSet("/"));
-    app.setStatusBar(&bar);
+    attachDesktop(app, &bar);
     app.setCycleExecutor(std::move(executor));
     app.applicationDidFinishLaunching(false);
     cycles.finishCycle();
-    auto* volume = dynamic_cast<Volume_MenuModule*>(app.menuModule(ModuleId::Volume));
+    auto* volume = dynamic_cast<Volume_MenuModule*>(menuModule(app, ModuleId::Volume));
     ASSERT_NE(volume, nullptr);
     const auto shows = [&] { return bar.texts.value(QStringLiteral("Volume")).contains(name + QLatin1Char(' ')); };
     const auto measured = [&] {

@@ -4,8 +4,8 @@
 #include "modules/cpu/cpu_tab_view_controller.h"
 #include "modules/standard_menu_items.h"
 #include "modules/vnc/vnc_tab_view_controller.h"
-#include "preferences/pref_notification.h"
 #include "prefs/pref_keys.h"
+#include "prefs/pref_notification.h"
 #include "support/memory_settings_store.h"
 
 #include <QAction>

@@ -6,7 +6,7 @@
 #include "modules/volume/volume_tab_view_controller.h"
 #include "preferences/element_order_list.h"
 #include "preferences/picture_preview.h"
-#include "preferences/pref_notification.h"
+#include "prefs/pref_notification.h"
 #include "storage_picture_defaults.h"
 #include "support/memory_settings_store.h"
 #include "tab_settings.h"

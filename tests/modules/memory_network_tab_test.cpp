@@ -8,7 +8,7 @@
 #include "modules/network/network_tab_view_controller.h"
 #include "preferences/element_order_list.h"
 #include "preferences/picture_preview.h"
-#include "preferences/pref_notification.h"
+#include "prefs/pref_notification.h"
 #include "support/memory_settings_store.h"
 #include "tab_settings.h"
 #include "toolkit/menu_geometry.h"

@@ -3,8 +3,8 @@
 #include "modules/module_registry.h"
 #include "modules/vnc/vnc_host_table.h"
 #include "modules/vnc/vnc_tab_view_controller.h"
-#include "preferences/pref_notification.h"
 #include "prefs/pref_keys.h"
+#include "prefs/pref_notification.h"
 #include "support/fixture_paths.h"
 #include "support/memory_settings_store.h"
 

@@ -1,8 +1,6 @@
 // The CPU module: its settings, its step of the sampling cycle and its parts.
 #include "collect/load_system_information.h"
-#include "modules/cpu/cpu_menu_module.h"
 #include "modules/cpu/cpu_snapshot.h"
-#include "modules/cpu/cpu_tab_view_controller.h"
 #include "modules/cpu/cpu_usage_text.h"
 #include "modules/module_descriptor.h"
 #include "prefs/pref_keys.h"
@@ -73,8 +71,6 @@ QString cpuBarLine(const SnapshotContext& context, const SettingsStore&)
 const ModuleDescriptor& cpuModule()
 {
     static const ModuleDescriptor descriptor{cpuSchema(),
-                                             &makeMenuModule<CPU_MenuModule>,
-                                             &makePreferenceTab<CpuTabViewController>,
                                              &sampleCpu,
                                              true, // the graph fills from the first cycle on
                                              StorageUse::None,

@@ -1,8 +1,6 @@
 // The Disk module: its settings, its step of the sampling cycle, its snapshot and its parts.
 #include "collect/load_system_information.h"
-#include "modules/disk/disk_menu_module.h"
 #include "modules/disk/disk_menu_rows.h"
-#include "modules/disk/disk_tab_view_controller.h"
 #include "modules/module_descriptor.h"
 #include "prefs/pref_keys.h"
 #include "prefs/pref_measure.h"
@@ -126,8 +124,6 @@ void addDiskSnapshotJson(const SnapshotContext& context, QJsonObject& root)
 const ModuleDescriptor& diskModule()
 {
     static const ModuleDescriptor descriptor{diskSchema(),
-                                             &makeMenuModule<Disk_MenuModule>,
-                                             &makePreferenceTab<DiskTabViewController>,
                                              &sampleDisk,
                                              false,
                                              StorageUse::Disks,

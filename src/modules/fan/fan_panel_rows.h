@@ -2,7 +2,7 @@
 #pragma once
 
 #include "collect/sensor_dat.h"
-#include "modules/sensor_panel.h"
+#include "modules/sensor_panel_row.h"
 
 #include <QList>
 

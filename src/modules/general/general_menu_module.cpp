@@ -5,10 +5,11 @@
 #include "prefs/settings_store.h"
 #include "prefs/theme_files.h"
 #include "toolkit/localization.h"
+#include "toolkit/program_path.h"
 
-#include <QCoreApplication>
 #include <QDesktopServices>
 #include <QDir>
+#include <QFileInfo>
 #include <QIcon>
 #include <QMenu>
 #include <QUrl>
@@ -60,22 +61,6 @@ QString General_MenuModule::itemText() const
     return generalItemText(myDefaults, myDelegate->settingsStore());
 }
 
-QString generalItemText(const ModuleDefaults& general, const SettingsStore& store)
-{
-    QString text = general.stringValue(PrefKey::PrefName);
-    // Written at every launch before any item exists, so it is this run's version.
-    const QString version = store.stringForKey(PrefKey::AppVersion);
-    if (!version.isEmpty())
-        text += u' ' + version;
-    QString where = store.location();
-    if (where.isEmpty())
-        return text;
-    const QString home = QDir::homePath() + u'/';
-    if (where.startsWith(home))
-        where = QStringLiteral("~/") + where.mid(home.size());
-    return Tarvel::localized("%1, settings in %2").arg(text, where);
-}
-
 void General_MenuModule::checkUpdate()
 {
     if (myDelegate)
@@ -96,7 +81,7 @@ void General_MenuModule::openAsDir()
 
 void General_MenuModule::openDirContMyself()
 {
-    QDesktopServices::openUrl(QUrl::fromLocalFile(QCoreApplication::applicationDirPath()));
+    QDesktopServices::openUrl(QUrl::fromLocalFile(QFileInfo(Tarvel::programPath()).absolutePath()));
 }
 
 void General_MenuModule::quitMySelf()

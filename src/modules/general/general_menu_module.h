@@ -1,12 +1,8 @@
 // The application's own status item: its picture and the application-wide commands.
 #pragma once
 
+#include "modules/general/general_item_text.h"
 #include "modules/menu_module.h"
-
-class SettingsStore;
-
-// The item's words: the name with the running version and where the settings are kept.
-QString generalItemText(const ModuleDefaults& general, const SettingsStore& store);
 
 class General_MenuModule final : public MenuModule {
     Q_OBJECT

@@ -2,9 +2,8 @@
 // every module shares (switches, order, fonts).
 #include "alerts/alert_rule_store.h"
 #include "export/listen_address.h"
-#include "modules/general/general_menu_module.h"
+#include "modules/general/general_item_text.h"
 #include "modules/general/metrics_keys.h"
-#include "modules/general/top_tab_view_controller.h"
 #include "modules/module_descriptor.h"
 #include "prefs/module_switch.h"
 #include "prefs/pref_keys.h"
@@ -74,14 +73,7 @@ QString generalBarText(const SnapshotContext& context, const SettingsStore& stor
 
 const ModuleDescriptor& generalModule()
 {
-    static const ModuleDescriptor descriptor{generalSchema(),
-                                             &makeMenuModule<General_MenuModule>,
-                                             &makePreferenceTab<TopTabViewController>,
-                                             nullptr,
-                                             false,
-                                             StorageUse::None,
-                                             nullptr,
-                                             nullptr,
-                                             &generalBarText};
+    static const ModuleDescriptor descriptor{generalSchema(), nullptr, false,          StorageUse::None,
+                                             nullptr,         nullptr, &generalBarText};
     return descriptor;
 }

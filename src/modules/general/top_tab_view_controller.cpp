@@ -7,6 +7,7 @@
 #include "modules/general/top_tab_metrics_section.h"
 #include "modules/general/top_tab_theme_section.h"
 #include "modules/menu_module.h"
+#include "modules/module_desktop_registry.h"
 #include "modules/module_registry.h"
 #include "preferences/element_order_list.h"
 #include "preferences/login_item.h"
@@ -14,9 +15,9 @@
 #include "prefs/pref_keys.h"
 #include "prefs/settings_store.h"
 #include "toolkit/localization.h"
+#include "toolkit/program_path.h"
 
 #include <QCheckBox>
-#include <QCoreApplication>
 #include <QFormLayout>
 #include <QGroupBox>
 #include <QLabel>
@@ -199,9 +200,10 @@ void TopTabViewController::loadModuleEnabled()
         const auto id = moduleForSortCode(code.toLongLong());
         if (id)
             entries.append({code.toLongLong(),
-                            moduleHasStatusItem(*id) ? Tarvel::localized(moduleSchema(*id).prefName)
-                                                     : Tarvel::localized(moduleSchema(*id).prefName) + QStringLiteral("  ") +
-                                                           Tarvel::localized("(not available on this system yet)"),
+                            moduleHasStatusItem(*id)
+                                ? Tarvel::localized(moduleSchema(*id).prefName)
+                                : Tarvel::localized(moduleSchema(*id).prefName) + QStringLiteral("  ") +
+                                      Tarvel::localized("(not available on this system yet)"),
                             PrefFunctions::isModuleSwitchedOn(store(), moduleSchema(*id))});
     }
     modules_->setEntries(entries);
@@ -281,7 +283,7 @@ void TopTabViewController::loginChanged(bool on)
 {
     if (loading())
         return;
-    if (!LoginItem::setEnabled(on, QCoreApplication::applicationFilePath())) {
+    if (!LoginItem::setEnabled(on, Tarvel::programPath())) {
         QMessageBox::warning(this, Tarvel::localized("Start Tarvel at login"),
                              Tarvel::localized("The autostart entry could not be written:") + QLatin1Char('\n') +
                                  LoginItem::entryPath());

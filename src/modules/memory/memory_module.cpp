@@ -1,8 +1,6 @@
 // The Memory module: its settings, its step of the sampling cycle, its snapshot and its parts.
 #include "collect/load_system_information.h"
 #include "modules/memory/memory_breakdown.h"
-#include "modules/memory/memory_menu_module.h"
-#include "modules/memory/memory_tab_view_controller.h"
 #include "modules/module_descriptor.h"
 #include "prefs/pref_keys.h"
 #include "prefs/pref_measure.h"
@@ -122,8 +120,6 @@ void addMemorySnapshotJson(const SnapshotContext& context, QJsonObject& root)
 const ModuleDescriptor& memoryModule()
 {
     static const ModuleDescriptor descriptor{memorySchema(),
-                                             &makeMenuModule<Memory_MenuModule>,
-                                             &makePreferenceTab<MemoryTabViewController>,
                                              &sampleMemory,
                                              false,
                                              StorageUse::None,

@@ -1,9 +1,7 @@
 // The Network module: its settings, its step of the sampling cycle, its snapshot and its parts.
 #include "collect/load_system_information.h"
 #include "modules/module_descriptor.h"
-#include "modules/network/network_menu_module.h"
 #include "modules/network/network_rates.h"
-#include "modules/network/network_tab_view_controller.h"
 #include "prefs/pref_keys.h"
 #include "prefs/pref_measure.h"
 #include "toolkit/counter_arithmetic.h"
@@ -121,8 +119,6 @@ void addNetworkSnapshotJson(const SnapshotContext& context, QJsonObject& root)
 const ModuleDescriptor& networkModule()
 {
     static const ModuleDescriptor descriptor{networkSchema(),
-                                             &makeMenuModule<Network_MenuModule>,
-                                             &makePreferenceTab<NetworkTabViewController>,
                                              &sampleNetwork,
                                              false,
                                              StorageUse::None,

@@ -3,10 +3,8 @@
 #include "modules/image_sensor_bar.h"
 #include "modules/module_descriptor.h"
 #include "modules/sensor_snapshot.h"
-#include "modules/temp/temp_menu_module.h"
 #include "modules/temp/temp_panel_rows.h"
 #include "modules/temp/temp_picture_settings.h"
-#include "modules/temp/temp_tab_view_controller.h"
 #include "prefs/pref_functions.h"
 #include "prefs/pref_keys.h"
 #include "prefs/pref_measure.h"
@@ -100,14 +98,8 @@ void addTempSnapshotJson(const SnapshotContext& context, QJsonObject& root)
 
 const ModuleDescriptor& tempModule()
 {
-    static const ModuleDescriptor descriptor{tempSchema(),
-                                             &makeMenuModule<Temp_MenuModule>,
-                                             &makePreferenceTab<TempTabViewController>,
-                                             &sampleTemp,
-                                             false,
-                                             StorageUse::None,
-                                             &makePlainSnapshot<&tempSnapshotText, &addTempSnapshotJson>,
-                                             nullptr,
-                                             &tempBarLine};
+    static const ModuleDescriptor descriptor{
+        tempSchema(), &sampleTemp, false, StorageUse::None, &makePlainSnapshot<&tempSnapshotText, &addTempSnapshotJson>,
+        nullptr,      &tempBarLine};
     return descriptor;
 }

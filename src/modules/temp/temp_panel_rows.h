@@ -2,13 +2,13 @@
 #pragma once
 
 #include "collect/sensor_dat.h"
-#include "modules/sensor_panel.h"
+#include "modules/sensor_panel_row.h"
 
 #include <QList>
 #include <QString>
 
 struct TempUnit {
-    int mode = 1;  // Temp_Unit_Mode
+    int mode = 1; // Temp_Unit_Mode
     QString text; // "°C"
 };
 

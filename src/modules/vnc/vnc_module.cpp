@@ -1,8 +1,6 @@
 // The VNC module: its settings, its status item and tab, and the hosts its snapshot lists.
 #include "modules/module_descriptor.h"
-#include "modules/vnc/vnc_menu_module.h"
 #include "modules/vnc/vnc_sites.h"
-#include "modules/vnc/vnc_tab_view_controller.h"
 #include "prefs/pref_keys.h"
 #include "toolkit/localization.h"
 
@@ -65,14 +63,8 @@ void addVncSnapshotJson(const SnapshotContext& context, QJsonObject& root)
 
 const ModuleDescriptor& vncModule()
 {
-    static const ModuleDescriptor descriptor{vncSchema(),
-                                             &makeMenuModule<VNC_MenuModule>,
-                                             &makePreferenceTab<VNCTabViewController>,
-                                             nullptr,
-                                             false,
-                                             StorageUse::None,
-                                             &makePlainSnapshot<&vncSnapshotText, &addVncSnapshotJson>,
-                                             nullptr,
-                                             &vncBarLine};
+    static const ModuleDescriptor descriptor{
+        vncSchema(), nullptr,    false, StorageUse::None, &makePlainSnapshot<&vncSnapshotText, &addVncSnapshotJson>,
+        nullptr,     &vncBarLine};
     return descriptor;
 }

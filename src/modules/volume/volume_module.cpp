@@ -1,9 +1,7 @@
 // The Volume module: its settings, its step of the sampling cycle, its snapshot and its parts.
 #include "collect/load_system_information.h"
 #include "modules/module_descriptor.h"
-#include "modules/volume/volume_menu_module.h"
 #include "modules/volume/volume_menu_rows.h"
-#include "modules/volume/volume_tab_view_controller.h"
 #include "prefs/pref_keys.h"
 #include "prefs/pref_measure.h"
 #include "toolkit/label_lists.h"
@@ -124,8 +122,6 @@ void addVolumeSnapshotJson(const SnapshotContext& context, QJsonObject& root)
 const ModuleDescriptor& volumeModule()
 {
     static const ModuleDescriptor descriptor{volumeSchema(),
-                                             &makeMenuModule<Volume_MenuModule>,
-                                             &makePreferenceTab<VolumeTabViewController>,
                                              &sampleVolume,
                                              false,
                                              StorageUse::Volumes,

@@ -1,0 +1,57 @@
+// Tests how tarvel finds the desktop program it hands the tray, the bar window and renders to.
+#include "app/desktop_handover.h"
+
+#include <QDir>
+#include <QFile>
+#include <QProcess>
+#include <QTemporaryDir>
+#include <gtest/gtest.h>
+
+namespace {
+
+std::filesystem::path placeProgram(const QString& path, bool executable = true)
+{
+    QDir().mkpath(QFileInfo(path).path());
+    QFile file(path);
+    EXPECT_TRUE(file.open(QIODevice::WriteOnly));
+    file.write("#!/bin/sh\n");
+    file.close();
+    if (executable)
+        file.setPermissions(file.permissions() | QFileDevice::ExeOwner);
+    return path.toStdString();
+}
+
+} // namespace
+
+TEST(DesktopHandover, FindsTheProgramBesideItselfFirstThenWhereAnInstallationPutsIt)
+{
+    QTemporaryDir dir;
+    const std::filesystem::path self = dir.filePath("usr/bin/tarvel").toStdString();
+    EXPECT_TRUE(desktopProgramPath(self).empty());
+
+    // Not executable: as good as missing.
+    placeProgram(dir.filePath("usr/libexec/tarvel/tarvel-desktop"), false);
+    EXPECT_TRUE(desktopProgramPath(self).empty());
+
+    const auto installed = placeProgram(dir.filePath("usr/libexec/tarvel/tarvel-desktop"));
+    EXPECT_EQ(desktopProgramPath(self), installed);
+
+    // A build folder holds both programs side by side; that pair wins over an installed one.
+    const auto beside = placeProgram(dir.filePath("usr/bin/tarvel-desktop"));
+    EXPECT_EQ(desktopProgramPath(self), beside);
+    EXPECT_TRUE(desktopProgramPath({}).empty());
+}
+
+TEST(DesktopHandover, WithoutTheDesktopProgramARenderFailsSayingWhatIsMissing)
+{
+    QTemporaryDir dir;
+    const QString alone = dir.filePath("bin/tarvel");
+    QDir().mkpath(dir.filePath("bin"));
+    ASSERT_TRUE(QFile::copy(QStringLiteral(TARVEL_EXECUTABLE), alone));
+    QProcess process;
+    process.start(alone, {"--settings", dir.filePath("settings.plist"), "render", "--out", dir.filePath("out")});
+    ASSERT_TRUE(process.waitForFinished(60000));
+    EXPECT_EQ(process.exitCode(), 1);
+    EXPECT_TRUE(process.readAllStandardError().contains("the desktop program tarvel-desktop was not found"));
+    EXPECT_FALSE(QFileInfo::exists(dir.filePath("out")));
+}
