@@ -30,7 +30,8 @@ void execDesktop(char** argv)
     const std::filesystem::path self = selfPath();
     const std::filesystem::path desktop = desktopProgramPath(self);
     if (desktop.empty()) {
-        std::fprintf(stderr, "tarvel: the desktop program %s was not found beside %s\n", kDesktopProgram, self.c_str());
+        std::fprintf(stderr, "tarvel: the desktop program %s was found neither beside %s nor in %s\n", kDesktopProgram,
+                     self.c_str(), (self.parent_path() / TARVEL_DESKTOP_DIR_FROM_BINDIR).lexically_normal().c_str());
         return;
     }
     // The login item and the restart name the program the user starts, not the one run here.

@@ -52,6 +52,9 @@ TEST(DesktopHandover, WithoutTheDesktopProgramARenderFailsSayingWhatIsMissing)
     process.start(alone, {"--settings", dir.filePath("settings.plist"), "render", "--out", dir.filePath("out")});
     ASSERT_TRUE(process.waitForFinished(60000));
     EXPECT_EQ(process.exitCode(), 1);
-    EXPECT_TRUE(process.readAllStandardError().contains("the desktop program tarvel-desktop was not found"));
+    const QString said = QString::fromUtf8(process.readAllStandardError());
+    EXPECT_TRUE(said.contains("the desktop program tarvel-desktop was found neither beside " + alone + " nor in " +
+                              dir.filePath("libexec/tarvel")))
+        << said.toStdString();
     EXPECT_FALSE(QFileInfo::exists(dir.filePath("out")));
 }
