@@ -16,6 +16,12 @@ namespace {
 
 constexpr const char* kDesktopProgram = "tarvel-desktop";
 
+// Where an installation puts the desktop program, seen from tarvel's own folder.
+std::filesystem::path installedFolder(const std::filesystem::path& self)
+{
+    return (self.parent_path() / TARVEL_DESKTOP_DIR_FROM_BINDIR).lexically_normal();
+}
+
 std::filesystem::path selfPath()
 {
     std::error_code error;
@@ -31,7 +37,7 @@ void execDesktop(char** argv)
     const std::filesystem::path desktop = desktopProgramPath(self);
     if (desktop.empty()) {
         std::fprintf(stderr, "tarvel: the desktop program %s was found neither beside %s nor in %s\n", kDesktopProgram,
-                     self.c_str(), (self.parent_path() / TARVEL_DESKTOP_DIR_FROM_BINDIR).lexically_normal().c_str());
+                     self.c_str(), installedFolder(self).c_str());
         return;
     }
     // The login item and the restart name the program the user starts, not the one run here.
@@ -46,9 +52,8 @@ std::filesystem::path desktopProgramPath(const std::filesystem::path& self)
 {
     if (self.empty())
         return {};
-    const std::filesystem::path dir = self.parent_path();
     for (const std::filesystem::path& candidate :
-         {dir / kDesktopProgram, (dir / TARVEL_DESKTOP_DIR_FROM_BINDIR / kDesktopProgram).lexically_normal()}) {
+         {self.parent_path() / kDesktopProgram, installedFolder(self) / kDesktopProgram}) {
         if (::access(candidate.c_str(), X_OK) == 0)
             return candidate;
     }
