@@ -5,11 +5,9 @@
 #include "modules/history_figures.h"
 #include "modules/menu_history_graph.h"
 #include "modules/module_registry.h"
-#include "toolkit/alert_mark.h"
 
 #include <QActionEvent>
 #include <QCoreApplication>
-#include <QGuiApplication>
 #include <QLabel>
 #include <QMenu>
 #include <QScreen>
@@ -17,12 +15,12 @@
 
 #include <algorithm>
 
-MenuModule::MenuModule(MenuModuleDelegate* delegate, ModuleId id, QObject* parent)
+MenuModule::MenuModule(MenuModuleDelegate* delegate, std::unique_ptr<ModulePicture> picture, QObject* parent)
     : QObject(parent)
+    , PictureItem(std::move(picture))
     , myDelegate(delegate)
-    , id_(id)
 {
-    setObjectName(QString::fromLatin1(moduleSchema(id).moduleKey));
+    setObjectName(QString::fromLatin1(moduleSchema(moduleId()).moduleKey));
 }
 
 MenuModule::~MenuModule()
@@ -66,6 +64,7 @@ void MenuModule::menuWillOpen()
     }
     menuOpened_ = true;
     refreshBar();
+    picture().keepForOpenMenu();
     prepareMenuOpening();
     redrawStatusItem();
     // The panels were just filled: the menu is measured from them, not from the last opening.
@@ -115,39 +114,7 @@ void MenuModule::fitMenuToContent()
 void MenuModule::openTab()
 {
     if (myDelegate)
-        myDelegate->openPreferenceTab(modulePreferenceTab(id_));
-}
-
-qreal MenuModule::pictureScale() const
-{
-    if (pictureScale_ > 0)
-        return pictureScale_;
-    return qGuiApp != nullptr ? qGuiApp->devicePixelRatio() : 1.0;
-}
-
-void MenuModule::setAlerting(bool alerting)
-{
-    if (alerting == alerting_)
-        return;
-    alerting_ = alerting;
-    // Before the first picture there is nothing to mark: that one is drawn with the mark.
-    if (!shownImage_.isNull())
-        refreshBar();
-}
-
-void MenuModule::showImage(const QImage& image)
-{
-    shownImage_ = alerting_ ? TvlClasses::tvlMarkedForAlert(image) : image;
-    if (statusItem)
-        statusItem->setImage(shownImage_, menuOpened());
-}
-
-ModuleDefaults MenuModule::withMenuLayout() const
-{
-    ModuleDefaults defaults = myDefaults;
-    for (auto it = mnDefaults.values().cbegin(); it != mnDefaults.values().cend(); ++it)
-        defaults.set(it.key(), it.value());
-    return defaults;
+        myDelegate->openPreferenceTab(modulePreferenceTab(moduleId()));
 }
 
 void MenuModule::menuAutoClose()
@@ -164,7 +131,7 @@ void MenuModule::menuAutoClose()
 void MenuModule::addHistoryChoice()
 {
     HistoryReader* reader = myDelegate != nullptr ? myDelegate->historyReader() : nullptr;
-    const QString key = historyModuleKey(id_);
+    const QString key = historyModuleKey(moduleId());
     if (reader == nullptr || key.isEmpty() || !statusMenu)
         return;
     if (historyGraph_ == nullptr) {
@@ -186,9 +153,28 @@ bool MenuModule::showHistoryGraph(QLabel* graph)
     // A past range is read only for a menu someone is looking at.
     if (!menuOpened_)
         return historyGraph_->range() != HistoryRange::Live;
-    const QImage image = historyGraph_->image(graph->size(), pictureScale(), graph->palette().color(QPalette::WindowText));
+    const QImage image =
+        historyGraph_->image(graph->size(), pictureScale(), graph->palette().color(QPalette::WindowText));
     if (image.isNull())
         return false;
     graph->setPixmap(QPixmap::fromImage(image));
     return true;
+}
+
+QLabel* MenuModule::addMenuGraph(const char* widthKey, double height)
+{
+    auto* action = new QWidgetAction(statusMenu);
+    auto* graph = new QLabel();
+    graph->setFixedSize(static_cast<int>(picture().menuLayout().intValue(QLatin1String(widthKey))),
+                        static_cast<int>(height));
+    graph->setContentsMargins(0, 0, 0, 0);
+    action->setDefaultWidget(graph);
+    statusMenu->addAction(action);
+    return graph;
+}
+
+void MenuModule::showOpenMenuGraph(QLabel* graph)
+{
+    if (graph != nullptr && menuOpened_ && !showHistoryGraph(graph))
+        graph->setPixmap(QPixmap::fromImage(picture().drawOpenMenuGraph(pictureScale())));
 }

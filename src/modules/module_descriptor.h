@@ -12,6 +12,8 @@
 #include <memory>
 
 class LoadSystemInformation;
+class MenuModuleDelegate;
+class ModulePicture;
 class SettingsStore;
 
 // What one module's step of the sampling cycle gets; it runs on the cycle's thread.
@@ -75,6 +77,8 @@ struct ModuleDescriptor {
     // The figure its status item shows, as words, for the text view; empty before the first
     // sample. Null for modules whose item shows no figure.
     QString (*barText)(const SnapshotContext& context, const SettingsStore& store) = nullptr;
+    // What draws its status item's picture; null for a module without a status item.
+    std::unique_ptr<ModulePicture> (*createPicture)(MenuModuleDelegate* delegate) = nullptr;
 };
 
 // Factories for the descriptors' entries.

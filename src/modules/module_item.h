@@ -12,8 +12,8 @@
 #include <memory>
 
 // The application keeps its items through this alone, so that the programs without a display
-// (the text view, the snapshot) link no menu or widget code; the desktop's MenuModule is the
-// one kind there is.
+// (the text view, the snapshot, the render) link no menu or widget code: PictureItem draws the
+// picture alone, and the desktop's MenuModule adds the menu to it.
 class ModuleItem {
 public:
     virtual ~ModuleItem() = default;
@@ -46,6 +46,8 @@ public:
     virtual void setAlerting(bool alerting) = 0;
     // Closes an open menu whose rows no longer match what they describe (disks, volumes).
     virtual void menuAutoClose() = 0;
+    // The graph the open menu shows, drawn now; a null image for a module whose menu has none.
+    virtual QImage menuGraphImage() = 0;
 };
 
 // How the application gets an item for a module; none for a module without one.

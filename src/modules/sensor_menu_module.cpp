@@ -1,19 +1,15 @@
-// The Temp and Fan status items: width, picture, the panel and the standard items.
+// The Temp and Fan drop-downs: the standard items and the panel.
 #include "modules/sensor_menu_module.h"
 
-#include "modules/module_descriptor.h"
 #include "modules/standard_menu_items.h"
-#include "toolkit/menu_geometry.h"
 
 #include <QMenu>
 #include <QWidgetAction>
 
-SensorMenuModule::SensorMenuModule(MenuModuleDelegate* delegate, ModuleId id, std::unique_ptr<ImageSensorBar> bar,
-                                   SensorPictureSettings (*build)(const ModuleDefaults&), MenuSwitches switches,
-                                   QObject* parent)
-    : MenuModule(delegate, id, parent)
-    , bar_(std::move(bar))
-    , build_(build)
+SensorMenuModule::SensorMenuModule(MenuModuleDelegate* delegate, std::unique_ptr<SensorModulePicture> picture,
+                                   MenuSwitches switches, QObject* parent)
+    : MenuModule(delegate, std::move(picture), parent)
+    , sensor_(static_cast<SensorModulePicture&>(this->picture()))
     , switches_(switches)
 {}
 
@@ -23,43 +19,22 @@ const SensorDatDict& SensorMenuModule::sensorTable() const
     return myDelegate != nullptr ? myDelegate->sensorDatDict() : none;
 }
 
-void SensorMenuModule::setHistory(const InfoDict& info)
-{
-    const History<SensorSample> history = moduleHistory<SensorSample>(info, moduleId());
-    if (history.exists())
-        setResumeArray(history);
-}
-
 void SensorMenuModule::resetMenuNowCount()
 {
     if (panel_ != nullptr)
         panel_->resetMenuNowCount();
 }
 
-QString SensorMenuModule::barText() const
+SensorSample SensorMenuModule::newestSample() const
 {
-    const std::optional<qint64> value =
-        resumeArray.empty() ? std::nullopt : sensorValue(resumeArray.back(), shownSensor());
-    return bar_->valueText(value, false);
-}
-
-void SensorMenuModule::refreshBar()
-{
-    if (!settings_.loaded || settings_.order.isEmpty() || !statusItem)
-        return;
-    const double height = TvlClasses::retRootMenuHeight();
-    bar_->redrawWithSize(QSizeF(sensorBarWidth(settings_), height),
-                         TvlClasses::retStatusMenuInsets(sensorShownElementCount(settings_)), menuOpened(), true,
-                         settings_, resumeArray, shownSensor());
-    showImage(bar_->image(pictureScale()));
-    statusItem->setText(barText());
+    return sensor_.history().empty() ? SensorSample{} : sensor_.history().back();
 }
 
 void SensorMenuModule::drawBaseStatusBar()
 {
     statusMenu->clear();
-    GeneralFunctions::addStandardMenuItems(statusMenu, myDefaults, myDefaults.boolValue(switches_.amon),
-                                           myDefaults.boolValue(switches_.cnsl), myDefaults.boolValue(switches_.tmnl),
+    GeneralFunctions::addStandardMenuItems(statusMenu, defaults(), defaults().boolValue(switches_.amon),
+                                           defaults().boolValue(switches_.cnsl), defaults().boolValue(switches_.tmnl),
                                            [this] { openTab(); });
     statusMenu->addSeparator();
     auto* panelAction = new QWidgetAction(statusMenu);

@@ -6,20 +6,26 @@
 #include "toolkit/localization.h"
 
 #include <QAction>
-#include <QLabel>
 #include <QMenu>
 #include <QWidgetAction>
 
-StorageMenuModule::StorageMenuModule(MenuModuleDelegate* delegate, ModuleId id, QObject* parent)
-    : MenuModule(delegate, id, parent)
+namespace {
+
+// Both pictures draw the menu's graph at the same height.
+constexpr double kMenuGraphHeight = 20;
+
+} // namespace
+
+StorageMenuModule::StorageMenuModule(MenuModuleDelegate* delegate, std::unique_ptr<ModulePicture> picture,
+                                     QObject* parent)
+    : MenuModule(delegate, std::move(picture), parent)
 {}
 
-void StorageMenuModule::addBaseItems(const char* amonKey, const char* cnslKey, const char* tmnlKey,
-                                     const ThemePicture& utilityIcon)
+void StorageMenuModule::addBaseItems(const MenuKeys& keys, const ThemePicture& utilityIcon)
 {
     statusMenu->clear();
-    GeneralFunctions::addStandardMenuItems(statusMenu, myDefaults, myDefaults.boolValue(amonKey),
-                                           myDefaults.boolValue(cnslKey), myDefaults.boolValue(tmnlKey),
+    GeneralFunctions::addStandardMenuItems(statusMenu, defaults(), defaults().boolValue(keys.amon),
+                                           defaults().boolValue(keys.cnsl), defaults().boolValue(keys.tmnl),
                                            [this] { openTab(); });
     if (DiskUtility::find()) {
         QAction* utility = statusMenu->addAction(storageMenuIcon(utilityIcon), Tarvel::localized("Open Disk Utility"));
@@ -27,12 +33,7 @@ void StorageMenuModule::addBaseItems(const char* amonKey, const char* cnslKey, c
     }
     statusMenu->addSeparator();
     addHistoryChoice();
-    auto* graphAction = new QWidgetAction(statusMenu);
-    menuGraph_ = new QLabel();
-    menuGraph_->setFixedSize(static_cast<int>(kMenuGraphWidth), static_cast<int>(kMenuGraphHeight));
-    menuGraph_->setContentsMargins(0, 0, 0, 0);
-    graphAction->setDefaultWidget(menuGraph_);
-    statusMenu->addAction(graphAction);
+    menuGraph_ = addMenuGraph(keys.graphWidth, kMenuGraphHeight);
 }
 
 void StorageMenuModule::addPanel(QWidget* panel)
@@ -42,11 +43,16 @@ void StorageMenuModule::addPanel(QWidget* panel)
     statusMenu->addAction(panelAction);
 }
 
+void StorageMenuModule::setStorageDescriptions(const DiskBaseDict& disks, std::shared_ptr<const VolumeBaseDict> volumes)
+{
+    MenuModule::setStorageDescriptions(disks, std::move(volumes));
+    menuItemRefresh = true;
+}
+
 void StorageMenuModule::redrawStatusItem()
 {
     if (!menuOpened())
         return;
-    if (menuGraph_ != nullptr && !showHistoryGraph(menuGraph_))
-        menuGraph_->setPixmap(QPixmap::fromImage(openMenuGraph()));
+    showOpenMenuGraph(menuGraph_);
     replacePanelData();
 }

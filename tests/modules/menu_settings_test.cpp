@@ -1,4 +1,4 @@
-// When a module reads its settings again, and which settings the open menu's graph is drawn with.
+// When a picture reads its settings again, and which settings the open menu's graph is drawn with.
 #include "cpu_picture_defaults.h"
 #include "modules/cpu/cpu_menu_module.h"
 #include "modules/status_bar.h"
@@ -12,16 +12,15 @@
 
 namespace {
 
-class CountingModule final : public MenuModule {
+class CountingPicture final : public ModulePicture {
 public:
-    CountingModule()
-        : MenuModule(nullptr, ModuleId::General)
+    CountingPicture()
+        : ModulePicture(nullptr, ModuleId::General)
     {}
-    void refreshBar() override {}
+    std::optional<BarPicture> drawBar(bool, qreal) override { return std::nullopt; }
     int reads = 0;
 
 protected:
-    void drawBaseStatusBar() override {}
     void settingsChanged() override { ++reads; }
 };
 
@@ -57,9 +56,9 @@ bool containsColour(const QImage& image, const QColor& colour)
 
 } // namespace
 
-TEST(MenuModuleSettings, AreReadAgainOnlyForANewDictionary)
+TEST(ModulePictureSettings, AreReadAgainOnlyForANewDictionary)
 {
-    CountingModule module;
+    CountingPicture module;
     module.setMyDefaults(ModuleDefaults()); // even an empty first dictionary is read
     EXPECT_EQ(module.reads, 1);
     const ModuleDefaults first = cpuPictureDefaults({.graph = true});
@@ -87,7 +86,7 @@ TEST(MenuModuleSettings, OpenMenusGraphKeepsTheSettingsOfItsOpening)
     // The bar shows the text alone; the menu's graph is its own layout in the user's colours.
     ModuleDefaults settings = cpuPictureDefaults({.text = true});
     module.setMyDefaults(settings);
-    module.setResumeArray(cpuHistory(CpuSample{{1, 0, 0, 1}}, 3));
+    module.cpuPicture().setResumeArray(cpuHistory(CpuSample{{1, 0, 0, 1}}, 3));
     SilentBar bar;
     module.initDrawStatusBar(bar);
     module.menuWillOpen();

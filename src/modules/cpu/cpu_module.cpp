@@ -1,5 +1,6 @@
 // The CPU module: its settings, its step of the sampling cycle and its parts.
 #include "collect/load_system_information.h"
+#include "modules/cpu/cpu_module_picture.h"
 #include "modules/cpu/cpu_snapshot.h"
 #include "modules/cpu/cpu_usage_text.h"
 #include "modules/module_descriptor.h"
@@ -76,6 +77,7 @@ const ModuleDescriptor& cpuModule()
                                              StorageUse::None,
                                              &makeSnapshot<CpuSnapshot>,
                                              nullptr,
-                                             &cpuBarLine};
+                                             &cpuBarLine,
+                                             &makePicture<CpuModulePicture>};
     return descriptor;
 }

@@ -1,6 +1,7 @@
 // The Disk module: its settings, its step of the sampling cycle, its snapshot and its parts.
 #include "collect/load_system_information.h"
 #include "modules/disk/disk_menu_rows.h"
+#include "modules/disk/disk_module_picture.h"
 #include "modules/module_descriptor.h"
 #include "prefs/pref_keys.h"
 #include "prefs/pref_measure.h"
@@ -129,6 +130,7 @@ const ModuleDescriptor& diskModule()
                                              StorageUse::Disks,
                                              &makePlainSnapshot<&diskSnapshotText, &addDiskSnapshotJson>,
                                              nullptr,
-                                             &diskBarLine};
+                                             &diskBarLine,
+                                             &makePicture<DiskModulePicture>};
     return descriptor;
 }

@@ -2,15 +2,14 @@
 #include "modules/fan/fan_menu_module.h"
 
 #include "modules/fan/fan_menu_controller.h"
-#include "modules/fan/fan_picture_settings.h"
-#include "modules/fan/image_fan_bar.h"
+#include "modules/fan/fan_module_picture.h"
 #include "prefs/pref_keys.h"
 #include "toolkit/localization.h"
 
 using namespace PrefKey;
 
 Fan_MenuModule::Fan_MenuModule(MenuModuleDelegate* delegate, QObject* parent)
-    : SensorMenuModule(delegate, ModuleId::Fan, std::make_unique<ImageFanBar>(), &fanPictureSettings,
+    : SensorMenuModule(delegate, std::make_unique<FanModulePicture>(delegate),
                        {Fan_EnaMenu_Amon, Fan_EnaMenu_Cnsl, Fan_EnaMenu_Tmnl}, parent)
 {}
 
@@ -21,5 +20,5 @@ SensorPanel* Fan_MenuModule::createPanel()
 
 void Fan_MenuModule::refreshPanel(SensorPanel& panel)
 {
-    static_cast<Fan_MenuController&>(panel).replaceData(resumeArray.empty() ? SensorSample{} : resumeArray.back());
+    static_cast<Fan_MenuController&>(panel).replaceData(newestSample());
 }

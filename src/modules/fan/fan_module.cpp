@@ -1,5 +1,6 @@
 // The Fan module: its settings, its step of the sampling cycle, its snapshot and its parts.
 #include "collect/load_system_information.h"
+#include "modules/fan/fan_module_picture.h"
 #include "modules/fan/fan_panel_rows.h"
 #include "modules/fan/image_fan_bar.h"
 #include "modules/image_sensor_bar.h"
@@ -88,8 +89,13 @@ void addFanSnapshotJson(const SnapshotContext& context, QJsonObject& root)
 
 const ModuleDescriptor& fanModule()
 {
-    static const ModuleDescriptor descriptor{
-        fanSchema(), &sampleFan, false, StorageUse::None, &makePlainSnapshot<&fanSnapshotText, &addFanSnapshotJson>,
-        nullptr,     &fanBarLine};
+    static const ModuleDescriptor descriptor{fanSchema(),
+                                             &sampleFan,
+                                             false,
+                                             StorageUse::None,
+                                             &makePlainSnapshot<&fanSnapshotText, &addFanSnapshotJson>,
+                                             nullptr,
+                                             &fanBarLine,
+                                             &makePicture<FanModulePicture>};
     return descriptor;
 }

@@ -1,8 +1,6 @@
-// The General item shows the application's picture; its menu holds the application's commands.
+// The General item's menu holds the application's commands.
 #include "modules/general/general_menu_module.h"
 
-#include "prefs/pref_keys.h"
-#include "prefs/settings_store.h"
 #include "prefs/theme_files.h"
 #include "toolkit/localization.h"
 #include "toolkit/program_path.h"
@@ -15,7 +13,7 @@
 #include <QUrl>
 
 General_MenuModule::General_MenuModule(MenuModuleDelegate* delegate, QObject* parent)
-    : MenuModule(delegate, ModuleId::General, parent)
+    : MenuModule(delegate, std::make_unique<GeneralModulePicture>(delegate), parent)
 {}
 
 void General_MenuModule::drawBaseStatusBar()
@@ -24,7 +22,7 @@ void General_MenuModule::drawBaseStatusBar()
     const auto add = [this](const char* text, void (General_MenuModule::*action)(), const char* icon = nullptr) {
         QAction* item = statusMenu->addAction(Tarvel::localized(text));
         if (icon != nullptr) {
-            const ThemePicture picture = myDefaults.picture(QLatin1String(icon));
+            const ThemePicture picture = defaults().picture(QLatin1String(icon));
             if (!picture.image.isNull())
                 item->setIcon(QIcon(QPixmap::fromImage(picture.image)));
         }
@@ -40,25 +38,6 @@ void General_MenuModule::drawBaseStatusBar()
     add(Tarvel::textKey("Quit"), &General_MenuModule::quitMySelf);
     // The controller never redraws this item on its own, so its picture is set with its menu.
     refreshBar();
-}
-
-void General_MenuModule::refreshBar()
-{
-    if (!statusItem)
-        return;
-    const ThemePicture picture = myDefaults.picture(QString::fromLatin1("N01"));
-    QImage image = picture.image;
-    if (!image.isNull() && picture.size.width() > 0)
-        image.setDevicePixelRatio(image.width() / picture.size.width());
-    showImage(image);
-    statusItem->setText(itemText());
-}
-
-QString General_MenuModule::itemText() const
-{
-    if (myDelegate == nullptr)
-        return myDefaults.stringValue(PrefKey::PrefName);
-    return generalItemText(myDefaults, myDelegate->settingsStore());
 }
 
 void General_MenuModule::checkUpdate()

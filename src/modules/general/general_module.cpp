@@ -3,6 +3,7 @@
 #include "alerts/alert_rule_store.h"
 #include "export/listen_address.h"
 #include "modules/general/general_item_text.h"
+#include "modules/general/general_module_picture.h"
 #include "modules/general/metrics_keys.h"
 #include "modules/module_descriptor.h"
 #include "prefs/module_switch.h"
@@ -73,7 +74,8 @@ QString generalBarText(const SnapshotContext& context, const SettingsStore& stor
 
 const ModuleDescriptor& generalModule()
 {
-    static const ModuleDescriptor descriptor{generalSchema(), nullptr, false,          StorageUse::None,
-                                             nullptr,         nullptr, &generalBarText};
+    static const ModuleDescriptor descriptor{
+        generalSchema(), nullptr, false,           StorageUse::None,
+        nullptr,         nullptr, &generalBarText, &makePicture<GeneralModulePicture>};
     return descriptor;
 }

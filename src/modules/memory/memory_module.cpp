@@ -1,6 +1,7 @@
 // The Memory module: its settings, its step of the sampling cycle, its snapshot and its parts.
 #include "collect/load_system_information.h"
 #include "modules/memory/memory_breakdown.h"
+#include "modules/memory/memory_module_picture.h"
 #include "modules/module_descriptor.h"
 #include "prefs/pref_keys.h"
 #include "prefs/pref_measure.h"
@@ -125,6 +126,7 @@ const ModuleDescriptor& memoryModule()
                                              StorageUse::None,
                                              &makePlainSnapshot<&memorySnapshotText, &addMemorySnapshotJson>,
                                              nullptr,
-                                             &memoryBarLine};
+                                             &memoryBarLine,
+                                             &makePicture<MemoryModulePicture>};
     return descriptor;
 }

@@ -1,9 +1,7 @@
-// The Network status item: width rule, picture, in-menu graph, traffic panel, interface rows.
+// The Network drop-down: standard items, the in-menu graph, the traffic panel, interface rows.
 #include "modules/network/network_menu_module.h"
 
 #include "collect/load_system_information.h"
-#include "modules/module_descriptor.h"
-#include "modules/network/network_bar_width.h"
 #include "modules/network/network_panel_rows.h"
 #include "modules/network/network_theme_keys.h"
 #include "modules/standard_menu_items.h"
@@ -11,7 +9,6 @@
 #include "net/tvl_ret_global_ip_address.h"
 #include "prefs/pref_keys.h"
 #include "toolkit/localization.h"
-#include "toolkit/menu_geometry.h"
 
 #include <QClipboard>
 #include <QGuiApplication>
@@ -52,16 +49,10 @@ std::optional<SettingsProgram> networkSettingsProgram()
 } // namespace
 
 Network_MenuModule::Network_MenuModule(MenuModuleDelegate* delegate, QObject* parent)
-    : MenuModule(delegate, ModuleId::Network, parent)
+    : MenuModule(delegate, std::make_unique<NetworkModulePicture>(delegate), parent)
+    , network_(static_cast<NetworkModulePicture&>(picture()))
 {
     pool_.setMaxThreadCount(1);
-    // The menu always shows one graph, 400 points wide, in the user's style and colours.
-    mnDefaults.set(Network_Display_UdLabel, false);
-    mnDefaults.set(Network_Display_UdCircle, false);
-    mnDefaults.set(Network_Display_Graph, true);
-    mnDefaults.set(Network_Display_Text, false);
-    mnDefaults.set(Network_GraphWidth, qint64{400});
-    mnDefaults.set(Network_ShowMyLabel, false);
 }
 
 Network_MenuModule::~Network_MenuModule()
@@ -69,38 +60,21 @@ Network_MenuModule::~Network_MenuModule()
     pool_.waitForDone();
 }
 
-void Network_MenuModule::setHistory(const InfoDict& info)
-{
-    const History<NetworkSample> history = moduleHistory<NetworkSample>(info, ModuleId::Network);
-    if (history.exists())
-        setResumeArray(history);
-}
-
-void Network_MenuModule::setResumeArray(const History<NetworkSample>& history)
-{
-    resumeArray = history;
-}
-
 void Network_MenuModule::setNetworkBaseDict(std::shared_ptr<const NetworkBase> base)
 {
     networkBaseDict = std::move(base);
-}
-
-NetworkRates Network_MenuModule::retNowUpDwBytes() const
-{
-    return currentNetworkRates(resumeArray);
 }
 
 void Network_MenuModule::drawBaseStatusBar()
 {
     removeNicMenus();
     statusMenu->clear();
-    GeneralFunctions::addStandardMenuItems(statusMenu, myDefaults, myDefaults.boolValue(Network_EnaMenu_Amon),
-                                           myDefaults.boolValue(Network_EnaMenu_Cnsl),
-                                           myDefaults.boolValue(Network_EnaMenu_Tmnl), [this] { openTab(); });
+    GeneralFunctions::addStandardMenuItems(statusMenu, defaults(), defaults().boolValue(Network_EnaMenu_Amon),
+                                           defaults().boolValue(Network_EnaMenu_Cnsl),
+                                           defaults().boolValue(Network_EnaMenu_Tmnl), [this] { openTab(); });
     if (const auto settings = networkSettingsProgram()) {
         QAction* item = statusMenu->addAction(Tarvel::localized("Open Network Settings"));
-        const ThemePicture icon = myDefaults.picture(NetworkThemeKey::O22);
+        const ThemePicture icon = defaults().picture(NetworkThemeKey::O22);
         if (!icon.image.isNull())
             item->setIcon(QIcon(QPixmap::fromImage(icon.image)));
         connect(item, &QAction::triggered, this,
@@ -112,12 +86,7 @@ void Network_MenuModule::drawBaseStatusBar()
     }
     statusMenu->addSeparator();
     addHistoryChoice();
-    auto* graphAction = new QWidgetAction(statusMenu);
-    menuGraph_ = new QLabel();
-    menuGraph_->setFixedSize(static_cast<int>(mnDefaults.intValue(Network_GraphWidth)),
-                             static_cast<int>(kMenuGraphHeight));
-    graphAction->setDefaultWidget(menuGraph_);
-    statusMenu->addAction(graphAction);
+    menuGraph_ = addMenuGraph(Network_GraphWidth, NetworkModulePicture::kMenuGraphHeight);
     auto* panelAction = new QWidgetAction(statusMenu);
     networkCurrent = new Network_Current();
     networkCurrent->setGlobalAddress(globalAddress_);
@@ -128,44 +97,20 @@ void Network_MenuModule::drawBaseStatusBar()
     redrawStatusItem();
 }
 
-void Network_MenuModule::refreshBar()
-{
-    if (!settings_.barDrawable() || !statusItem)
-        return;
-    const double height = TvlClasses::retRootMenuHeight();
-    const NetworkRates now = retNowUpDwBytes();
-    imageNetworkBar.redrawWithSize(QSizeF(networkBarWidth(settings_.bar), height),
-                                   TvlClasses::retStatusMenuInsets(networkShownElementCount(settings_.bar)),
-                                   menuOpened(), true, settings_.bar, resumeArray, now);
-    showImage(imageNetworkBar.image(pictureScale()));
-    if (!resumeArray.empty())
-        statusItem->setText(networkBarText(now, settings_.bar.bits));
-}
-
 void Network_MenuModule::prepareMenuOpening()
 {
-    settings_.keepForOpenMenu();
     if (myDelegate != nullptr)
         networkBaseDict = myDelegate->collector().networkBaseDict();
     lookUpNames();
-}
-
-QImage Network_MenuModule::menuGraph(const NetworkPictureSettings& settings)
-{
-    imageNetworkMenu.redrawWithSize(QSizeF(settings_.menu.graphWidth, kMenuGraphHeight),
-                                    TvlClasses::retMenuPullDownInsets(), false, true, settings, resumeArray,
-                                    retNowUpDwBytes());
-    return imageNetworkMenu.image(pictureScale());
 }
 
 void Network_MenuModule::redrawStatusItem()
 {
     if (!menuOpened())
         return;
-    if (menuGraph_ != nullptr && !showHistoryGraph(menuGraph_))
-        menuGraph_->setPixmap(QPixmap::fromImage(menuGraph(settings_.openMenu)));
+    showOpenMenuGraph(menuGraph_);
     if (networkCurrent != nullptr)
-        networkCurrent->replaceData(settings_.bar, resumeArray);
+        networkCurrent->replaceData(network_.settings().bar, network_.history());
     if (myDelegate != nullptr)
         networkBaseDict = myDelegate->collector().networkBaseDict();
     // The base is replaced, never changed, when an interface changes: a new one means new rows.
@@ -190,7 +135,7 @@ void Network_MenuModule::addtionalNicMenus()
     listedBase_ = networkBaseDict;
     if (statusMenu == nullptr || !networkBaseDict)
         return;
-    for (const NicRow& row : networkInterfaceRows(*networkBaseDict, settings_.bar.showAllNic, hostNames_)) {
+    for (const NicRow& row : networkInterfaceRows(*networkBaseDict, network_.settings().bar.showAllNic, hostNames_)) {
         auto* menu = new QMenu(row.title, statusMenu);
         for (const auto& [title, value] : row.lines) {
             // Choosing a line copies its value, an address most often.
@@ -250,7 +195,8 @@ void Network_MenuModule::checkGlobalIp()
             if (networkCurrent != nullptr)
                 networkCurrent->setGlobalAddress(shown);
             if (Notifier* notifier = myDelegate->notifier()) {
-                const QString text = result.ip.isEmpty() ? Tarvel::localized("No address service answered.") : result.ip;
+                const QString text =
+                    result.ip.isEmpty() ? Tarvel::localized("No address service answered.") : result.ip;
                 notifier->fireNotification({Tarvel::localized("Global IP Address"), text, {}, {}});
             }
         });

@@ -1,6 +1,7 @@
 // The Network module: its settings, its step of the sampling cycle, its snapshot and its parts.
 #include "collect/load_system_information.h"
 #include "modules/module_descriptor.h"
+#include "modules/network/network_module_picture.h"
 #include "modules/network/network_rates.h"
 #include "prefs/pref_keys.h"
 #include "prefs/pref_measure.h"
@@ -124,6 +125,7 @@ const ModuleDescriptor& networkModule()
                                              StorageUse::None,
                                              &makePlainSnapshot<&networkSnapshotText, &addNetworkSnapshotJson>,
                                              &forgetInterfaces,
-                                             &networkBarLine};
+                                             &networkBarLine,
+                                             &makePicture<NetworkModulePicture>};
     return descriptor;
 }

@@ -1,23 +1,17 @@
 // The Temp status item over the shared sensor item.
 #include "modules/temp/temp_menu_module.h"
 
-#include "modules/temp/image_temp_bar.h"
 #include "modules/temp/temp_menu_controller.h"
-#include "modules/temp/temp_picture_settings.h"
+#include "modules/temp/temp_module_picture.h"
 #include "prefs/pref_keys.h"
 #include "toolkit/localization.h"
 
 using namespace PrefKey;
 
 Temp_MenuModule::Temp_MenuModule(MenuModuleDelegate* delegate, QObject* parent)
-    : SensorMenuModule(delegate, ModuleId::Temp, std::make_unique<ImageTempBar>(), &tempPictureSettings,
+    : SensorMenuModule(delegate, std::make_unique<TempModulePicture>(delegate),
                        {Temp_EnaMenu_Amon, Temp_EnaMenu_Cnsl, Temp_EnaMenu_Tmnl}, parent)
 {}
-
-QString Temp_MenuModule::shownSensor() const
-{
-    return tempShownSensor(myDefaults);
-}
 
 SensorPanel* Temp_MenuModule::createPanel()
 {
@@ -28,10 +22,10 @@ SensorPanel* Temp_MenuModule::createPanel()
 
 void Temp_MenuModule::refreshPanel(SensorPanel& panel)
 {
-    const SensorSample newest = resumeArray.empty() ? SensorSample{} : resumeArray.back();
+    const SensorSample newest = newestSample();
     const TempUnit unit{settings().unitMode, settings().unitText};
     if (auto* controller = qobject_cast<Temp_MenuController*>(&panel))
-        controller->replaceData(newest, unit, myDefaults.boolValue(QLatin1String(Temp_AccessForSmartDisks)));
+        controller->replaceData(newest, unit, defaults().boolValue(QLatin1String(Temp_AccessForSmartDisks)));
     else
         panel.setRows(tempPanelRows(sensorTable().tempData, newest, unit, {}));
 }

@@ -3,6 +3,7 @@
 #include "modules/image_sensor_bar.h"
 #include "modules/module_descriptor.h"
 #include "modules/sensor_snapshot.h"
+#include "modules/temp/temp_module_picture.h"
 #include "modules/temp/temp_panel_rows.h"
 #include "modules/temp/temp_picture_settings.h"
 #include "prefs/pref_functions.h"
@@ -98,8 +99,13 @@ void addTempSnapshotJson(const SnapshotContext& context, QJsonObject& root)
 
 const ModuleDescriptor& tempModule()
 {
-    static const ModuleDescriptor descriptor{
-        tempSchema(), &sampleTemp, false, StorageUse::None, &makePlainSnapshot<&tempSnapshotText, &addTempSnapshotJson>,
-        nullptr,      &tempBarLine};
+    static const ModuleDescriptor descriptor{tempSchema(),
+                                             &sampleTemp,
+                                             false,
+                                             StorageUse::None,
+                                             &makePlainSnapshot<&tempSnapshotText, &addTempSnapshotJson>,
+                                             nullptr,
+                                             &tempBarLine,
+                                             &makePicture<TempModulePicture>};
     return descriptor;
 }

@@ -21,17 +21,9 @@ namespace {
 // Below the host rows' tags, so rebuilding the rows leaves it in place.
 constexpr int kOpenViewerTag = 110;
 
-QImage pictureImage(const ThemePicture& picture)
-{
-    QImage image = picture.image;
-    if (!image.isNull() && picture.size.width() > 0)
-        image.setDevicePixelRatio(image.width() / picture.size.width());
-    return image;
-}
-
 QIcon themeIcon(const ModuleDefaults& defaults, const char* key, bool templated)
 {
-    const QImage image = pictureImage(defaults.picture(QLatin1String(key)));
+    const QImage image = themePictureImage(defaults.picture(QLatin1String(key)));
     if (image.isNull())
         return {};
     QIcon icon(QPixmap::fromImage(image));
@@ -42,7 +34,7 @@ QIcon themeIcon(const ModuleDefaults& defaults, const char* key, bool templated)
 } // namespace
 
 VNC_MenuModule::VNC_MenuModule(MenuModuleDelegate* delegate, QObject* parent)
-    : MenuModule(delegate, ModuleId::Vnc, parent)
+    : MenuModule(delegate, std::make_unique<VncModulePicture>(delegate), parent)
     , opener_([this](const QStringList& urls) {
         // One notice is enough when no viewer is registered for the first address.
         for (const QString& url : urls) {
@@ -62,8 +54,8 @@ void VNC_MenuModule::drawBaseStatusBar()
 {
     statusMenu->clear();
     GeneralFunctions::addStandardMenuItems(
-        statusMenu, myDefaults, myDefaults.boolValue(QLatin1String(Vnc_EnaMenu_Amon)),
-        myDefaults.boolValue(QLatin1String(Vnc_EnaMenu_Cnsl)), myDefaults.boolValue(QLatin1String(Vnc_EnaMenu_Tmnl)),
+        statusMenu, defaults(), defaults().boolValue(QLatin1String(Vnc_EnaMenu_Amon)),
+        defaults().boolValue(QLatin1String(Vnc_EnaMenu_Cnsl)), defaults().boolValue(QLatin1String(Vnc_EnaMenu_Tmnl)),
         [this] { openTab(); });
     QAction* viewer = statusMenu->addAction(Tarvel::localized("Open VNC Viewer"));
     viewer->setData(kOpenViewerTag);
@@ -72,17 +64,6 @@ void VNC_MenuModule::drawBaseStatusBar()
     // screen sharing is switched on.
     addtionalVncMenus();
     refreshBar();
-}
-
-void VNC_MenuModule::refreshBar()
-{
-    if (!statusItem)
-        return;
-    ThemePicture picture = myDefaults.picture(QStringLiteral("N03"));
-    if (picture.image.isNull())
-        picture = myDefaults.picture(QStringLiteral("L08"));
-    showImage(pictureImage(picture));
-    statusItem->setText(myDefaults.stringValue(QLatin1String(PrefName)));
 }
 
 void VNC_MenuModule::addtionalVncMenus()
@@ -94,11 +75,11 @@ void VNC_MenuModule::addtionalVncMenus()
             delete action;
     }
     const bool everyHost = modifiers_().testFlag(Qt::AltModifier);
-    const QList<VncHost> hosts = TvlClasses::retVncSite(myDefaults, !everyHost);
+    const QList<VncHost> hosts = TvlClasses::retVncSite(defaults(), !everyHost);
     if (hosts.isEmpty())
         return;
     statusMenu->addSeparator();
-    const QIcon hostIcon = themeIcon(myDefaults, "O41", true);
+    const QIcon hostIcon = themeIcon(defaults(), "O41", true);
     int number = 0;
     for (const VncHost& host : hosts) {
         const QString prefix = !everyHost ? QString() : QLatin1String(host.menu ? "+ " : "- ");
@@ -109,9 +90,9 @@ void VNC_MenuModule::addtionalVncMenus()
         connect(item, &QAction::triggered, this, [this, item] { selectVncMenuItem(item); });
         statusMenu->addAction(item);
     }
-    if (myDefaults.boolValue(QLatin1String(Vnc_AddMenuOpenAll)) && hosts.size() >= 2) {
+    if (defaults().boolValue(QLatin1String(Vnc_AddMenuOpenAll)) && hosts.size() >= 2) {
         auto* all = new VNC_MenuItem(Tarvel::localized("Open All of Servers at Once"), OpenAllVncTag, statusMenu);
-        all->setIcon(themeIcon(myDefaults, "O42", false));
+        all->setIcon(themeIcon(defaults(), "O42", false));
         connect(all, &QAction::triggered, this, [this, all] { selectVncMenuItem(all); });
         statusMenu->addAction(all);
     }

@@ -1,7 +1,8 @@
-// The VNC status item: a screen picture whose menu lists the user's screen-sharing hosts.
+// The VNC status item's drop-down: the user's screen-sharing hosts.
 #pragma once
 
 #include "modules/menu_module.h"
+#include "modules/vnc/vnc_module_picture.h"
 
 #include <QStringList>
 
@@ -19,8 +20,6 @@ public:
     using ModifierQuery = std::function<Qt::KeyboardModifiers()>;
 
     explicit VNC_MenuModule(MenuModuleDelegate* delegate, QObject* parent = nullptr);
-
-    void refreshBar() override;
 
     // Replaces the host rows: every separator and every item tagged 300 or more goes, then the
     // hosts follow a separator (with Alt held, all of them, marked "+ " when shown in the menu

@@ -1,5 +1,6 @@
 // The VNC module: its settings, its status item and tab, and the hosts its snapshot lists.
 #include "modules/module_descriptor.h"
+#include "modules/vnc/vnc_module_picture.h"
 #include "modules/vnc/vnc_sites.h"
 #include "prefs/pref_keys.h"
 #include "toolkit/localization.h"
@@ -63,8 +64,13 @@ void addVncSnapshotJson(const SnapshotContext& context, QJsonObject& root)
 
 const ModuleDescriptor& vncModule()
 {
-    static const ModuleDescriptor descriptor{
-        vncSchema(), nullptr,    false, StorageUse::None, &makePlainSnapshot<&vncSnapshotText, &addVncSnapshotJson>,
-        nullptr,     &vncBarLine};
+    static const ModuleDescriptor descriptor{vncSchema(),
+                                             nullptr,
+                                             false,
+                                             StorageUse::None,
+                                             &makePlainSnapshot<&vncSnapshotText, &addVncSnapshotJson>,
+                                             nullptr,
+                                             &vncBarLine,
+                                             &makePicture<VncModulePicture>};
     return descriptor;
 }

@@ -2,6 +2,7 @@
 #include "collect/load_system_information.h"
 #include "modules/module_descriptor.h"
 #include "modules/volume/volume_menu_rows.h"
+#include "modules/volume/volume_module_picture.h"
 #include "prefs/pref_keys.h"
 #include "prefs/pref_measure.h"
 #include "toolkit/label_lists.h"
@@ -127,6 +128,7 @@ const ModuleDescriptor& volumeModule()
                                              StorageUse::Volumes,
                                              &makePlainSnapshot<&volumeSnapshotText, &addVolumeSnapshotJson>,
                                              nullptr,
-                                             &volumeBarLine};
+                                             &volumeBarLine,
+                                             &makePicture<VolumeModulePicture>};
     return descriptor;
 }
