@@ -18,7 +18,10 @@ int runMonitor(const AppOptions& options, int argc, char** argv);
 // The monitor as lines of text, for a terminal without a display.
 int runTextView(const AppOptions& options, int argc, char** argv);
 int runSnapshot(const AppOptions& options, int argc, char** argv);
+// The status items' pictures, drawn with Qt Gui alone.
 int runRender(const AppOptions& options, int argc, char** argv);
+// The pictures with the open drop-downs and the preferences window, drawn by their widgets.
+int runPanelRender(const AppOptions& options, int argc, char** argv);
 int runGlobalAddress(const AppOptions& options, int argc, char** argv);
 int runServe(const AppOptions& options, int argc, char** argv);
 int runHistory(const AppOptions& options, int argc, char** argv);

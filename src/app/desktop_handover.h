@@ -8,7 +8,8 @@
 // The monitor on a desktop; when the desktop program cannot be started (it is missing), the
 // reason goes to standard error and the monitor runs as lines of text.
 int handOverMonitor(const AppOptions& options, int argc, char** argv);
-// A render; exits 1 with the reason when the desktop program cannot be started.
+// A render of the drop-downs and the preferences window; exits 1 with the reason when the
+// desktop program cannot be started.
 int handOverRender(const AppOptions& options, int argc, char** argv);
 
 // The desktop program beside this one (a build folder) or where an installation puts it, seen

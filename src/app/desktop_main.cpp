@@ -4,5 +4,5 @@
 
 int main(int argc, char** argv)
 {
-    return programMain(argc, argv, {&runMonitor, &runRender});
+    return programMain(argc, argv, {&runMonitor, &runPanelRender});
 }

@@ -1,4 +1,4 @@
-// Entry point of tarvel: reports and the text view run here, the desktop's commands elsewhere.
+// Entry point of tarvel: reports, renders and the text view run here, the desktop's commands elsewhere.
 #include "app/desktop_handover.h"
 #include "app/program_entry.h"
 

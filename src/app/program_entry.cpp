@@ -33,7 +33,9 @@ int programMain(int argc, char** argv, const DesktopCommands& desktop)
     case AppOptions::Command::Snapshot:
         return runSnapshot(*parsed.options, argc, argv);
     case AppOptions::Command::Render:
-        return desktop.runRender(*parsed.options, argc, argv);
+        if (parsed.options->panels)
+            return desktop.runPanelRender(*parsed.options, argc, argv);
+        return runRender(*parsed.options, argc, argv);
     case AppOptions::Command::GlobalAddress:
         return runGlobalAddress(*parsed.options, argc, argv);
     case AppOptions::Command::Serve:

@@ -7,7 +7,8 @@
 // front door hands them over to it.
 struct DesktopCommands {
     int (*runMonitor)(const AppOptions& options, int argc, char** argv);
-    int (*runRender)(const AppOptions& options, int argc, char** argv);
+    // The render that also draws the drop-downs and the preferences window.
+    int (*runPanelRender)(const AppOptions& options, int argc, char** argv);
 };
 
 int programMain(int argc, char** argv, const DesktopCommands& desktop);

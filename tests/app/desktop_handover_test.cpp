@@ -1,4 +1,5 @@
-// Tests how tarvel finds the desktop program it hands the tray, the bar window and renders to.
+// Tests how tarvel finds the desktop program it hands the tray, the bar window and the drop-downs
+// renders to.
 #include "app/desktop_handover.h"
 
 #include <QDir>
@@ -42,19 +43,25 @@ TEST(DesktopHandover, FindsTheProgramBesideItselfFirstThenWhereAnInstallationPut
     EXPECT_TRUE(desktopProgramPath({}).empty());
 }
 
-TEST(DesktopHandover, WithoutTheDesktopProgramARenderFailsSayingWhatIsMissing)
+TEST(DesktopHandover, WithoutTheDesktopProgramPicturesRenderButDropDownsFailSayingWhatIsMissing)
 {
     QTemporaryDir dir;
     const QString alone = dir.filePath("bin/tarvel");
     QDir().mkpath(dir.filePath("bin"));
     ASSERT_TRUE(QFile::copy(QStringLiteral(TARVEL_EXECUTABLE), alone));
+    const QStringList settings{"--settings", dir.filePath("settings.plist")};
     QProcess process;
-    process.start(alone, {"--settings", dir.filePath("settings.plist"), "render", "--out", dir.filePath("out")});
+    process.start(alone, settings + QStringList{"render", "--cycles", "1", "--out", dir.filePath("pictures")});
+    ASSERT_TRUE(process.waitForFinished(60000));
+    EXPECT_EQ(process.exitCode(), 0) << process.readAllStandardError().toStdString();
+    EXPECT_TRUE(QFileInfo::exists(dir.filePath("pictures/CPU.png")));
+
+    process.start(alone, settings + QStringList{"render", "--panels", "--out", dir.filePath("panels")});
     ASSERT_TRUE(process.waitForFinished(60000));
     EXPECT_EQ(process.exitCode(), 1);
     const QString said = QString::fromUtf8(process.readAllStandardError());
     EXPECT_TRUE(said.contains("the desktop program tarvel-desktop was found neither beside " + alone + " nor in " +
                               dir.filePath("libexec/tarvel")))
         << said.toStdString();
-    EXPECT_FALSE(QFileInfo::exists(dir.filePath("out")));
+    EXPECT_FALSE(QFileInfo::exists(dir.filePath("panels")));
 }
