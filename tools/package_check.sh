@@ -37,6 +37,9 @@ check "tarvel --version" grep -qx "tarvel $(dpkg-query -W -f='${Version}' tarvel
 check "tarvel snapshot --json" grep -q '"CPU":\[\[' <(run snapshot --json)
 run render --out "$work/pictures" >"$work/render.txt" 2>&1
 check "tarvel render writes pictures" grep -q 'PNG image data' <(file "$work/pictures/CPU.png")
+# The drop-downs are widgets: this render goes through the installed desktop program.
+run render --panels --out "$work/panels" >"$work/panels.txt" 2>&1
+check "tarvel render --panels writes drop-downs" grep -q 'PNG image data' <(file "$work/panels/CPU-dropdown.png")
 
 installed=$(dpkg -L tarvel)
 apt purge tarvel >/dev/null
