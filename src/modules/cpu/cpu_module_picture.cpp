@@ -4,7 +4,6 @@
 #include "collect/load_system_information.h"
 #include "modules/cpu/cpu_bar_width.h"
 #include "modules/cpu/cpu_usage_text.h"
-#include "modules/module_descriptor.h"
 #include "prefs/pref_keys.h"
 #include "toolkit/menu_geometry.h"
 
@@ -15,7 +14,7 @@
 using namespace PrefKey;
 
 CpuModulePicture::CpuModulePicture(MenuModuleDelegate* delegate)
-    : ModulePicture(delegate, ModuleId::Cpu)
+    : SampledModulePicture(delegate, ModuleId::Cpu)
 {
     // The menu always shows one averaged graph, 400 points wide, in the user's colours.
     mnDefaults.set(Cpu_Display_Graph, true);
@@ -26,13 +25,6 @@ CpuModulePicture::CpuModulePicture(MenuModuleDelegate* delegate)
     mnDefaults.set(Cpu_AverageMultiProcessors, true);
     mnDefaults.set(Cpu_Text_DisplayAverage, false);
     mnDefaults.set(Cpu_ShowMyLabel, false);
-}
-
-void CpuModulePicture::setHistory(const InfoDict& info)
-{
-    const History<CpuSample> history = moduleHistory<CpuSample>(info, ModuleId::Cpu);
-    if (history.exists())
-        setResumeArray(history);
 }
 
 std::optional<BarPicture> CpuModulePicture::drawBar(bool highlighted, qreal scale)

@@ -3,7 +3,6 @@
 
 #include "modules/disk/disk_bar_width.h"
 #include "modules/disk/disk_menu_rows.h"
-#include "modules/module_descriptor.h"
 #include "prefs/pref_keys.h"
 
 using namespace PrefKey;
@@ -20,13 +19,6 @@ DiskModulePicture::DiskModulePicture(MenuModuleDelegate* delegate)
     mnDefaults.set(Disk_ShowMyLabel, false);
     mnDefaults.set(DiskInnerIconAbleToBeBol, false);
     mnDefaults.set(DiskInnerGraphLabelWidth, qint64{0});
-}
-
-void DiskModulePicture::setHistory(const InfoDict& info)
-{
-    const History<DiskSample> history = moduleHistory<DiskSample>(info, ModuleId::Disk);
-    if (history.exists())
-        setResumeArray(history);
 }
 
 std::optional<BarPicture> DiskModulePicture::drawBar(bool highlighted, qreal scale)

@@ -13,7 +13,6 @@ class DiskModulePicture final : public DiskModulePictureBase {
 public:
     explicit DiskModulePicture(MenuModuleDelegate* delegate);
 
-    void setHistory(const InfoDict& info) override;
     // The disks to show.
     void setDiskBaseDict(const DiskBaseDict& diskBaseDict) { diskBaseDict_ = diskBaseDict; }
     const DiskBaseDict& diskBaseDict() const { return diskBaseDict_; }

@@ -3,14 +3,13 @@
 
 #include "collect/load_system_information.h"
 #include "modules/memory/memory_breakdown.h"
-#include "modules/module_descriptor.h"
 #include "prefs/pref_keys.h"
 #include "toolkit/menu_geometry.h"
 
 using namespace PrefKey;
 
 MemoryModulePicture::MemoryModulePicture(MenuModuleDelegate* delegate)
-    : ModulePicture(delegate, ModuleId::Memory)
+    : SampledModulePicture(delegate, ModuleId::Memory)
 {
     // The menu always shows one graph, 400 points wide, in the user's view and colours.
     mnDefaults.set(Memory_Display_Graph, true);
@@ -20,13 +19,6 @@ MemoryModulePicture::MemoryModulePicture(MenuModuleDelegate* delegate)
     mnDefaults.set(Memory_Display_DetailText, false);
     mnDefaults.set(Memory_GraphWidth, qint64{400});
     mnDefaults.set(Memory_ShowMyLabel, false);
-}
-
-void MemoryModulePicture::setHistory(const InfoDict& info)
-{
-    const History<MemorySample> history = moduleHistory<MemorySample>(info, ModuleId::Memory);
-    if (history.exists())
-        setResumeArray(history);
 }
 
 void MemoryModulePicture::setResumeArray(const History<MemorySample>& history)
@@ -64,7 +56,7 @@ const MemoryTextWidths& MemoryModulePicture::textWidths()
 
 void MemoryModulePicture::settingsChanged()
 {
-    settings_.read(memoryPictureSettings, myDefaults, withMenuLayout());
+    SampledModulePicture::settingsChanged();
     widthsStale_ = true;
 }
 

@@ -1,7 +1,6 @@
 // The Network picture: width rule, the bar's picture and words, the in-menu graph.
 #include "modules/network/network_module_picture.h"
 
-#include "modules/module_descriptor.h"
 #include "modules/network/network_bar_width.h"
 #include "prefs/pref_keys.h"
 #include "toolkit/menu_geometry.h"
@@ -9,7 +8,7 @@
 using namespace PrefKey;
 
 NetworkModulePicture::NetworkModulePicture(MenuModuleDelegate* delegate)
-    : ModulePicture(delegate, ModuleId::Network)
+    : SampledModulePicture(delegate, ModuleId::Network)
 {
     // The menu always shows one graph, 400 points wide, in the user's style and colours.
     mnDefaults.set(Network_Display_UdLabel, false);
@@ -18,13 +17,6 @@ NetworkModulePicture::NetworkModulePicture(MenuModuleDelegate* delegate)
     mnDefaults.set(Network_Display_Text, false);
     mnDefaults.set(Network_GraphWidth, qint64{400});
     mnDefaults.set(Network_ShowMyLabel, false);
-}
-
-void NetworkModulePicture::setHistory(const InfoDict& info)
-{
-    const History<NetworkSample> history = moduleHistory<NetworkSample>(info, ModuleId::Network);
-    if (history.exists())
-        setResumeArray(history);
 }
 
 NetworkRates NetworkModulePicture::retNowUpDwBytes() const

@@ -1,7 +1,6 @@
 // The Volume picture: width rule, the bar's sets and words.
 #include "modules/volume/volume_module_picture.h"
 
-#include "modules/module_descriptor.h"
 #include "modules/volume/volume_bar_width.h"
 #include "modules/volume/volume_menu_rows.h"
 #include "prefs/pref_keys.h"
@@ -22,13 +21,6 @@ VolumeModulePicture::VolumeModulePicture(MenuModuleDelegate* delegate)
     mnDefaults.set(Vlms_ShowEachDisk, false);
     mnDefaults.set(Vlms_ShowMyLabel, false);
     mnDefaults.set(VlmsInnerIconAbleToBeBol, false);
-}
-
-void VolumeModulePicture::setHistory(const InfoDict& info)
-{
-    const History<VolumeSample> history = moduleHistory<VolumeSample>(info, ModuleId::Volume);
-    if (history.exists())
-        setResumeArray(history);
 }
 
 void VolumeModulePicture::setVolumeBaseDict(std::shared_ptr<const VolumeBaseDict> volumeBaseDict)

@@ -15,7 +15,6 @@ class VolumeModulePicture final : public VolumeModulePictureBase {
 public:
     explicit VolumeModulePicture(MenuModuleDelegate* delegate);
 
-    void setHistory(const InfoDict& info) override;
     // The volumes to show.
     void setVolumeBaseDict(std::shared_ptr<const VolumeBaseDict> volumeBaseDict);
     const VolumeBaseDict& volumeBaseDict() const { return *volumeBaseDict_; }
