@@ -1,5 +1,4 @@
-// tarvel render --panels: the pictures, then the open drop-downs and the preferences window,
-// which are widgets and need the desktop program.
+// tarvel render --panels: the pictures, then the drop-downs and preferences window as widgets.
 #include "app/app_delegate.h"
 #include "app/commands.h"
 #include "app/front_ends/desktop_parts.h"

@@ -1,5 +1,4 @@
-// tarvel render: a few cycles offscreen, then every status item's picture and its menu's graph
-// written as PNG, drawn with Qt Gui alone.
+// tarvel render: a few cycles offscreen, then the pictures written as PNG, with Qt Gui alone.
 #include "app/render_command.h"
 
 #include "app/app_delegate.h"

@@ -1,5 +1,4 @@
-// The render's cycles and the pictures it writes, shared by the plain render and the one that
-// also draws the drop-downs and the preferences window.
+// The render's cycles and pictures, shared by the plain render and the one with the drop-downs.
 #pragma once
 
 #include "app/app_options.h"

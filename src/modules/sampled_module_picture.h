@@ -1,5 +1,4 @@
-// What the pictures drawn from a module's samples share: the history, the typed settings in their
-// three states, and the in-menu graph drawn with the bar's or the open menu's settings.
+// What the pictures drawn from samples share: history, typed settings and the in-menu graph.
 #pragma once
 
 #include "collect/history.h"

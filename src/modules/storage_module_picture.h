@@ -1,5 +1,4 @@
-// What the Disk and Volume pictures share: a set of elements per disk or volume in the bar, and
-// every disk or volume together in the in-menu graph.
+// What the Disk and Volume pictures share: a set per disk or volume, all together in the menu.
 #pragma once
 
 #include "modules/sampled_module_picture.h"

@@ -1,5 +1,4 @@
-// Tests how tarvel finds the desktop program it hands the tray, the bar window and the drop-downs
-// renders to.
+// Tests how tarvel finds the desktop program that shows the tray, the bar window and drop-downs.
 #include "app/desktop_handover.h"
 
 #include <QDir>

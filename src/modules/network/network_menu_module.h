@@ -1,5 +1,4 @@
-// The Network status item's drop-down: the rate graph, the traffic panel and a submenu per
-// interface.
+// The Network drop-down: the rate graph, the traffic panel and a submenu per interface.
 #pragma once
 
 #include "collect/network_base.h"

@@ -1,5 +1,4 @@
-// The VNC item's picture is fixed, so it is set when the menu is built and on each redraw
-// request; the host rows are rebuilt whenever the menu opens.
+// The VNC drop-down: the viewer item, and the host rows rebuilt whenever the menu opens.
 #include "modules/vnc/vnc_menu_module.h"
 
 #include "modules/standard_menu_items.h"
