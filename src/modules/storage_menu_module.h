@@ -11,6 +11,8 @@ class StorageMenuModule : public MenuModule {
     Q_OBJECT
 public:
     bool checkcMenuOpened() const { return menuOpened(); }
+    // The descriptions changed: the menu's rows follow at its next opening.
+    void setStorageDescriptions(const DiskBaseDict& disks, std::shared_ptr<const VolumeBaseDict> volumes) override;
 
 protected:
     StorageMenuModule(MenuModuleDelegate* delegate, std::unique_ptr<ModulePicture> picture, QObject* parent);
@@ -26,8 +28,6 @@ protected:
     void addBaseItems(const MenuKeys& keys, const ThemePicture& utilityIcon);
     // The panel below the graph; the menu owns it.
     void addPanel(QWidget* panel);
-    // The descriptions changed: the menu's rows follow at its next opening.
-    void setStorageDescriptions(const DiskBaseDict& disks, std::shared_ptr<const VolumeBaseDict> volumes) override;
 
     // The graph and the figures are drawn only for a menu that is shown.
     void redrawStatusItem() final;
