@@ -90,8 +90,8 @@ TEST_F(PreferencesTest, WindowHasOneTabPerModuleTitledWithTheApplication)
         window->activateWindow();
         ASSERT_TRUE(QTest::qWaitForWindowActive(window));
         QTest::keySequence(window, keys);
-        QTest::qWait(10);
-        EXPECT_EQ(preferencesWindow(*t.app), nullptr) << keys.toString().toStdString();
+        EXPECT_TRUE(QTest::qWaitFor([&] { return preferencesWindow(*t.app) == nullptr; }, 5000))
+            << keys.toString().toStdString();
     }
 }
 
