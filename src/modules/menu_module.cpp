@@ -161,12 +161,12 @@ bool MenuModule::showHistoryGraph(QLabel* graph)
     return true;
 }
 
-QLabel* MenuModule::addMenuGraph(const char* widthKey, double height)
+QLabel* MenuModule::addMenuGraph(const char* widthKey)
 {
     auto* action = new QWidgetAction(statusMenu);
     auto* graph = new QLabel();
     graph->setFixedSize(static_cast<int>(picture().menuLayout().intValue(QLatin1String(widthKey))),
-                        static_cast<int>(height));
+                        static_cast<int>(ModulePicture::kMenuGraphHeight));
     graph->setContentsMargins(0, 0, 0, 0);
     action->setDefaultWidget(graph);
     statusMenu->addAction(action);

@@ -52,8 +52,8 @@ protected:
     void addHistoryChoice();
     // Draws the chosen past range into the graph; false while the live samples are chosen.
     bool showHistoryGraph(QLabel* graph);
-    // Adds the in-menu graph's row, its size taken from the menu layout's width; the menu owns it.
-    QLabel* addMenuGraph(const char* widthKey, double height);
+    // Adds the in-menu graph's row, as wide as the menu layout's widthKey says; the menu owns it.
+    QLabel* addMenuGraph(const char* widthKey);
     // Shows the open menu's graph: the chosen past range, or the live samples.
     void showOpenMenuGraph(QLabel* graph);
 

@@ -32,6 +32,9 @@ public:
     ModulePicture(const ModulePicture&) = delete;
     ModulePicture& operator=(const ModulePicture&) = delete;
 
+    // Every in-menu graph is this tall, in points; its width is the menu layout's.
+    static constexpr double kMenuGraphHeight = 20;
+
     ModuleId moduleId() const { return id_; }
     // Handed the same dictionary every cycle: the typed settings are rebuilt only when it changed.
     void setMyDefaults(const ModuleDefaults& defaults);

@@ -9,8 +9,6 @@
 template <class Settings, Settings (*readSettings)(const ModuleDefaults&), class Sample>
 class SampledModulePicture : public ModulePicture {
 public:
-    static constexpr double kMenuGraphHeight = 20;
-
     void setHistory(const InfoDict& info) override
     {
         const History<Sample> history = moduleHistory<Sample>(info, moduleId());

@@ -9,13 +9,6 @@
 #include <QMenu>
 #include <QWidgetAction>
 
-namespace {
-
-// Both pictures draw the menu's graph at the same height.
-constexpr double kMenuGraphHeight = 20;
-
-} // namespace
-
 StorageMenuModule::StorageMenuModule(MenuModuleDelegate* delegate, std::unique_ptr<ModulePicture> picture,
                                      QObject* parent)
     : MenuModule(delegate, std::move(picture), parent)
@@ -33,7 +26,7 @@ void StorageMenuModule::addBaseItems(const MenuKeys& keys, const ThemePicture& u
     }
     statusMenu->addSeparator();
     addHistoryChoice();
-    menuGraph_ = addMenuGraph(keys.graphWidth, kMenuGraphHeight);
+    menuGraph_ = addMenuGraph(keys.graphWidth);
 }
 
 void StorageMenuModule::addPanel(QWidget* panel)

@@ -34,7 +34,7 @@ protected:
     QImage menuGraph(const Settings& settings, qreal scale) override
     {
         // The combined set, whatever the picture in the bar shows.
-        menuBar_.redrawWithSize(QSizeF(static_cast<double>(kMenuGraphWidth), Base::kMenuGraphHeight),
+        menuBar_.redrawWithSize(QSizeF(static_cast<double>(kMenuGraphWidth), ModulePicture::kMenuGraphHeight),
                                 TvlClasses::retMenuPullDownInsets(), false, true, settings, this->resumeArray,
                                 {StorageBarSet{QString(), StoragePicture::Internal}});
         return menuBar_.image(scale);

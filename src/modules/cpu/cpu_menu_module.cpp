@@ -22,7 +22,7 @@ void CPU_MenuModule::drawBaseStatusBar()
                                            defaults().boolValue(CPU_EnaMenu_Tmnl), [this] { openTab(); });
     statusMenu->addSeparator();
     addHistoryChoice();
-    menuGraph_ = addMenuGraph(Cpu_GraphWidth, CpuModulePicture::kMenuGraphHeight);
+    menuGraph_ = addMenuGraph(Cpu_GraphWidth);
     if (myDelegate != nullptr) {
         auto* panelAction = new QWidgetAction(statusMenu);
         cpuMenuController = new CPU_MenuController(myDelegate->collector(), myDelegate->settingsStore());

@@ -22,7 +22,7 @@ void Memory_MenuModule::drawBaseStatusBar()
                                            defaults().boolValue(Memory_EnaMenu_Tmnl), [this] { openTab(); });
     statusMenu->addSeparator();
     addHistoryChoice();
-    menuGraph_ = addMenuGraph(Memory_GraphWidth, MemoryModulePicture::kMenuGraphHeight);
+    menuGraph_ = addMenuGraph(Memory_GraphWidth);
     if (myDelegate != nullptr) {
         auto* panelAction = new QWidgetAction(statusMenu);
         memoryMenuController = new Memory_MenuController(myDelegate->collector());

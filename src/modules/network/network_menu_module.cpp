@@ -86,7 +86,7 @@ void Network_MenuModule::drawBaseStatusBar()
     }
     statusMenu->addSeparator();
     addHistoryChoice();
-    menuGraph_ = addMenuGraph(Network_GraphWidth, NetworkModulePicture::kMenuGraphHeight);
+    menuGraph_ = addMenuGraph(Network_GraphWidth);
     auto* panelAction = new QWidgetAction(statusMenu);
     networkCurrent = new Network_Current();
     networkCurrent->setGlobalAddress(globalAddress_);
